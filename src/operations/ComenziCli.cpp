@@ -1,0 +1,128 @@
+#include "operations/ComenziCli.h"
+
+#include "shell/Eroare.h"
+#include "shell/Foldere.h"
+#include "shell/Mesaje.h"
+#include "store/ActualizareBD.h"
+#include "store/BazaDate.h"
+#include "store/DateLivrate.h"
+#include "store/Demo.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QElapsedTimer>
+
+namespace {
+
+const QString Utilizare = QStringLiteral(
+    "utilizare: ferolanta-cli {init|upgrade|demo --cereri N [--seed S]} [--dir DIR] [--db postgresql://...]");
+
+struct EroareArgumente {
+    QString text;
+};
+
+// Messages of the core go to the same streams as the tool's own output.
+class MesajeFlux : public Mesaje {
+public:
+    MesajeFlux(QTextStream& out, QTextStream& err) : out_(out), err_(err) {}
+    void Informatie(const QString& text, const QString&) override { out_ << text << Qt::endl; }
+    void Avertisment(const QString& text, const QString&) override { err_ << text << Qt::endl; }
+    void Critic(const QString& text, const QString&) override { err_ << text << Qt::endl; }
+    bool Intrebare(const QString& text, const QString&, bool implicitDa) override {
+        err_ << text << Qt::endl;
+        return implicitDa;
+    }
+    QString Intrare(const QString& text, const QString&, const QString& implicit) override {
+        err_ << text << Qt::endl;
+        return implicit;
+    }
+
+private:
+    QTextStream& out_;
+    QTextStream& err_;
+};
+
+LocatieBD locatie(const QCommandLineParser& p) {
+    LocatieBD loc;
+    loc.caleBD = QDir(p.isSet(QStringLiteral("dir")) ? p.value(QStringLiteral("dir")) : QDir::currentPath()).absolutePath();
+    loc.url = p.value(QStringLiteral("db"));
+    return loc;
+}
+
+qint64 numarPozitiv(const QCommandLineParser& p, const QString& optiune, bool obligatoriu, qint64 implicit) {
+    if (!p.isSet(optiune)) {
+        if (obligatoriu)
+            throw EroareArgumente{QStringLiteral("lipseste --%1").arg(optiune)};
+        return implicit;
+    }
+    bool ok = false;
+    const qint64 v = p.value(optiune).toLongLong(&ok);
+    if (!ok || v < 0)
+        throw EroareArgumente{QStringLiteral("--%1 cere un numar intreg pozitiv").arg(optiune)};
+    return v;
+}
+
+int init(const QCommandLineParser& p, QTextStream& out, QTextStream& err) {
+    MesajeFlux m(out, err);
+    const LocatieBD loc = locatie(p);
+    DateLivrate::Initializeaza(loc, QDir(Foldere::FolderLivrat()).filePath(QStringLiteral("data")), m);
+    out << "Baza de date a fost creata: " << loc.Descriere() << Qt::endl;
+    return 0;
+}
+
+int upgrade(const QCommandLineParser& p, QTextStream& out, QTextStream& err) {
+    MesajeFlux m(out, err);
+    const LocatieBD loc = locatie(p);
+    auto db = BazaDate::Deschide(loc);
+    const RezultatActualizare r = ActualizareBD(*db, loc.caleBD, m, [&](const QString& linie) { out << linie << Qt::endl; });
+    return r.Reusit() ? 0 : 1;
+}
+
+int demo(const QCommandLineParser& p, QTextStream& out, QTextStream&) {
+    Demo::Optiuni o;
+    o.cereri = int(numarPozitiv(p, QStringLiteral("cereri"), true, 0));
+    o.samanta = quint64(numarPozitiv(p, QStringLiteral("seed"), false, 1));
+    auto db = BazaDate::Deschide(locatie(p));
+    QElapsedTimer ceas;
+    ceas.start();
+    Demo::Genereaza(*db, o);
+    out << o.cereri << " cereri adaugate in " << QString::number(ceas.elapsed() / 1000.0, 'f', 1) << " s" << Qt::endl;
+    return 0;
+}
+
+} // namespace
+
+int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err) {
+    QCommandLineParser p;
+    p.addOption({QStringLiteral("dir"), QStringLiteral("folderul bazei de date"), QStringLiteral("DIR")});
+    p.addOption({QStringLiteral("db"), QStringLiteral("conexiune PostgreSQL"), QStringLiteral("URL")});
+    p.addOption({QStringLiteral("cereri"), QStringLiteral("numar de cereri"), QStringLiteral("N")});
+    p.addOption({QStringLiteral("seed"), QStringLiteral("samanta"), QStringLiteral("S")});
+    p.addPositionalArgument(QStringLiteral("comanda"), QStringLiteral("init, upgrade, demo"));
+    try {
+        if (!p.parse(argumente))
+            throw EroareArgumente{p.errorText()};
+        const QStringList poz = p.positionalArguments();
+        if (poz.size() != 1)
+            throw EroareArgumente{poz.isEmpty() ? QStringLiteral("lipseste comanda") : QStringLiteral("prea multe argumente")};
+        const QString comanda = poz.first();
+        if (comanda != QLatin1String("demo") && (p.isSet(QStringLiteral("cereri")) || p.isSet(QStringLiteral("seed"))))
+            throw EroareArgumente{QStringLiteral("--cereri si --seed sunt doar pentru demo")};
+        if (comanda == QLatin1String("init"))
+            return init(p, out, err);
+        if (comanda == QLatin1String("upgrade"))
+            return upgrade(p, out, err);
+        if (comanda == QLatin1String("demo"))
+            return demo(p, out, err);
+        throw EroareArgumente{QStringLiteral("comanda necunoscuta: %1").arg(comanda)};
+    } catch (const EroareArgumente& e) {
+        err << e.text << ". " << Utilizare << Qt::endl;
+        return 2;
+    } catch (const Eroare& e) {
+        err << e.text() << Qt::endl;
+        return 1;
+    } catch (const std::exception& e) {
+        err << "Eroare: " << e.what() << Qt::endl;
+        return 1;
+    }
+}

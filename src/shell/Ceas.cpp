@@ -1,0 +1,9 @@
+#include "shell/Ceas.h"
+
+namespace {
+QDate ziFixata;
+}
+
+QDate Ceas::Azi() { return ziFixata.isValid() ? ziFixata : QDate::currentDate(); }
+
+void Ceas::SeteazaAzi(const QDate& zi) { ziFixata = zi; }

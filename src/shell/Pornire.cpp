@@ -1,0 +1,84 @@
+#include "shell/Pornire.h"
+
+#include "shell/Eroare.h"
+#include "shell/Foldere.h"
+#include "shell/Mesaje.h"
+#include "shell/ServiciuFisiere.h"
+#include "store/ActualizareBD.h"
+#include "store/DateLivrate.h"
+
+#include <QDir>
+#include <QFile>
+
+RezultatPornire PornesteBaza(const QString& applicationPath, const QString& folderLivrat, Mesaje& m) {
+    RezultatPornire r;
+    r.applicationPath = applicationPath;
+    const QString setari = QDir(applicationPath).filePath(Foldere::FisierSetari);
+
+    if (!QFile::exists(setari)) {
+        if (!Foldere::PregatesteFolderDate(applicationPath, folderLivrat)) {
+            m.Critic(QStringLiteral("Folderul de date %1 nu poate fi creat.").arg(QDir::toNativeSeparators(applicationPath)));
+            return r;
+        }
+        LocatieBD loc{applicationPath, {}};
+        if (!QFile::exists(loc.FisierSQLite()))
+            DateLivrate::Initializeaza(loc, QDir(folderLivrat).filePath(QStringLiteral("data")), m);
+        ServiciuFisiere::ScrieIni(setari, QStringLiteral("Generale"), QStringLiteral("CaleBD"), applicationPath);
+    }
+
+    LocatieBD loc;
+    loc.caleBD = ServiciuFisiere::CitesteIni(setari, QStringLiteral("Generale"), QStringLiteral("CaleBD"));
+    loc.url = ServiciuFisiere::CitesteIni(setari, QStringLiteral("Generale"), QStringLiteral("ConexiuneBD")).trimmed();
+    if (loc.caleBD.isEmpty()) {
+        loc.caleBD = applicationPath;
+        ServiciuFisiere::ScrieIni(setari, QStringLiteral("Generale"), QStringLiteral("CaleBD"), applicationPath);
+    }
+    r.caleBD = loc.caleBD;
+
+    if (!loc.EstePostgreSQL()) {
+        const QString fisier = loc.FisierSQLite();
+        if (ServiciuFisiere::StareFisier(fisier) == 1) {
+            if (m.Intrebare(QStringLiteral("Baza de date %1 nu a fost gasita in locatia %2\nDoriti sa selectati o noua locatie?")
+                                .arg(NumeBD, loc.caleBD)))
+                r.stare = RezultatPornire::Stare::AlegeLocatie;
+            return r;
+        }
+        if (ServiciuFisiere::StareFisier(fisier) == 2) {
+            m.Critic(QStringLiteral("Reteaua nu functioneaza sau locatia catre baza de date nu e corecta. Verificati!"));
+            return r;
+        }
+    }
+    try {
+        r.bd = BazaDate::Deschide(loc);
+    } catch (const Eroare& e) {
+        if (loc.EstePostgreSQL())
+            m.Critic(QStringLiteral("Reteaua nu functioneaza sau locatia catre baza de date nu e corecta. Verificati!\n%1").arg(e.text()));
+        else
+            m.Critic(e.text());
+        return r;
+    }
+    try {
+        ActualizareBD(*r.bd, loc.caleBD, m);
+    } catch (const Eroare& e) {
+        m.Critic(e.text());
+        r.bd.reset();
+        return r;
+    }
+    r.stare = RezultatPornire::Stare::Deschisa;
+    return r;
+}
+
+bool VerificaBD(BazaDate& bd, Mesaje& m) {
+    switch (bd.Stare()) {
+    case 0:
+        return true;
+    case 1:
+        m.Critic(QStringLiteral("Baza de date nu a fost gasita. Probabil nu functioneaza reteaua. Verificati!"));
+        return false;
+    case 2:
+        m.Critic(QStringLiteral("Locatia bazei de date nu e corecta. Probabil nu functioneaza reteaua. Verificati!"));
+        return false;
+    default:
+        return false;
+    }
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "store/Schema.h"
+
+#include <QString>
+
+class BazaDate;
+
+// What the schema holds, and the single changes the upgrade makes, on either engine.
+// Names compare case-insensitively, as PostgreSQL folds unquoted ones to lower case.
+class OperatiiSchema {
+public:
+    explicit OperatiiSchema(BazaDate& db) : db_(db) {}
+
+    bool TabelaExista(const QString& tabela);
+    bool CampExista(const QString& tabela, const QString& camp);
+    bool RelatieExista(const RelatieSchema& r);
+    bool IndexExista(const IndexSchema& ix);
+    QStringList Campuri(const QString& tabela);
+    QStringList Tabele();
+
+    // A table with its first field (and its primary key, when that field is the whole key).
+    void CreazaTabela(const TabelaSchema& t, const std::vector<CampSchema>& campuri);
+    void AdaugaCamp(const QString& tabela, const CampSchema& c);
+    void StergeCamp(const QString& tabela, const QString& camp);
+    void RedenumesteCamp(const QString& tabela, const QString& camp, const QString& numeNou);
+    void RedenumesteTabela(const QString& tabela, const QString& numeNou);
+    // Adds the cascading reference to an existing field. Throws when the engine can't (SQLite
+    // declares references only with the field) or the rows already break it.
+    void CreazaRelatie(const RelatieSchema& r);
+    void CreazaIndex(const IndexSchema& ix);
+
+private:
+    BazaDate& db_;
+};
