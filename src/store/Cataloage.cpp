@@ -153,3 +153,8 @@ Cataloage::Rezultat Cataloage::IncarcaListaActe(BazaDate& db, const QString& cal
 }
 
 void Cataloage::RefaListaBife(BazaDate& db, const QString& caleBD) { reincarca(db, Bife, QDir(caleBD).filePath(Bife.fisier)); }
+
+void Cataloage::IncarcaToate(BazaDate& db, const QString& caleBD) {
+    for (const Catalog* c : {&Venituri, &Bife, &Acte})
+        reincarca(db, *c, QDir(caleBD).filePath(c->fisier));
+}

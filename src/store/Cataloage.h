@@ -27,6 +27,8 @@ Rezultat IncarcaListaActe(BazaDate& db, const QString& caleBD, Mesaje& m, const 
 
 // Rebuilds ListaBife from bife.txt whatever its row count (maintenance).
 void RefaListaBife(BazaDate& db, const QString& caleBD);
+// Loads all three catalogues of a new database; a missing or short file throws Eroare.
+void IncarcaToate(BazaDate& db, const QString& caleBD);
 
 // The lines of a text file in UTF-8 (or, failing that, Windows-1250), without line ends.
 QStringList CitesteLinii(const QString& fisier);

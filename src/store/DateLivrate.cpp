@@ -76,6 +76,14 @@ void DateLivrate::CreeazaTabeleLivrate(BazaDate& db, bool formaVeche) {
             ops.CreazaTabela(t, Schema::CampuriDeBaza(t, formaVeche));
 }
 
+void DateLivrate::CreeazaSchemaCompleta(BazaDate& db) {
+    OperatiiSchema ops(db);
+    for (const auto& t : Schema::Tabele())
+        ops.CreazaTabela(t, t.campuri);
+    for (const auto& ix : Schema::Indexuri())
+        ops.CreazaIndex(ix);
+}
+
 void DateLivrate::IncarcaDateLivrate(BazaDate& db, const QString& folderDate, const QDate& azi) {
     const QDir dir(folderDate);
     for (const QString& tabela : {QStringLiteral("DateGen"), QStringLiteral("Judete"), QStringLiteral("TipuriActe"),
@@ -115,8 +123,9 @@ std::unique_ptr<BazaDate> DateLivrate::Initializeaza(const LocatieBD& loc, const
             throw Eroare(QStringLiteral("Exista deja o baza de date pe %1").arg(loc.Descriere()));
         CopiazaCataloage(folderDate, loc.caleBD);
         Tranzactie t(*db);
-        CreeazaTabeleLivrate(*db);
+        CreeazaSchemaCompleta(*db);
         IncarcaDateLivrate(*db, folderDate, Ceas::Azi());
+        Cataloage::IncarcaToate(*db, loc.caleBD);
         const RezultatActualizare r = ActualizareBD(*db, loc.caleBD, m, jurnal);
         if (!r.Reusit())
             throw Eroare(r.erori.join(QLatin1Char('\n')));

@@ -9,13 +9,16 @@
 
 class Mesaje;
 
-// A new database: the delivered tables, their starting rows from the files of the program's
-// data folder, the catalogue files beside the database, and then the upgrade, which adds
-// everything else. All of it is one transaction: a failure leaves no database behind.
+// A new database: every table, the starting rows from the files of the program's data folder,
+// the catalogues from their files (copied beside the database), and the upgrade's seeds. All of
+// it is one transaction: a failure leaves no database behind.
 namespace DateLivrate {
 
 // The delivered tables in their base fields; `formaVeche` gives the shape of the oldest files.
 void CreeazaTabeleLivrate(BazaDate& db, bool formaVeche = false);
+
+// Every table in its present shape, with its keys, references and indexes.
+void CreeazaSchemaCompleta(BazaDate& db);
 
 // Rows of DateGen, Judete, TipuriActe and TipIncalzire from the .tsv files of folderDate, and the
 // working months of StatePlata from January 2013 to December of the year after `azi`.

@@ -38,6 +38,9 @@ private:
     QString schema_;
 };
 
+// Readable QString values in failure messages.
+inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
+
 QString NumeMotor(const ::testing::TestParamInfo<Motor>& info);
 
 #define PE_AMBELE_MOTOARE(Suita)                                                                                       \
