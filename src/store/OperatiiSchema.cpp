@@ -3,7 +3,14 @@
 #include "shell/Eroare.h"
 #include "store/BazaDate.h"
 
+void OperatiiSchema::uita(const QString& tabela) {
+    campuri_.remove(tabela.toLower());
+    tabele_.reset();
+}
+
 QStringList OperatiiSchema::Tabele() {
+    if (tabele_)
+        return *tabele_;
     QStringList r;
     Interogare q(db_, db_.dialect().EsteSQLite()
                           ? QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite_%'")
@@ -12,19 +19,16 @@ QStringList OperatiiSchema::Tabele() {
     q.Executa();
     while (q.Urmator())
         r << q.Text(QStringLiteral("name"));
+    tabele_ = r;
     return r;
 }
 
-bool OperatiiSchema::TabelaExista(const QString& tabela) {
-    Interogare q(db_, db_.dialect().EsteSQLite()
-                          ? QStringLiteral("SELECT 1 FROM sqlite_master WHERE type = 'table' AND lower(name) = ?")
-                          : QStringLiteral("SELECT 1 FROM information_schema.tables "
-                                           "WHERE table_schema = current_schema() AND table_name = ?"));
-    q.Leaga(tabela.toLower());
-    return q.Exista();
-}
+bool OperatiiSchema::TabelaExista(const QString& tabela) { return Tabele().contains(tabela, Qt::CaseInsensitive); }
 
 QStringList OperatiiSchema::Campuri(const QString& tabela) {
+    const auto gasit = campuri_.constFind(tabela.toLower());
+    if (gasit != campuri_.constEnd())
+        return *gasit;
     QStringList r;
     Interogare q(db_, db_.dialect().EsteSQLite()
                           ? QStringLiteral("SELECT name FROM pragma_table_info(?) ORDER BY cid")
@@ -35,6 +39,7 @@ QStringList OperatiiSchema::Campuri(const QString& tabela) {
     q.Executa();
     while (q.Urmator())
         r << q.Text(QStringLiteral("name"));
+    campuri_.insert(tabela.toLower(), r);
     return r;
 }
 
@@ -65,6 +70,7 @@ bool OperatiiSchema::IndexExista(const IndexSchema& ix) {
 }
 
 void OperatiiSchema::CreazaTabela(const TabelaSchema& t, const std::vector<CampSchema>& campuri) {
+    uita(t.nume);
     QStringList definitii;
     QStringList numeCampuri;
     for (const auto& c : campuri) {
@@ -80,22 +86,28 @@ void OperatiiSchema::CreazaTabela(const TabelaSchema& t, const std::vector<CampS
 }
 
 void OperatiiSchema::AdaugaCamp(const QString& tabela, const CampSchema& c) {
+    uita(tabela);
     db_.Executa(QStringLiteral("ALTER TABLE %1 ADD COLUMN %2").arg(tabela, Schema::DefinitieCamp(db_.dialect(), tabela, c)));
 }
 
 void OperatiiSchema::StergeCamp(const QString& tabela, const QString& camp) {
+    uita(tabela);
     db_.Executa(QStringLiteral("ALTER TABLE %1 DROP COLUMN %2").arg(tabela, camp));
 }
 
 void OperatiiSchema::RedenumesteCamp(const QString& tabela, const QString& camp, const QString& numeNou) {
+    uita(tabela);
     db_.Executa(QStringLiteral("ALTER TABLE %1 RENAME COLUMN %2 TO %3").arg(tabela, camp, numeNou));
 }
 
 void OperatiiSchema::RedenumesteTabela(const QString& tabela, const QString& numeNou) {
+    uita(tabela);
+    uita(numeNou);
     db_.Executa(QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(tabela, numeNou));
 }
 
 void OperatiiSchema::CreazaRelatie(const RelatieSchema& r) {
+    uita(r.tabelaStraina);
     if (db_.dialect().EsteSQLite())
         throw Eroare(QStringLiteral("SQLite nu poate adauga o relatie unui camp existent (%1.%2)")
                          .arg(r.tabelaStraina, r.campStrain));

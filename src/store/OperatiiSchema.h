@@ -2,12 +2,16 @@
 
 #include "store/Schema.h"
 
+#include <QHash>
 #include <QString>
+#include <optional>
 
 class BazaDate;
 
 // What the schema holds, and the single changes the upgrade makes, on either engine.
-// Names compare case-insensitively, as PostgreSQL folds unquoted ones to lower case.
+// Names compare case-insensitively, as PostgreSQL folds unquoted ones to lower case. What it
+// reads of the catalogue is kept until it changes something, so that a walk over many fields
+// asks the server once per table.
 class OperatiiSchema {
 public:
     explicit OperatiiSchema(BazaDate& db) : db_(db) {}
@@ -31,5 +35,9 @@ public:
     void CreazaIndex(const IndexSchema& ix);
 
 private:
+    void uita(const QString& tabela);
+
     BazaDate& db_;
+    QHash<QString, QStringList> campuri_;
+    std::optional<QStringList> tabele_;
 };
