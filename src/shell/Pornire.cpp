@@ -21,8 +21,13 @@ RezultatPornire PornesteBaza(const QString& applicationPath, const QString& fold
             return r;
         }
         LocatieBD loc{applicationPath, {}};
-        if (!QFile::exists(loc.FisierSQLite()))
-            DateLivrate::Initializeaza(loc, QDir(folderLivrat).filePath(QStringLiteral("data")), m);
+        try {
+            if (!QFile::exists(loc.FisierSQLite()))
+                DateLivrate::Initializeaza(loc, QDir(folderLivrat).filePath(QStringLiteral("data")), m);
+        } catch (const Eroare& e) {
+            m.Critic(e.text());
+            return r;
+        }
         ServiciuFisiere::ScrieIni(setari, QStringLiteral("Generale"), QStringLiteral("CaleBD"), applicationPath);
     }
 
