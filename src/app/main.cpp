@@ -1,21 +1,49 @@
 #include "shell/Foldere.h"
 #include "shell/Pornire.h"
+#include "shell/Program.h"
 #include "shell/UiMesaje.h"
+#include "shell/frmGeneral.h"
+#include "shell/frmLogin.h"
 #include "shell/frmMain.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QLockFile>
+#include <QStandardPaths>
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Ferolanta"));
     QApplication::setOrganizationName(QStringLiteral("Ferolanta"));
 
+    // One copy per computer: a second one ends at once, silently.
+    QString folderBlocare = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (folderBlocare.isEmpty())
+        folderBlocare = QDir::tempPath();
+    QLockFile blocare(QDir(folderBlocare).filePath(QStringLiteral("ferolanta.lock")));
+    blocare.setStaleLockTime(0);
+    if (!blocare.tryLock(0))
+        return 0;
+
     UiMesaje mesaje;
     RezultatPornire pornire = PornesteBaza(Foldere::ApplicationPath(), Foldere::FolderLivrat(), mesaje);
+    if (pornire.stare == RezultatPornire::Stare::AlegeLocatie) {
+        frmGeneral locatie(QDir(pornire.applicationPath).filePath(Foldere::FisierSetari), pornire.caleBD, mesaje);
+        locatie.exec();
+        return 0;
+    }
     if (pornire.stare != RezultatPornire::Stare::Deschisa)
         return 0;
 
-    frmMain fereastra(*pornire.bd);
+    if (!pornire.setari.Parola.isEmpty()) {
+        frmLogin login(pornire.setari.Parola, mesaje);
+        login.exec();
+        if (!login.LoginSucceeded)
+            return 0;
+    }
+
+    Program program{*pornire.bd, pornire.setari, pornire.applicationPath};
+    frmMain fereastra(program, mesaje);
     fereastra.show();
     return app.exec();
 }

@@ -63,6 +63,8 @@ RezultatPornire PornesteBaza(const QString& applicationPath, const QString& fold
         return r;
     }
     try {
+        r.setari = IncarcaSetari(setari);
+        r.setari.CaleBD = loc.caleBD;
         ActualizareBD(*r.bd, loc.caleBD, m);
     } catch (const Eroare& e) {
         m.Critic(e.text());

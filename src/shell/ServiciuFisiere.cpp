@@ -30,6 +30,7 @@ QString decodeaza(const char* octeti) {
 void incarca(CSimpleIniA& ini, const QString& fisier) {
     ini.SetUnicode(false);
     ini.SetMultiKey(false);
+    ini.SetSpaces(false); // key=value, as the Windows profile functions write it
     const QByteArray cale = QFile::encodeName(fisier);
     if (QFileInfo::exists(fisier) && ini.LoadFile(cale.constData()) < 0)
         throw Eroare(QStringLiteral("Fisierul de setari %1 nu poate fi citit.").arg(fisier));

@@ -1,23 +1,458 @@
 #include "shell/frmMain.h"
 
+#include "shell/Ceas.h"
+#include "shell/Eroare.h"
+#include "shell/Functii.h"
+#include "shell/LunaLucru.h"
+#include "shell/Mesaje.h"
+#include "shell/ModelCereri.h"
+#include "shell/Pornire.h"
+#include "shell/Program.h"
+#include "shell/Setari.h"
+#include "shell/frmAbout.h"
+#include "shell/frmChLunaAn.h"
+#include "shell/frmOptiuni.h"
+#include "shell/frmParola.h"
 #include "store/BazaDate.h"
 
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSplitter>
 #include <QStatusBar>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
-frmMain::frmMain(BazaDate& bd, QWidget* parinte) : QMainWindow(parinte), bd_(bd) {
+namespace {
+
+// The support line of the status bar.
+const QString ContactSuport = QStringLiteral(" Suport: suport@ferolanta.ro ");
+
+} // namespace
+
+frmMain::frmMain(Program& p, Mesaje& m, QWidget* parinte) : QMainWindow(parinte), p_(p), m_(m), model_(new ModelCereri(this)) {
     setObjectName(QStringLiteral("frmMain"));
-    setWindowTitle(QStringLiteral("Alocatii-207"));
     auto* centru = new QWidget(this);
     auto* asezare = new QVBoxLayout(centru);
-    lblBaza_ = new QLabel(centru);
-    lblBaza_->setObjectName(QStringLiteral("lblBaza"));
-    lblBaza_->setText(QStringLiteral("Baza de date: %1 (%2)").arg(bd_.locatie().Descriere(), bd_.dialect().NumeEngine()));
-    lblBaza_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    asezare->addWidget(lblBaza_);
-    asezare->addStretch();
+    auto* imparte = new QSplitter(Qt::Vertical, centru);
+    auto* sus = new QWidget(imparte);
+    auto* jos = new QWidget(imparte);
+    construiesteCautarea(sus);
+    construiesteListeleDeJos(jos);
+    imparte->setStretchFactor(0, 3);
+    imparte->setStretchFactor(1, 1);
+    asezare->addWidget(imparte);
     setCentralWidget(centru);
-    statusBar()->showMessage(QStringLiteral("Versiune: %1").arg(QStringLiteral(FEROLANTA_VERSIUNE)));
-    resize(900, 600);
+    construiesteMeniurile();
+    construiesteBaraDeStare();
+    resize(1200, 760);
+    Form_Load();
+}
+
+void frmMain::construiesteCautarea(QWidget* sus) {
+    auto* asezare = new QVBoxLayout(sus);
+    asezare->setContentsMargins(0, 0, 0, 0);
+    auto* fraCaut = new QGroupBox(QStringLiteral("Cautare"), sus);
+    fraCaut->setObjectName(QStringLiteral("fraCaut"));
+    auto* grila = new QGridLayout(fraCaut);
+    const char* etichete[] = {"CNP", "Nume", "Prenume", "Nr cerere", "Nr dosar"};
+    for (int i = 0; i < 5; ++i) {
+        grila->addWidget(new QLabel(QString::fromLatin1(etichete[i]), fraCaut), 0, i);
+        txtCauta[size_t(i)] = new QLineEdit(fraCaut);
+        txtCauta[size_t(i)]->setObjectName(QStringLiteral("txtCauta_%1").arg(i));
+        connect(txtCauta[size_t(i)], &QLineEdit::returnPressed, this, &frmMain::cmdCauta_Click);
+        grila->addWidget(txtCauta[size_t(i)], 1, i);
+    }
+    txtCauta[0]->setMaxLength(13);
+    grila->addWidget(new QLabel(QStringLiteral("Str /sat"), fraCaut), 0, 5);
+    cboStrada = new QComboBox(fraCaut);
+    cboStrada->setObjectName(QStringLiteral("cboStrada"));
+    cboStrada->setEditable(true);
+    cboStrada->setMinimumWidth(160);
+    grila->addWidget(cboStrada, 1, 5);
+    grila->addWidget(new QLabel(QStringLiteral("Stare"), fraCaut), 0, 6);
+    lstStare = new QListWidget(fraCaut);
+    lstStare->setObjectName(QStringLiteral("lstStare"));
+    lstStare->setSelectionMode(QAbstractItemView::MultiSelection);
+    lstStare->setMaximumHeight(64);
+    lstStare->setMinimumWidth(190);
+    lstStare->installEventFilter(this);
+    cboStrada->installEventFilter(this);
+    grila->addWidget(lstStare, 1, 6, 2, 1);
+    cmdCauta = new QPushButton(QStringLiteral("Cauta"), fraCaut);
+    cmdCauta->setObjectName(QStringLiteral("cmdCauta"));
+    connect(cmdCauta, &QPushButton::clicked, this, &frmMain::cmdCauta_Click);
+    grila->addWidget(cmdCauta, 1, 7);
+    lblRezul = new QLabel(fraCaut);
+    lblRezul->setObjectName(QStringLiteral("lblRezul"));
+    grila->addWidget(lblRezul, 2, 0, 1, 4);
+    asezare->addWidget(fraCaut);
+
+    auto* butoane = new QHBoxLayout;
+    auto buton = [&](QPushButton*& b, const char* nume, const QString& text) {
+        b = new QPushButton(text, sus);
+        b->setObjectName(QString::fromLatin1(nume));
+        butoane->addWidget(b);
+    };
+    buton(cmdAdd, "cmdAdd", QStringLiteral("Adauga cerere"));
+    buton(cmdEdit, "cmdEdit", QStringLiteral("Modifica cerere"));
+    buton(cmdDelete, "cmdDelete", QStringLiteral("Sterge cerere"));
+    buton(cmdSelect, "cmdSelect", QStringLiteral("Cerere..."));
+    butoane->addStretch();
+    buton(cmdExit, "cmdExit", QStringLiteral("Iesire"));
+    // The request editor comes with the case files; until then there is nothing to open.
+    cmdAdd->setEnabled(false);
+    cmdEdit->setEnabled(false);
+    cmdSelect->setEnabled(false);
+    connect(cmdAdd, &QPushButton::clicked, this, &frmMain::cmdAdd_Click);
+    connect(cmdEdit, &QPushButton::clicked, this, &frmMain::cmdEdit_Click);
+    connect(cmdDelete, &QPushButton::clicked, this, &frmMain::cmdDelete_Click);
+    connect(cmdExit, &QPushButton::clicked, this, &frmMain::Iesire);
+    asezare->addLayout(butoane);
+
+    lvwCereri = new QTableView(sus);
+    lvwCereri->setObjectName(QStringLiteral("lvwCereri"));
+    lvwCereri->setModel(model_);
+    lvwCereri->setSelectionBehavior(QAbstractItemView::SelectRows);
+    lvwCereri->setSelectionMode(QAbstractItemView::SingleSelection);
+    lvwCereri->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    lvwCereri->verticalHeader()->hide();
+    lvwCereri->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    lvwCereri->setColumnHidden(ModelCereri::ID, true);
+    lvwCereri->setAlternatingRowColors(true);
+    const int latimi[] = {0, 90, 55, 140, 75, 190, 105, 230, 75, 70, 75, 65};
+    for (int i = 1; i < ModelCereri::NrColoane; ++i)
+        lvwCereri->setColumnWidth(i, latimi[i]);
+    lvwCereri->horizontalHeader()->setSectionsClickable(true);
+    lvwCereri->horizontalHeader()->setSortIndicatorShown(false);
+    connect(lvwCereri->horizontalHeader(), &QHeaderView::sectionClicked, this, &frmMain::ColumnClick);
+    connect(lvwCereri->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { ItemClick(); });
+    connect(lvwCereri, &QTableView::doubleClicked, this, &frmMain::cmdEdit_Click);
+    lvwCereri->installEventFilter(this);
+    asezare->addWidget(lvwCereri, 1);
+}
+
+void frmMain::construiesteListeleDeJos(QWidget* jos) {
+    auto* asezare = new QVBoxLayout(jos);
+    asezare->setContentsMargins(0, 0, 0, 0);
+    opt = new QTabWidget(jos);
+    opt->setObjectName(QStringLiteral("opt"));
+    auto lista = [&](QTreeWidget*& l, const char* nume, const QString& titlu, const QStringList& coloane) {
+        l = new QTreeWidget(opt);
+        l->setObjectName(QString::fromLatin1(nume));
+        l->setRootIsDecorated(false);
+        l->setHeaderLabels(coloane.isEmpty() ? QStringList{QString()} : coloane);
+        if (!coloane.isEmpty())
+            l->setColumnHidden(0, true);
+        opt->addTab(l, titlu);
+    };
+    lista(lvwAnchete, "lvwAnchete", QStringLiteral("Anchete"),
+          {QStringLiteral("ID"), QStringLiteral("Data"), QStringLiteral("Nr membrii"), QStringLiteral("Nr copii"),
+           QStringLiteral("Data expirarii"), QStringLiteral("Motivul expirarii")});
+    lista(lvwAdeverinte, "lvwAdeverinte", QStringLiteral("Adeverinte"), {});
+    lista(lvwPlati, "lvwPlati", QStringLiteral("Plati"), {});
+    lista(lvwDispozitii, "lvwDispozitii", QStringLiteral("Dispozitii"),
+          {QStringLiteral("ID"), QStringLiteral("Nr disp"), QStringLiteral("Data"), QStringLiteral("Tip decizie"),
+           QStringLiteral("Cuantum"), QStringLiteral("Luna"), QStringLiteral("Anul")});
+    asezare->addWidget(opt);
+}
+
+QAction* frmMain::meniu(QMenu* parinte, const char* nume, const QString& text, bool activ) {
+    QAction* a = parinte->addAction(text);
+    a->setObjectName(QString::fromLatin1(nume));
+    a->setEnabled(activ);
+    return a;
+}
+
+void frmMain::construiesteMeniurile() {
+    QMenuBar* bara = menuBar();
+    auto meniuPrincipal = [&](const char* nume, const QString& text) {
+        QMenu* mm = bara->addMenu(text);
+        mm->setObjectName(QString::fromLatin1(nume));
+        return mm;
+    };
+    // Entries whose windows come later stay visible but disabled.
+    QMenu* dataGen = meniuPrincipal("mnuDataGen", QStringLiteral("Date generale"));
+    meniu(dataGen, "mnuDatePrimarie", QStringLiteral("Datele primariei..."), false);
+    meniu(dataGen, "mnuBarem", QStringLiteral("Nivel venituri..."), false);
+    meniu(dataGen, "mnuJudete", QStringLiteral("Judete..."), true); // never had a window
+    meniu(dataGen, "mnuSate", QStringLiteral("Sate/strazi..."), false);
+    meniu(dataGen, "mnuMotive", QStringLiteral("Motive..."), false);
+    connect(meniu(dataGen, "mnuSetLunaCurenta", QStringLiteral("Setare luna curenta..."), true), &QAction::triggered, this,
+            [this] { ArataLunaLucru(true); });
+    meniu(dataGen, "mnuISR", QStringLiteral("Valoare ISR"), false);
+    meniu(dataGen, "mnuGenAnNou", QStringLiteral("Generare An Nou..."), false);
+    dataGen->addSeparator();
+    connect(meniu(dataGen, "mnuExit", QStringLiteral("Iesire"), true), &QAction::triggered, this, &frmMain::Iesire);
+
+    QMenu* acte = meniuPrincipal("mnuActe", QStringLiteral("Acte"));
+    meniu(acte, "mnuCerereGoala", QStringLiteral("Listare Cerere Goala ..."), false);
+    meniu(acte, "mnucerereMod", QStringLiteral("Listare Cerere modificare Goala"), false);
+    meniu(acte, "mnuAnchetaGoala", QStringLiteral("Listare Ancheta Goala ..."), false);
+    meniu(acte, "mnuCerereSelectata", QStringLiteral("Listare Cerere Selectata ..."), false);
+
+    QMenu* baza = meniuPrincipal("mnuBazaDate", QStringLiteral("Baza date"));
+    meniu(baza, "mnuAdev", QStringLiteral("Adeverinte scolarizare..."), false);
+    meniu(baza, "mnuMembrii", QStringLiteral("Membrii..."), false);
+    meniu(baza, "mnuToateDisp", QStringLiteral("Generare dispozitii ..."), false);
+    meniu(baza, "mnuAnexa2", QStringLiteral("Tiparire toate dispozitiile ..."), false);
+
+    QMenu* rapoarte = meniuPrincipal("mnuRapoarte", QStringLiteral("Rapoarte"));
+    meniu(rapoarte, "mnuFisa", QStringLiteral("Fisa de calcul ..."), false);
+    meniu(rapoarte, "mnuBorderou", QStringLiteral("Borderou..."), false);
+    meniu(rapoarte, "mnuRap", QStringLiteral("Rapoarte ..."), false);
+    meniu(rapoarte, "mnuRap2", QStringLiteral("Rapoarte2 ..."), false);
+
+    QMenu* intretinere = meniuPrincipal("mnuIntretinere", QStringLiteral("Intretinere"));
+    connect(meniu(intretinere, "mnuPassword", QStringLiteral("Parola..."), true), &QAction::triggered, this, [this] {
+        frmParola f(p_, m_, this);
+        f.exec();
+    });
+    meniu(intretinere, "mnuMentenanta", QStringLiteral("Mentenanta..."), false);
+    connect(meniu(intretinere, "mnuOptiuni", QStringLiteral("Optiuni..."), true), &QAction::triggered, this, [this] {
+        frmOptiuni f(p_.setari, p_.FisierSetari(), m_, this);
+        f.exec();
+    });
+
+    QMenu* ajutor = meniuPrincipal("mnuAjutor", QStringLiteral("Ajutor"));
+    meniu(ajutor, "mnuContinut", QStringLiteral("Continut"), true);
+    meniu(ajutor, "mnuIndex", QStringLiteral("Index"), true);
+    connect(meniu(ajutor, "mnuAbout", QStringLiteral("Despre program ..."), true), &QAction::triggered, this, [this] {
+        frmAbout f(p_.bd, this);
+        f.exec();
+    });
+    ajutor->addSeparator();
+    connect(meniu(ajutor, "mnuExit2", QStringLiteral("Iesire"), true), &QAction::triggered, this, &frmMain::Iesire);
+}
+
+void frmMain::construiesteBaraDeStare() {
+    for (size_t i = 0; i < sbrMain.size(); ++i) {
+        sbrMain[i] = new QLabel(this);
+        sbrMain[i]->setObjectName(QStringLiteral("sbrMain_%1").arg(i + 1));
+        sbrMain[i]->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+        sbrMain[i]->installEventFilter(this);
+        statusBar()->addWidget(sbrMain[i], i == 3 ? 1 : 0);
+    }
+}
+
+void frmMain::Form_Load() {
+    cboStrada->clear();
+    Interogare strazi(p_.bd, QStringLiteral("SELECT StradaID, Denumire FROM Strazi ORDER BY Denumire"));
+    strazi.Executa();
+    while (strazi.Urmator())
+        cboStrada->addItem(strazi.Text(QStringLiteral("Denumire")), strazi.Intreg(QStringLiteral("StradaID")));
+    cboStrada->setCurrentIndex(-1);
+
+    ScrieTitlul(true);
+
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    FiltruCautare f;
+    f.LoadTipCerere = p_.setari.LoadTipCerere;
+    try {
+        ListaCereri(ListaCereri::Cauta(p_.bd, f));
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
+    QApplication::restoreOverrideCursor();
+
+    lstStare->clear();
+    Interogare stari(p_.bd, QStringLiteral("SELECT DataID, Continut FROM DateGen WHERE Tip = 1 ORDER BY Ordine, DataID"));
+    stari.Executa();
+    while (stari.Urmator()) {
+        auto* item = new QListWidgetItem(stari.Text(QStringLiteral("Continut")), lstStare);
+        item->setData(Qt::UserRole, stari.Intreg(QStringLiteral("DataID")));
+    }
+
+    const QDate azi = Ceas::Azi();
+    sbrMain[0]->setText(QStringLiteral(" %1 %2 %3 ").arg(azi.day()).arg(LuniAn()[azi.month() - 1]).arg(azi.year()));
+    ScrieLunaActiva();
+    sbrMain[3]->setText(ContactSuport);
+    QFile versiune(QDir(p_.applicationPath).filePath(QStringLiteral("version.txt")));
+    if (versiune.open(QIODevice::ReadOnly))
+        sbrMain[4]->setText(QStringLiteral("Versiune: ") + QString::fromUtf8(versiune.readAll()).trimmed());
+    else
+        sbrMain[4]->setText(QStringLiteral("Versiune: %1").arg(QStringLiteral(FEROLANTA_VERSIUNE)));
+}
+
+void frmMain::ScrieTitlul(bool cuMesaj) {
+    bool exista = false;
+    const QString denumire = ListaCereri::DenumirePrimarie(p_.bd, &exista);
+    setWindowTitle(exista ? QStringLiteral("Alocatii-207: ") + denumire : QStringLiteral("Alocatii-207: Nu exista date!"));
+    if (!exista && cuMesaj)
+        m_.Informatie(QStringLiteral("Introduceti datele primariei!"));
+}
+
+void frmMain::ScrieLunaActiva() { sbrMain[2]->setText(LunaLucru::TextLunaActiva(p_.setari.LunaSetata, p_.setari.AnSetat)); }
+
+FiltruCautare frmMain::FiltruDinControale() const {
+    FiltruCautare f;
+    f.CNP = txtCauta[0]->text().trimmed();
+    f.Nume = txtCauta[1]->text().trimmed();
+    f.Prenume = txtCauta[2]->text().trimmed();
+    f.NrCerere = txtCauta[3]->text().trimmed();
+    for (int i = 0; i < lstStare->count(); ++i)
+        if (lstStare->item(i)->isSelected())
+            f.Stari << lstStare->item(i)->data(Qt::UserRole).toInt();
+    f.LoadTipCerere = p_.setari.LoadTipCerere;
+    f.OrdineNumerica = true;
+    return f;
+}
+
+void frmMain::cmdCauta_Click() {
+    if (!VerificaBD(p_.bd, m_))
+        return;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    try {
+        ListaCereri(ListaCereri::Cauta(p_.bd, FiltruDinControale()));
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
+    GolireFiltre();
+    QApplication::restoreOverrideCursor();
+}
+
+void frmMain::ListaCereri(const std::vector<RandCerere>& randuri) {
+    model_->Seteaza(randuri);
+    lblRezul->setText(ListaCereri::TextRezultat(model_->rowCount()));
+    if (model_->rowCount() > 0)
+        SelecteazaRand(0);
+}
+
+void frmMain::GolireFiltre() {
+    for (QLineEdit* t : txtCauta)
+        t->clear();
+    cboStrada->setCurrentIndex(-1);
+    cboStrada->setEditText(QString());
+    lstStare->clearSelection();
+}
+
+void frmMain::ColumnClick(int coloana) {
+    if (coloana == ModelCereri::NrCerere) {
+        // The text of this column would put 10 before 9: the database orders it by number.
+        cmdCauta_Click();
+        return;
+    }
+    model_->sort(coloana, Qt::AscendingOrder);
+}
+
+void frmMain::SelecteazaRand(int rand) {
+    if (rand < 0 || rand >= model_->rowCount())
+        return;
+    const QModelIndex i = model_->index(rand, ModelCereri::NrCerere);
+    lvwCereri->selectionModel()->setCurrentIndex(i, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    lvwCereri->scrollTo(i);
+}
+
+int frmMain::RandSelectat() const {
+    const QModelIndexList sel = lvwCereri->selectionModel()->selectedRows();
+    return sel.isEmpty() ? -1 : sel.first().row();
+}
+
+void frmMain::ItemClick() {
+    const RandCerere* r = model_->Rand(RandSelectat());
+    if (!r)
+        return;
+    if (ListaCereri::Citeste(p_.bd, r->CerereID).CerereID == 0)
+        m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
+}
+
+void frmMain::cmdAdd_Click() {
+    if (!cmdAdd->isEnabled() || !VerificaBD(p_.bd, m_))
+        return;
+}
+
+void frmMain::cmdEdit_Click() {
+    if (!cmdEdit->isEnabled() || !VerificaBD(p_.bd, m_))
+        return;
+    if (RandSelectat() < 0)
+        m_.Informatie(QStringLiteral("Selectati o cerere"));
+}
+
+void frmMain::cmdDelete_Click() {
+    const int rand = RandSelectat();
+    const RandCerere* r = model_->Rand(rand);
+    if (!r) {
+        m_.Informatie(QStringLiteral("Selectati o cerere"));
+        return;
+    }
+    if (!VerificaBD(p_.bd, m_))
+        return;
+    try {
+        const RandCerere actual = ListaCereri::Citeste(p_.bd, r->CerereID);
+        if (actual.CerereID == 0) {
+            m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
+            return;
+        }
+        if (!m_.Intrebare(QStringLiteral("Sigur doriti sa stergeti cererea %1 ?").arg(r->NrCerere), {}, false))
+            return;
+        ListaCereri::Sterge(p_.bd, r->CerereID);
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+        return;
+    }
+    model_->Elimina(rand);
+    SelecteazaRand(std::min(rand, model_->rowCount() - 1));
+    lblRezul->setText(model_->rowCount() == 0 ? QStringLiteral("0 cereri") : QStringLiteral("%1 cereri").arg(model_->rowCount()));
+}
+
+void frmMain::ArataLunaLucru(bool dinMeniu) {
+    frmChLunaAn f(p_, m_, this);
+    if (f.exec() != QDialog::Accepted)
+        return;
+    // From the status bar the month goes to its own panel; from the menu it lands on the next
+    // one, over the support line, as it always has.
+    if (dinMeniu)
+        sbrMain[3]->setText(LunaLucru::TextLunaActiva(p_.setari.LunaSetata, p_.setari.AnSetat));
+    else
+        ScrieLunaActiva();
+}
+
+void frmMain::Iesire() {
+    if (m_.Intrebare(QStringLiteral("Sigur vreti sa parasiti programul?")))
+        QApplication::exit(0);
+}
+
+void frmMain::closeEvent(QCloseEvent* e) {
+    e->ignore();
+    Iesire();
+}
+
+bool frmMain::eventFilter(QObject* obiect, QEvent* e) {
+    if (e->type() == QEvent::KeyPress) {
+        const int tasta = static_cast<QKeyEvent*>(e)->key();
+        if (obiect == lvwCereri) {
+            if (tasta == Qt::Key_A) {
+                cmdAdd_Click();
+                return true;
+            }
+            if (tasta == Qt::Key_Return || tasta == Qt::Key_Enter) {
+                cmdEdit_Click();
+                return true;
+            }
+            if (tasta == Qt::Key_Delete) {
+                cmdDelete_Click();
+                return true;
+            }
+        } else if ((obiect == lstStare || obiect == cboStrada) && (tasta == Qt::Key_Return || tasta == Qt::Key_Enter)) {
+            cmdCauta_Click();
+            return true;
+        }
+    } else if (e->type() == QEvent::MouseButtonRelease && obiect == sbrMain[2]) {
+        ArataLunaLucru(false);
+        return true;
+    }
+    return QMainWindow::eventFilter(obiect, e);
 }

@@ -1,17 +1,82 @@
 #pragma once
 
+#include "shell/ListaCereri.h"
+
 #include <QMainWindow>
+#include <array>
 
-class BazaDate;
+class Mesaje;
+class ModelCereri;
+struct Program;
+class QAction;
+class QComboBox;
 class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QTableView;
+class QTabWidget;
+class QTreeWidget;
 
-// The one top-level window. For now it shows which database is open.
+// The one top-level window: the search and the request list above, the lists of the selected
+// request below, the menus and the status bar.
 class frmMain : public QMainWindow {
     Q_OBJECT
 public:
-    explicit frmMain(BazaDate& bd, QWidget* parinte = nullptr);
+    frmMain(Program& p, Mesaje& m, QWidget* parinte = nullptr);
+
+    // The handlers, public so that tests drive them without a modal loop.
+    void cmdCauta_Click();
+    void cmdDelete_Click();
+    void cmdEdit_Click();
+    void cmdAdd_Click();
+    void ColumnClick(int coloana);
+    void ItemClick();
+    void SelecteazaRand(int rand);
+    int RandSelectat() const;
+    void ScrieLunaActiva();
+
+    ModelCereri* model() const { return model_; }
+
+    // The controls, named as the old window named them.
+    std::array<QLineEdit*, 5> txtCauta{}; // CNP, Nume, Prenume, Nr cerere, Nr dosar
+    QComboBox* cboStrada = nullptr;
+    QListWidget* lstStare = nullptr;
+    QPushButton* cmdCauta = nullptr;
+    QPushButton* cmdAdd = nullptr;
+    QPushButton* cmdEdit = nullptr;
+    QPushButton* cmdDelete = nullptr;
+    QPushButton* cmdSelect = nullptr;
+    QPushButton* cmdExit = nullptr;
+    QLabel* lblRezul = nullptr;
+    QTableView* lvwCereri = nullptr;
+    QTabWidget* opt = nullptr;
+    QTreeWidget* lvwAnchete = nullptr;
+    QTreeWidget* lvwAdeverinte = nullptr;
+    QTreeWidget* lvwPlati = nullptr;
+    QTreeWidget* lvwDispozitii = nullptr;
+    std::array<QLabel*, 5> sbrMain{};
+
+protected:
+    bool eventFilter(QObject* obiect, QEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
 
 private:
-    BazaDate& bd_;
-    QLabel* lblBaza_;
+    void construiesteCautarea(QWidget* sus);
+    void construiesteMeniurile();
+    void construiesteListeleDeJos(QWidget* jos);
+    void construiesteBaraDeStare();
+    QAction* meniu(QMenu* parinte, const char* nume, const QString& text, bool activ);
+    void Form_Load();
+    void ScrieTitlul(bool cuMesaj);
+    void ListaCereri(const std::vector<RandCerere>& randuri);
+    void GolireFiltre();
+    FiltruCautare FiltruDinControale() const;
+    void Iesire();
+    void ArataLunaLucru(bool dinMeniu);
+
+    Program& p_;
+    Mesaje& m_;
+    ModelCereri* model_;
+    bool ordineNumerica_ = false;
 };

@@ -39,18 +39,6 @@ TEST(UiFunctiiRasfoire, AnulareaDaTextGol) {
     EXPECT_EQ(director, QDir(dir.path()).absolutePath());
 }
 
-TEST(UiFunctiiRasfoire, IntoarceFolderulAles) {
-    QTemporaryDir dir;
-    ASSERT_TRUE(dir.isValid());
-    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("Acte")));
-    const QString ales = QDir(dir.path()).absoluteFilePath(QStringLiteral("Acte"));
-    CandSeDeschide([&](QFileDialog& d) {
-        d.selectFile(ales);
-        static_cast<QDialog&>(d).accept();
-    });
-    EXPECT_EQ(QDir(RasfoireFolder(QStringLiteral("Acte"), dir.path(), nullptr)), QDir(ales));
-}
-
 TEST(UiFunctiiFont, FamiliileInstalateFaraMajuscule) {
     const QStringList familii = QFontDatabase::families();
     if (familii.isEmpty()) GTEST_SKIP() << "niciun font instalat";

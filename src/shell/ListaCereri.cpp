@@ -1,0 +1,152 @@
+#include "shell/ListaCereri.h"
+
+#include "shell/Val.h"
+#include "store/BazaDate.h"
+
+namespace {
+
+const QString SelectLista = QStringLiteral(
+    "SELECT C.CerereID, C.FamilieID, C.NrCerere, C.NrCerere2, C.TipCerere, C.Stare, C.DataCerere, C.VenitTotal, "
+    "C.Cuantum, C.NrMembrii, C.NrCopii, M.Nume, M.Prenume, M.CNP, F.NrDosar2, F.Localitate, F.Strada, F.Nr, F.Sc, "
+    "F.Ap, G.Continut AS StareText "
+    "FROM Cereri C INNER JOIN Membrii M ON C.MembruID1 = M.MembruID "
+    "LEFT JOIN Familii F ON F.FamilieID = C.FamilieID "
+    "LEFT JOIN DateGen G ON G.Tip = 1 AND G.DataID = C.Stare");
+
+// A prefix pattern for LIKE, with the wild cards the clerk may type taken literally.
+QString prefix(const QString& text) {
+    QString t = text;
+    t.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
+    t.replace(QLatin1Char('%'), QStringLiteral("\\%"));
+    t.replace(QLatin1Char('_'), QStringLiteral("\\_"));
+    return t + QLatin1Char('%');
+}
+
+RandCerere randDin(const Interogare& q) {
+    RandCerere r;
+    r.CerereID = q.Intreg(0);
+    r.FamilieID = q.Intreg(1);
+    const QVariant nr = q.Valoare(2);
+    r.NrCerereNumar = nr.toLongLong();
+    r.NrCerere = (nr.isNull() ? QString() : QString::number(r.NrCerereNumar)) + QLatin1Char(' ') +
+                 q.Valoare(14).toString() + QLatin1Char(' ') + q.Valoare(3).toString();
+    const qint64 tip = q.Intreg(4);
+    r.Tip = tip == 1 ? QStringLiteral("Cu sot") : tip == 2 ? QStringLiteral("Mono") : QString();
+    r.Stare = int(q.Intreg(5));
+    r.StareText = q.Valoare(20).toString();
+    const QVariant data = q.Valoare(6);
+    r.DataCerere = data.typeId() == QMetaType::QDate ? data.toDate() : QDate::fromString(data.toString().left(10), Qt::ISODate);
+    r.VenitTotal = Bani::DinVariant(q.Valoare(7));
+    r.Cuantum = Bani::DinVariant(q.Valoare(8));
+    r.NrMembrii = q.Intreg(9);
+    r.NrCopii = q.Intreg(10);
+    r.Solicitant = q.Valoare(11).toString() + QLatin1Char(' ') + q.Valoare(12).toString();
+    r.CNP = q.Valoare(13).toString();
+    QString adresa = q.Valoare(15).toString();
+    const std::pair<int, const char*> parti[] = {{16, ", "}, {17, ", nr. "}, {18, ", sc. "}, {19, ", ap. "}};
+    for (const auto& [i, eticheta] : parti) {
+        const QString v = q.Valoare(i).toString();
+        if (!v.isEmpty())
+            adresa += QLatin1String(eticheta) + v;
+    }
+    r.Adresa = adresa;
+    return r;
+}
+
+} // namespace
+
+std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f) {
+    QStringList conditii;
+    QVariantList valori;
+    const QString like = db.dialect().EsteSQLite() ? QStringLiteral("LIKE") : QStringLiteral("ILIKE");
+    if (!f.CNP.isEmpty()) {
+        conditii << QStringLiteral("M.CNP LIKE ? ESCAPE '\\'");
+        valori << prefix(f.CNP);
+    }
+    if (!f.Nume.isEmpty()) {
+        conditii << QStringLiteral("M.Nume %1 ? ESCAPE '\\'").arg(like);
+        valori << prefix(f.Nume);
+    }
+    if (!f.Prenume.isEmpty()) {
+        conditii << QStringLiteral("M.Prenume %1 ? ESCAPE '\\'").arg(like);
+        valori << prefix(f.Prenume);
+    }
+    if (!f.NrCerere.isEmpty()) {
+        conditii << QStringLiteral("C.NrCerere = ?");
+        valori << qint64(Val(f.NrCerere));
+    }
+    if (!f.Stari.isEmpty()) {
+        QStringList semne;
+        for (int s : f.Stari) {
+            semne << QStringLiteral("?");
+            valori << s;
+        }
+        conditii << QStringLiteral("C.Stare IN (%1)").arg(semne.join(QStringLiteral(", ")));
+    }
+    if (f.LoadTipCerere != 0) {
+        conditii << QStringLiteral("C.TipCerere = ?");
+        valori << f.LoadTipCerere;
+    }
+    QString sql = SelectLista;
+    if (!conditii.isEmpty())
+        sql += QStringLiteral(" WHERE ") + conditii.join(QStringLiteral(" AND "));
+    sql += f.OrdineNumerica ? QStringLiteral(" ORDER BY C.NrCerere, C.CerereID") : QStringLiteral(" ORDER BY C.CerereID");
+    Interogare q(db, sql);
+    for (const QVariant& v : valori)
+        q.Leaga(v);
+    q.Executa();
+    std::vector<RandCerere> randuri;
+    while (q.Urmator())
+        randuri.push_back(randDin(q));
+    return randuri;
+}
+
+RandCerere ListaCereri::Citeste(BazaDate& db, qint64 cerereID) {
+    Interogare q(db, SelectLista + QStringLiteral(" WHERE C.CerereID = ?"));
+    q.Leaga(cerereID);
+    return q.Exista() ? randDin(q) : RandCerere{};
+}
+
+QString ListaCereri::TextRezultat(qsizetype n) {
+    if (n == 0)
+        return QStringLiteral(" Nu exista nici o cerere");
+    if (n == 1)
+        return QStringLiteral(" o cerere");
+    return QStringLiteral("%1 cereri").arg(n);
+}
+
+QString ListaCereri::DenumirePrimarie(BazaDate& db, bool* exista) {
+    Interogare q(db, QStringLiteral("SELECT Denumire FROM DatePrimarie"));
+    const bool gasit = q.Exista();
+    if (exista)
+        *exista = gasit;
+    return gasit ? q.Text(QStringLiteral("Denumire")) : QString();
+}
+
+void ListaCereri::Sterge(BazaDate& db, qint64 cerereID) {
+    Tranzactie t(db);
+    Interogare cerere(db, QStringLiteral("SELECT FamilieID FROM Cereri WHERE CerereID = ?"));
+    cerere.Leaga(cerereID);
+    if (!cerere.Exista()) {
+        t.Confirma();
+        return;
+    }
+    const QVariant familie = cerere.Valoare(0);
+    cerere.query().finish();
+
+    // A person who is on another request stays.
+    Interogare(db, QStringLiteral("DELETE FROM Membrii WHERE MembruID IN (SELECT MembruID FROM CereriMembrii WHERE CerereID = ?) "
+                                  "AND NOT EXISTS (SELECT 1 FROM CereriMembrii X WHERE X.MembruID = Membrii.MembruID "
+                                  "AND X.CerereID <> ?)"))
+        .Leaga(cerereID).Leaga(cerereID).Executa();
+
+    Interogare alte(db, QStringLiteral("SELECT COUNT(CerereID) AS Nr FROM Cereri WHERE FamilieID = ?"));
+    alte.Leaga(familie).Exista();
+    // The family row is found by the request's own key: one family per request, same number.
+    if (alte.Intreg(QStringLiteral("Nr")) <= 1)
+        Interogare(db, QStringLiteral("DELETE FROM Familii WHERE FamilieID = ?")).Leaga(cerereID).Executa();
+
+    // When both the titular and the family are shared, no cascade reaches the request itself.
+    Interogare(db, QStringLiteral("DELETE FROM Cereri WHERE CerereID = ?")).Leaga(cerereID).Executa();
+    t.Confirma();
+}

@@ -1,0 +1,56 @@
+#include "shell/frmChLunaAn.h"
+
+#include "shell/Eroare.h"
+#include "shell/LunaLucru.h"
+#include "shell/Mesaje.h"
+#include "shell/Program.h"
+#include "shell/ServiciuFisiere.h"
+#include "shell/Setari.h"
+#include "shell/Val.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+
+frmChLunaAn::frmChLunaAn(Program& p, Mesaje& m, QWidget* parinte) : QDialog(parinte), p_(p), m_(m) {
+    setObjectName(QStringLiteral("frmChLunaAn"));
+    setWindowTitle(QStringLiteral("Schimbare Luna si An"));
+    auto* forma = new QFormLayout(this);
+    txtLuna = new QLineEdit(QString::number(p_.setari.LunaSetata), this);
+    txtLuna->setObjectName(QStringLiteral("txtLuna"));
+    txtAn = new QLineEdit(QString::number(p_.setari.AnSetat), this);
+    txtAn->setObjectName(QStringLiteral("txtAn"));
+    forma->addRow(QStringLiteral("Luna:"), txtLuna);
+    forma->addRow(QStringLiteral("Anul:"), txtAn);
+    auto* butoane = new QHBoxLayout;
+    cmdOK = new QPushButton(QStringLiteral("OK"), this);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    butoane->addWidget(cmdOK);
+    butoane->addWidget(cmdCancel);
+    forma->addRow(butoane);
+    connect(cmdOK, &QPushButton::clicked, this, &frmChLunaAn::cmdOK_Click);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void frmChLunaAn::cmdOK_Click() {
+    try {
+        if (const auto refuz = LunaLucru::Verifica(p_.bd, txtLuna->text(), txtAn->text())) {
+            m_.Informatie(*refuz);
+            return;
+        }
+        const int luna = int(Val(txtLuna->text()));
+        const int an = int(Val(txtAn->text()));
+        ServiciuFisiere::ScrieIni(p_.FisierSetari(), QStringLiteral("Setari"), QStringLiteral("LunaSetata"), QString::number(luna));
+        ServiciuFisiere::ScrieIni(p_.FisierSetari(), QStringLiteral("Setari"), QStringLiteral("AnSetat"), QString::number(an));
+        p_.setari.LunaSetata = luna;
+        p_.setari.AnSetat = an;
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+        return;
+    }
+    accept();
+}

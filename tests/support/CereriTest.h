@@ -1,0 +1,48 @@
+#pragma once
+
+#include "store/BazaDate.h"
+
+#include <QDate>
+#include <QList>
+#include <QString>
+
+// A request written straight to the tables, for tests that need a few known case files.
+struct CerereTest {
+    qint64 cerereID = 0;
+    qint64 familieID = 0; // 0: same as cerereID
+    qint64 nrCerere = 0;
+    int stare = 2;
+    int tipCerere = 1;
+    QString localitate = QStringLiteral("Branesti");
+    QString strada;
+    struct Persoana {
+        qint64 membruID;
+        QString nume, prenume, cnp;
+        int rudenie;
+    };
+    QList<Persoana> persoane; // the first is the titular
+};
+
+inline void AdaugaCerereTest(BazaDate& db, const CerereTest& c) {
+    Tranzactie t(db);
+    const qint64 familie = c.familieID ? c.familieID : c.cerereID;
+    Interogare existaFamilie(db, QStringLiteral("SELECT 1 FROM Familii WHERE FamilieID = ?"));
+    existaFamilie.Leaga(familie);
+    if (!existaFamilie.Exista())
+        Interogare(db, QStringLiteral("INSERT INTO Familii (FamilieID, Localitate, Strada, Nr) VALUES (?, ?, ?, ?)"))
+            .Leaga(familie).Leaga(c.localitate).Leaga(c.strada).Leaga(QStringLiteral("12")).Executa();
+    Interogare(db, QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, NrCerere, DataCerere, MembruID1, Stare, TipCerere, "
+                                  "NrMembrii, NrCopii, VenitTotal, Cuantum) VALUES (?, ?, ?, ?, ?, ?, ?, ?, 1, 1200.5, 164)"))
+        .Leaga(c.cerereID).Leaga(familie).Leaga(c.nrCerere).Leaga(QDate(2024, 3, 15)).Leaga(c.persoane.first().membruID)
+        .Leaga(c.stare).Leaga(c.tipCerere).Leaga(qint64(c.persoane.size())).Executa();
+    for (const auto& p : c.persoane) {
+        Interogare exista(db, QStringLiteral("SELECT 1 FROM Membrii WHERE MembruID = ?"));
+        exista.Leaga(p.membruID);
+        if (!exista.Exista())
+            Interogare(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"))
+                .Leaga(p.membruID).Leaga(p.nume).Leaga(p.prenume).Leaga(p.cnp).Executa();
+        Interogare(db, QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID) VALUES (?, ?, ?)"))
+            .Leaga(c.cerereID).Leaga(p.membruID).Leaga(p.rudenie).Executa();
+    }
+    t.Confirma();
+}
