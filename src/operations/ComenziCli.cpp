@@ -85,7 +85,10 @@ int demo(const QCommandLineParser& p, QTextStream& out, QTextStream&) {
     auto db = BazaDate::Deschide(locatie(p));
     QElapsedTimer ceas;
     ceas.start();
-    Demo::Genereaza(*db, o);
+    Demo::Genereaza(*db, o, [&](int facute, int total) {
+        out << facute << " / " << total << " cereri (" << QString::number(ceas.elapsed() / 1000.0, 'f', 1) << " s)"
+            << Qt::endl;
+    });
     out << o.cereri << " cereri adaugate in " << QString::number(ceas.elapsed() / 1000.0, 'f', 1) << " s" << Qt::endl;
     return 0;
 }

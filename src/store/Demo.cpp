@@ -1,7 +1,1316 @@
 #include "store/Demo.h"
 
+#include "shell/Bani.h"
+#include "shell/Ceas.h"
 #include "shell/Eroare.h"
+#include "shell/Functii.h"
+#include "store/BazaDate.h"
 
-void Demo::Genereaza(BazaDate&, const Optiuni&, const std::function<void(int, int)>&) {
-    throw Eroare(QStringLiteral("demo: inca nu este disponibil"));
+#include <QDate>
+#include <QStringList>
+#include <QVariant>
+#include <algorithm>
+#include <map>
+#include <random>
+#include <unordered_set>
+#include <vector>
+
+namespace {
+
+// The standard distributions may differ from one library to another; drawing straight from the
+// engine keeps a seed's data the same on every platform.
+class Zar {
+public:
+    explicit Zar(quint64 samanta) : g_(samanta) {}
+
+    int Intre(int a, int b) { return b <= a ? a : a + int(g_() % quint64(b - a + 1)); }
+    bool Sansa(int procente) { return Intre(1, 100) <= procente; }
+    QDate ZiIntre(const QDate& a, const QDate& b) {
+        return b <= a ? a : a.addDays(qint64(g_() % quint64(a.daysTo(b) + 1)));
+    }
+    // One of the values, each drawn in proportion to its weight.
+    int Ponderat(std::initializer_list<std::pair<int, int>> optiuni) {
+        int total = 0;
+        for (const auto& o : optiuni)
+            total += o.second;
+        int r = Intre(1, total);
+        for (const auto& o : optiuni)
+            if ((r -= o.second) <= 0) return o.first;
+        return optiuni.begin()->first;
+    }
+    const QString& Unul(const QStringList& l) { return l[Intre(0, int(l.size()) - 1)]; }
+    QString Cifre(int n) {
+        QString s;
+        for (int i = 0; i < n; ++i)
+            s += QChar(u'0' + Intre(0, 9));
+        return s;
+    }
+
+private:
+    std::mt19937_64 g_;
+};
+
+QStringList lista(std::initializer_list<const char*> l) {
+    QStringList r;
+    for (const char* s : l)
+        r << QString::fromUtf8(s);
+    return r;
+}
+
+struct Texte {
+    QStringList familie, barbati, femei, baieti, fete, strazi, asiguratori, functionari, bunuri, igiena, sanatate,
+        nevoi, aspecte, suspendare, incetare, schimbareTitular, modificare;
+};
+
+// clang-format off
+const Texte& texte() {
+    static const Texte t{
+        lista({"Popescu", "Ionescu", "Popa", "Pop", "Radu", "Dumitru", "Stan", "Stoica", "Gheorghe", "Matei",
+               "Ciobanu", "Rusu", "Munteanu", "Constantin", "Marin", "Mihai", "Ene", "Ilie", "Tudor", "Florea",
+               "Dinu", "Barbu", "Nistor", "Moldovan", "Lungu", "Cristea", "Toma", "Zamfir", "Sandu", "Lazăr",
+               "Dobre", "Anghel", "Voicu", "Preda", "Neagu", "Oprea", "Mocanu", "Ungureanu", "Vasile", "Manea",
+               "Sima", "Bălan", "Roman", "Cojocaru", "Apostol", "Ursu", "Tănase", "Diaconu", "Grigore", "Iordache",
+               "Nedelcu", "Bogdan", "Enache", "Paraschiv", "Pavel", "Petrescu", "Avram", "Chiriac", "Olteanu",
+               "Moraru", "Țurcanu", "Șerban", "Stănescu", "Niculescu", "Dragomir", "Iancu", "Bratu", "Cozma",
+               "Husar", "Mureșan", "Rotaru", "Costache", "Ababei", "Agache", "Lupu", "Vlad"}),
+        lista({"Ion", "Gheorghe", "Vasile", "Constantin", "Nicolae", "Mihai", "Ioan", "Alexandru", "Andrei",
+               "Adrian", "Daniel", "Marian", "Florin", "Ionuț", "Cătălin", "Cristian", "Dumitru", "Bogdan", "Costel",
+               "Marius", "Ștefan", "Sorin", "Lucian", "Răzvan", "Gabriel", "Viorel", "Petru", "Valentin", "Cosmin",
+               "Mădălin", "Claudiu", "Silviu", "Liviu", "Dănuț", "George", "Iulian", "Laurențiu", "Ovidiu"}),
+        lista({"Maria", "Elena", "Ioana", "Ana", "Mihaela", "Andreea", "Cristina", "Daniela", "Gabriela", "Alina",
+               "Nicoleta", "Georgiana", "Florentina", "Mariana", "Ramona", "Simona", "Adriana", "Roxana",
+               "Loredana", "Monica", "Oana", "Irina", "Alexandra", "Carmen", "Larisa", "Raluca", "Camelia",
+               "Luminița", "Violeta", "Lăcrămioara", "Petronela", "Diana", "Claudia", "Iuliana", "Valentina"}),
+        lista({"David", "Andrei", "Alexandru", "Ștefan", "Luca", "Matei", "Darius", "Mihai", "Rareș", "Gabriel",
+               "Sebastian", "Eduard", "Teodor", "Denis", "Mario", "Robert", "Vlad", "Răzvan", "Ionuț", "Antonio",
+               "Fabian", "Cristian", "Bogdan", "Daniel", "Tudor", "Albert", "Eric", "Paul", "Victor", "Aris"}),
+        lista({"Maria", "Ioana", "Sofia", "Elena", "Daria", "Eliza", "Ana", "Alesia", "Bianca", "Andreea", "Alexia",
+               "Antonia", "Medeea", "Denisa", "Larisa", "Rebeca", "Delia", "Sara", "Melisa", "Iasmina", "Miruna",
+               "Ariana", "Karina", "Natalia", "Teodora", "Ilinca", "Anastasia", "Amalia", "Evelina", "Patricia"}),
+        lista({"Strada Mihai Eminescu", "Strada Ștefan cel Mare", "Strada Unirii", "Strada Libertății",
+               "Strada Republicii", "Strada Independenței", "Strada Gării", "Strada Florilor", "Strada Morii",
+               "Strada Școlii", "Strada Bisericii", "Strada Primăverii", "Bulevardul 1 Decembrie 1918",
+               "Strada Avram Iancu", "Strada Tudor Vladimirescu", "Strada Nicolae Bălcescu",
+               "Strada Alexandru Ioan Cuza", "Strada Mihai Viteazu", "Strada Decebal", "Strada Traian",
+               "Strada Păcii", "Strada Victoriei", "Strada Crinului", "Strada Teilor", "Strada Salcâmilor",
+               "Strada Plopilor", "Strada Viilor", "Strada Cireșilor", "Strada Zorilor", "Strada Lalelelor",
+               "Strada Ion Creangă", "Strada George Coșbuc", "Strada Vasile Alecsandri", "Strada Fabricii"}),
+        lista({"Allianz-Țiriac Asigurări", "Groupama Asigurări", "Omniasig", "Asirom", "Generali România",
+               "Grawe România"}),
+        lista({"Elena Marinescu", "Ana-Maria Lungu", "Cristina Dobrescu", "Mihaela Ursache", "Gabriel Tomescu",
+               "Daniela Pricop", "Ioan Chirilă", "Simona Vrabie"}),
+        lista({"televizor, frigider, aragaz", "televizor, frigider, mașină de spălat", "aragaz, frigider",
+               "mobilier uzat, televizor", "televizor, frigider, calculator", "frigider, aragaz, mobilier",
+               "televizor, mașină de spălat, aragaz, mobilier"}),
+        lista({"corespunzătoare", "bune", "satisfăcătoare", "precare", "foarte bune"}),
+        lista({"Membrii familiei sunt clinic sănătoși", "Nu sunt probleme de sănătate declarate",
+               "Titularul suferă de o boală cronică", "Un copil este în evidența medicului de familie",
+               "Starea de sănătate a membrilor este bună"}),
+        lista({"Nu este cazul", "Sprijin pentru rechizite școlare", "Lemne de foc pentru iarnă",
+               "Îmbrăcăminte și încălțăminte pentru copii", "Sprijin pentru plata utilităților"}),
+        lista({"Copiii frecventează cursurile școlare", "Familia locuiește împreună cu bunicii",
+               "Locuința este îngrijită", "Copiii sunt îngrijiți corespunzător", "Familia are o gospodărie modestă",
+               "Părinții sunt preocupați de educația copiilor"}),
+        lista({"Nu a depus adeverința de elev", "Nu a depus actele la termen",
+               "Ancheta socială nu a putut fi efectuată"}),
+        lista({"Schimbarea domiciliului în altă localitate", "Renunțarea la drept", "Plecarea familiei în străinătate",
+               "Nu a prezentat actele solicitate"}),
+        lista({"Titularul a plecat la muncă în străinătate", "Cererea părinților",
+               "Titularul s-a angajat în altă localitate"}),
+        lista({"Modificarea numărului de copii", "Modificarea veniturilor familiei",
+               "Modificarea cuantumului prin lege"}),
+    };
+    return t;
+}
+// clang-format on
+
+struct Judet {
+    int cod;
+    const char* nume;
+    const char* serie; // of identity cards
+};
+
+const Judet Judete[] = {
+    {1, "Alba", "AB"},       {2, "Arad", "AR"},           {3, "Argeș", "AG"},
+    {4, "Bacău", "BC"},      {5, "Bihor", "BH"},          {6, "Bistrița-Năsăud", "BN"},
+    {7, "Botoșani", "BT"},   {8, "Brașov", "BV"},         {9, "Brăila", "BR"},
+    {10, "Buzău", "BZ"},     {11, "Caraș-Severin", "CS"}, {12, "Cluj", "CJ"},
+    {13, "Constanța", "CT"}, {14, "Covasna", "CV"},       {15, "Dâmbovița", "DB"},
+    {16, "Dolj", "DJ"},      {17, "Galați", "GL"},        {18, "Gorj", "GJ"},
+    {19, "Harghita", "HR"},  {20, "Hunedoara", "HD"},     {21, "Ialomița", "IL"},
+    {22, "Iași", "IS"},      {23, "Ilfov", "IF"},         {24, "Maramureș", "MM"},
+    {25, "Mehedinți", "MH"}, {26, "Mureș", "MS"},         {27, "Neamț", "NT"},
+    {28, "Olt", "OT"},       {29, "Prahova", "PH"},       {30, "Satu Mare", "SM"},
+    {31, "Sălaj", "SJ"},     {32, "Sibiu", "SB"},         {33, "Suceava", "SV"},
+    {34, "Teleorman", "TR"}, {35, "Timiș", "TM"},         {36, "Tulcea", "TL"},
+    {37, "Vaslui", "VS"},    {38, "Vâlcea", "VL"},        {39, "Vrancea", "VN"},
+    {40, "București", "RD"}, {51, "Călărași", "CL"},      {52, "Giurgiu", "GR"},
+};
+
+// County codes a CNP may carry: the counties, and the six sectors of Bucharest.
+std::vector<int> coduriCnp() {
+    std::vector<int> c;
+    for (const auto& j : Judete)
+        c.push_back(j.cod);
+    for (int s = 41; s <= 46; ++s)
+        c.push_back(s);
+    std::sort(c.begin(), c.end());
+    return c;
+}
+
+struct Oras {
+    const char* nume;
+    int judet;
+};
+
+const Oras Orase[] = {{"Pașcani", 22}, {"Câmpina", 29}, {"Fălticeni", 33}, {"Caracal", 28},
+                      {"Roman", 27},   {"Lugoj", 35},   {"Dej", 12},       {"Tecuci", 17},
+                      {"Bârlad", 37},  {"Onești", 4},   {"Făgăraș", 8},    {"Sighișoara", 26}};
+
+struct Banca {
+    const char* cod;
+    const char* nume;
+};
+
+const Banca Banci[] = {{"BTRL", "Banca Transilvania"},
+                       {"BRDE", "BRD - Groupe Société Générale"},
+                       {"RNCB", "Banca Comercială Română"},
+                       {"RZBR", "Raiffeisen Bank"},
+                       {"CECE", "CEC Bank"},
+                       {"INGB", "ING Bank"},
+                       {"BACX", "UniCredit Bank"}};
+
+// A good of the catalogue with the quantities a family of the town may hold.
+struct Bun {
+    int rand;         // NrBifa of ListaBife
+    int minim, maxim; // in steps
+    qint64 pas;       // Bani units of one step
+};
+
+const Bun Bunuri[] = {
+    {11, 2, 30, 500},   {12, 2, 30, 500},   {21, 1, 6, 500},   {26, 1, 4, 500},
+    {28, 2, 20, 500},   {29, 2, 20, 500},   {32, 1, 6, 500},   {45, 1, 2, 10000},
+    {67, 1, 4, 10000},  {59, 2, 15, 10000}, {62, 1, 6, 10000}, {73, 2, 10, 10000},
+    {74, 5, 30, 10000}, {77, 2, 10, 10000}, {79, 2, 8, 10000}, {80, 2, 6, 10000},
+};
+
+const QDate Inceput(2013, 1, 3);
+const QDate UltimaCerere(2025, 12, 31);
+const QDate PragConstante(2013, 7, 1);
+
+bool EsteCopil(int rudenie) {
+    return rudenie == 3 || (rudenie >= 6 && rudenie <= 10);
+}
+bool InPlata(int stare) {
+    return stare == 2 || stare == 6 || stare == 7 || stare == 8;
+}
+QDate IntaiaZi(const QDate& d) {
+    return QDate(d.year(), d.month(), 1);
+}
+QVariant TextSauNul(const QString& s) {
+    return s.isEmpty() ? QVariant() : QVariant(s);
+}
+
+int Varsta(const QDate& nastere, const QDate& la) {
+    int v = la.year() - nastere.year();
+    if (nastere.addYears(v) > la) --v;
+    return v;
+}
+
+QString Roman(int n) {
+    static const char* const r[] = {"pregătitoare", "I",    "II", "III", "IV", "V",  "VI",
+                                    "VII",          "VIII", "IX", "X",   "XI", "XII"};
+    return QString::fromUtf8(r[std::clamp(n, 0, 12)]);
+}
+
+// An IBAN with its real check digits, on a made-up account of a real bank code.
+QString Iban(Zar& zar, const char* banca) {
+    QString bban = QString::fromLatin1(banca);
+    static const char alfanum[] = "ABCDEFGHJKLMNPRSTUVWXYZ0123456789";
+    for (int i = 0; i < 4; ++i)
+        bban += QLatin1Char(alfanum[zar.Intre(0, int(sizeof(alfanum)) - 2)]);
+    bban += zar.Cifre(12);
+    int rest = 0;
+    for (const QChar c : bban + QStringLiteral("RO00")) {
+        const int v = c.isDigit() ? c.unicode() - u'0' : c.unicode() - u'A' + 10;
+        rest = (v >= 10 ? rest * 100 : rest * 10) + v;
+        rest %= 97;
+    }
+    return QStringLiteral("RO%1%2").arg(98 - rest, 2, 10, QLatin1Char('0')).arg(bban);
+}
+
+struct RandBarem {
+    int tip, nrPers;
+    Bani suma, barem;
+    QDate inceput, stop;
+};
+
+class Generator {
+public:
+    Generator(BazaDate& db, quint64 samanta, const QDate& azi);
+    void Lot(int n);
+
+private:
+    struct Persoana {
+        qint64 id = 0;
+        QString nume, prenume, cnp, serie, numar, eliberat, uScolara, clasa;
+        bool barbat = false, dizabilitate = false, dim20 = false, dim50 = false, peste20 = false;
+        QDate nastere, dataElib;
+        int rudenie = 1, ocupatie = 0, studii = 0, stCivila = 0, drAsSociala = 0, tipAct = 2, judet = 0;
+        qint64 venit = 0; // hundredths of a leu
+        bool nou = false; // joined after the request was filed
+    };
+    struct Eveniment {
+        int actiune;
+        QDate dinData;
+        Bani cuantum;
+    };
+    struct Sursa {
+        int cod;
+        size_t persoana;
+        qint64 bani;
+    };
+    struct Dosar {
+        qint64 id = 0;
+        int stare = 0, tip = 0, motivSchimbare = 0, motivRespingere = 0;
+        QDate dataCerere, dataStare;
+        QString motivStare;
+        std::vector<Eveniment> evenimente;
+        std::vector<Persoana> persoane; // the titular first, then the partner of a couple
+        std::vector<Sursa> surse;
+        qint64 venitTotal = 0, venitPeMembru = 0, venitVechi = 0; // hundredths of a leu
+        QString bife = QStringLiteral("0000000000");
+        std::vector<std::pair<int, Bani>> bunuri; // stored NrBifa, quantity
+        Bani valoareBunuri;
+        bool bloc = false;
+        int felLocuinta = 1, camere = 2, suprafata = 50, nrCopii = 0;
+        Bani cuantum;
+    };
+
+    void citesteReferinte();
+    void citesteChei();
+    void cerere();
+    void cronologie(Dosar& d);
+    void familie(Dosar& d);
+    Persoana persoana(const QDate& nastere, bool barbat, const QString& nume, int rudenie, const QDate& dataCerere);
+    QString cnp(const QDate& nastere, bool barbat, int judet);
+    int ocupatieAdult(bool cuBebelus);
+    void venituri(Dosar& d);
+    void bunuri(Dosar& d);
+    void locuinta(Dosar& d);
+    void sume(Dosar& d);
+    int copiiLa(const Dosar& d, const QDate& data) const;
+    Bani cuantumLa(const Dosar& d, const QDate& data, qint64 venitPeMembru, bool cuReduceri) const;
+    const RandBarem* barem(int tip, int nrPers, const Bani& treapta, const QDate& data) const;
+    void scrie(Dosar& d);
+    void scrieAdeverinte(const Dosar& d);
+    void scrieDispozitii(const Dosar& d);
+    void scrieAnchete(const Dosar& d);
+
+    BazaDate& db_;
+    Zar zar_;
+    const QDate azi_, lunaAzi_, ultimaCerere_;
+
+    // What the database says about the scale, the catalogues and the town.
+    Bani isr_ = Bani::DinLei(500), pragJos_, pragSus_;
+    std::vector<RandBarem> barem_;
+    std::map<int, Bani> valoriBife_;
+    int nrActe_ = 28;
+    QString localitate_, judet_, serieJudet_;
+    int codJudet_ = 22;
+    QStringList functionari_;
+    std::vector<int> coduriCnp_;
+    std::unordered_set<quint64> cnpFolosite_;
+
+    qint64 cerereID_ = 0, membruID_ = 0, adevID_ = 0, dispozitieID_ = 0, anchetaID_ = 0;
+    qint64 nrCerere_ = 0, nrDosar_ = 0, nrDisp_ = 0;
+
+    Interogare familii_, membrii_, cereri_, cereriMembrii_, venituri_, bifeText_, locuinte_, adeverinte_, dispozitii_,
+        anchete_;
+};
+
+QString insert(const char* tabela, std::initializer_list<const char*> campuri) {
+    QStringList nume, semne;
+    for (const char* c : campuri) {
+        nume << QString::fromLatin1(c);
+        semne << QStringLiteral("?");
+    }
+    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+        .arg(QString::fromLatin1(tabela), nume.join(QStringLiteral(", ")), semne.join(QStringLiteral(", ")));
+}
+
+// clang-format off
+Generator::Generator(BazaDate& db, quint64 samanta, const QDate& azi)
+    : db_(db), zar_(samanta), azi_(azi), lunaAzi_(IntaiaZi(azi)),
+      ultimaCerere_(std::min(UltimaCerere, azi.addDays(-1))), coduriCnp_(coduriCnp()),
+      familii_(db, insert("Familii", {"FamilieID", "Judet", "Localitate", "Strada", "Nr", "Sc", "Ap", "NrDosar2",
+                                      "NrDosar", "Bloc", "Etaj", "Telefon", "Mobil"})),
+      membrii_(db, insert("Membrii", {"MembruID", "Nume", "Prenume", "CNP", "SerieBI", "NrBI", "TipAct", "Eliberat",
+                                      "DataElib", "Dizabilitate"})),
+      cereri_(db, insert("Cereri", {"CerereID", "FamilieID", "NrCerere", "DataCerere", "MembruID1", "MembruID2",
+                                    "Stare", "NrMembrii", "NrCopii", "Cuantum", "MotivStare", "DataStare",
+                                    "VenitTotal", "VenitpeMembru", "ReprLegal", "ModPlata", "NumeTitularCont", "Cont",
+                                    "Banca", "Gospodarire", "GospodLoc", "RegimJuridLoc", "TipIncalzire",
+                                    "TipLocuinta", "Bife", "TipCerere", "LuniRetro", "Vmg", "Inc", "Supl", "Lege416",
+                                    "A1Solicita", "ActeBife", "TipDobandire", "Polita", "SocietatePolita", "NrPolita",
+                                    "DataStartPolita", "DataStopPolita", "AcoperaRiscuri", "NrCamere"})),
+      cereriMembrii_(db, insert("CereriMembrii",
+                                {"CerereID", "MembruID", "RudenieID", "OcupatieID", "Data18Ani", "Motiv", "CetatenieID",
+                                 "ResedintaID", "StCivila", "Studii", "DrAsSociala", "LucreazaAfara", "UScolara",
+                                 "Clasa", "RealizeazaVenit", "DataStare", "MotivID", "StareMembru", "Diminuare20",
+                                 "Diminuare50", "LocuitAfara", "Venit", "VMG", "Alocatie", "Incalzire", "LocScoala",
+                                 "Repetent", "Abandon", "Peste20abs"})),
+      venituri_(db, insert("Venituri", {"CerereID", "CodVenit", "Valoare"})),
+      bifeText_(db, insert("BifeText", {"CerereID", "NrBifa", "Valoare"})),
+      locuinte_(db, insert("Locuinte", {"CerereID", "Cod", "NrCamere", "Suprafata"})),
+      adeverinte_(db, insert("Adeverinte", {"AdevID", "CerereID", "MembruID", "TipAdeverinta", "NrAdev",
+                                            "DataAdeverinta", "DataExpAdev", "DataDepunerii", "AdvCurenta"})),
+      dispozitii_(db, insert("Dispozitii", {"DispozitieID", "CerereID", "NrDisp", "DataDisp", "DinData", "Luna", "An",
+                                            "Actiune", "Cuantum", "CuantumVechi", "Motiv", "BeneficiarID",
+                                            "NumeTitularVechi"})),
+      anchete_(db, insert("Anchete", {"AnchetaID", "CerereID", "DataAncheta", "Intocmitor", "DataExpirarii", "Motiv",
+                                      "NrMembrii", "NrCopii", "TipLocuinta", "RegimJuridic", "NrCamere", "SuprUtila",
+                                      "Bunuri", "Igiena", "TipLocuire", "TipDetinere", "Teren", "Cladiri",
+                                      "StareSanatate", "Nevoi", "Aspecte"})) {
+    // clang-format on
+    if (ultimaCerere_ < Inceput.addMonths(6))
+        throw Eroare(QStringLiteral("Datele demonstrative incep in 2013; data de azi (%1) este prea veche.")
+                         .arg(azi.toString(QStringLiteral("dd.MM.yyyy"))));
+    citesteReferinte();
+}
+
+void Generator::citesteReferinte() {
+    pragJos_ = *Bani::DinText(u"210.2");
+    pragSus_ = *Bani::DinText(u"557.03");
+    {
+        Interogare q(db_, QStringLiteral("SELECT Continut FROM DateGen WHERE Denumire = ?"));
+        q.Leaga("ISR").Executa();
+        int randuri = 0;
+        QString text;
+        while (q.Urmator()) {
+            ++randuri;
+            text = q.Valoare(0).toString();
+        }
+        // As the amount's computation: the row counts only when it is the only one.
+        if (randuri == 1) isr_ = SumaText(text);
+    }
+    {
+        Interogare q(db_, QStringLiteral("SELECT Continut FROM DateGen WHERE Denumire = ?"));
+        q.Leaga("PRAGURI_VENIT").Executa();
+        if (q.Urmator()) {
+            const QStringList p = q.Valoare(0).toString().split(QLatin1Char('|'));
+            if (p.size() >= 2) {
+                pragJos_ = SumaText(p[0]);
+                pragSus_ = SumaText(p[1]);
+            }
+        }
+    }
+    {
+        Interogare q(db_, QStringLiteral("SELECT Tip, NrPers, Suma, Barem, DataInceput, DataStop FROM Barem"));
+        q.Executa();
+        while (q.Urmator())
+            barem_.push_back({int(q.Intreg(QStringLiteral("Tip"))), int(q.Intreg(QStringLiteral("NrPers"))),
+                              q.Suma(QStringLiteral("Suma")), q.Suma(QStringLiteral("Barem")),
+                              q.Data(QStringLiteral("DataInceput")), q.Data(QStringLiteral("DataStop"))});
+    }
+    {
+        Interogare q(db_, QStringLiteral("SELECT NrBifa, Valoare FROM ListaBife"));
+        q.Executa();
+        while (q.Urmator())
+            valoriBife_[int(q.Intreg(QStringLiteral("NrBifa")))] = q.Suma(QStringLiteral("Valoare"));
+    }
+    {
+        Interogare q(db_, QStringLiteral("SELECT COUNT(*) FROM ListaActe"));
+        if (q.Exista() && q.Intreg(0) > 0) nrActe_ = int(std::min<qint64>(q.Intreg(0), 30));
+    }
+
+    // The town: the town hall's own when it is filled in, else one drawn for the seed.
+    const Oras& oras = Orase[zar_.Intre(0, int(std::size(Orase)) - 1)];
+    localitate_ = QString::fromUtf8(oras.nume);
+    codJudet_ = oras.judet;
+    {
+        Interogare q(db_, QStringLiteral("SELECT Judet, Localitate FROM DatePrimarie"));
+        q.Executa();
+        if (q.Urmator() && !q.Text(QStringLiteral("Localitate")).trimmed().isEmpty()) {
+            localitate_ = q.Text(QStringLiteral("Localitate")).trimmed();
+            const QString judet = q.Text(QStringLiteral("Judet")).trimmed();
+            for (const auto& j : Judete)
+                if (judet.compare(QString::fromUtf8(j.nume), Qt::CaseInsensitive) == 0) codJudet_ = j.cod;
+        }
+    }
+    for (const auto& j : Judete)
+        if (j.cod == codJudet_) {
+            judet_ = QString::fromUtf8(j.nume);
+            serieJudet_ = QString::fromLatin1(j.serie);
+        }
+    QStringList toti = texte().functionari;
+    for (int i = 0; i < 3; ++i)
+        functionari_ << toti.takeAt(zar_.Intre(0, int(toti.size()) - 1));
+
+    Interogare q(db_, QStringLiteral("SELECT CNP FROM Membrii WHERE CNP IS NOT NULL"));
+    q.Executa();
+    while (q.Urmator()) {
+        bool ok = false;
+        const quint64 n = q.Valoare(0).toString().trimmed().toULongLong(&ok);
+        if (ok) cnpFolosite_.insert(n);
+    }
+}
+
+void Generator::citesteChei() {
+    cerereID_ = std::max(db_.CheieNoua(QStringLiteral("Cereri"), QStringLiteral("CerereID")),
+                         db_.CheieNoua(QStringLiteral("Familii"), QStringLiteral("FamilieID")));
+    membruID_ = db_.CheieNoua(QStringLiteral("Membrii"), QStringLiteral("MembruID"));
+    adevID_ = db_.CheieNoua(QStringLiteral("Adeverinte"), QStringLiteral("AdevID"));
+    dispozitieID_ = db_.CheieNoua(QStringLiteral("Dispozitii"), QStringLiteral("DispozitieID"));
+    anchetaID_ = db_.CheieNoua(QStringLiteral("Anchete"), QStringLiteral("AnchetaID"));
+    // The clerks' numbers are not keys: read once, they go on from the last one.
+    if (nrCerere_ == 0) {
+        nrCerere_ = db_.CheieNoua(QStringLiteral("Cereri"), QStringLiteral("NrCerere"));
+        nrDosar_ = db_.CheieNoua(QStringLiteral("Familii"), QStringLiteral("NrDosar"));
+        nrDisp_ = db_.CheieNoua(QStringLiteral("Dispozitii"), QStringLiteral("NrDisp"));
+    }
+}
+
+void Generator::Lot(int n) {
+    citesteChei();
+    for (int i = 0; i < n; ++i)
+        cerere();
+}
+
+void Generator::cerere() {
+    Dosar d;
+    d.id = cerereID_++;
+    d.stare = zar_.Ponderat({{2, 28}, {6, 7}, {7, 22}, {8, 4}, {1, 6}, {3, 8}, {4, 15}, {5, 10}});
+    d.tip = d.stare == 8 || zar_.Sansa(65) ? 1 : 2;
+    cronologie(d);
+    familie(d);
+    venituri(d);
+    bunuri(d);
+    locuinta(d);
+    sume(d);
+    scrie(d);
+}
+
+// The dispositions a request has had, in order, and the month from which each applies; the
+// status is the outcome of the last one.
+void Generator::cronologie(Dosar& d) {
+    std::vector<int> actiuni;
+    switch (d.stare) {
+    case 2:
+        actiuni = {1};
+        break;
+    case 3:
+        actiuni = {1, 3};
+        break;
+    case 4:
+        actiuni = zar_.Sansa(70) ? std::vector<int>{1, 5} : std::vector<int>{1, 2, 5};
+        break;
+    case 5:
+        actiuni = {4};
+        break;
+    case 6:
+        actiuni = {1, 3, 6};
+        break;
+    case 7:
+        actiuni = zar_.Sansa(75) ? std::vector<int>{1, 2} : std::vector<int>{1, 2, 2};
+        break;
+    case 8:
+        actiuni = {1, 2};
+        break;
+    default:
+        break;
+    }
+    const int ulterioare = std::max(0, int(actiuni.size()) - 1);
+    if (d.stare == 1)
+        d.dataCerere = zar_.ZiIntre(ultimaCerere_.addDays(-90), ultimaCerere_);
+    else
+        d.dataCerere = zar_.ZiIntre(Inceput, std::min(ultimaCerere_, lunaAzi_.addMonths(-2 * ulterioare - 1)));
+    const QDate luna0 = IntaiaZi(d.dataCerere).addMonths(1);
+    QDate luna = luna0;
+    for (size_t i = 0; i < actiuni.size(); ++i) {
+        if (i > 0) {
+            const QDate plafon = lunaAzi_.addMonths(-2 * int(actiuni.size() - 1 - i));
+            QDate tinta = std::min(luna.addMonths(zar_.Intre(2, 30)), plafon);
+            luna = std::max(tinta, luna.addMonths(1));
+        }
+        d.evenimente.push_back({actiuni[i], luna, {}});
+    }
+    d.dataStare = d.evenimente.empty() ? luna0 : d.evenimente.back().dinData;
+
+    const Texte& t = texte();
+    switch (d.stare) {
+    case 2:
+        d.motivStare = QStringLiteral("Îndeplinește condițiile legale");
+        break;
+    case 3:
+        d.motivStare = zar_.Unul(t.suspendare);
+        break;
+    case 4:
+        d.motivStare = zar_.Unul(t.incetare);
+        break;
+    case 6:
+        d.motivStare = QStringLiteral("A depus actele solicitate");
+        break;
+    case 7:
+        d.motivSchimbare = zar_.Sansa(50) ? 1 : 2;
+        d.motivStare = d.motivSchimbare == 1 ? QStringLiteral("Nașterea unui copil")
+                                             : QStringLiteral("Modificarea veniturilor familiei");
+        break;
+    case 8:
+        d.motivStare = zar_.Unul(t.schimbareTitular);
+        break;
+    default:
+        break;
+    }
+}
+
+QString Generator::cnp(const QDate& nastere, bool barbat, int judet) {
+    const int s = nastere.year() < 2000 ? (barbat ? 1 : 2) : (barbat ? 5 : 6);
+    int nnn = zar_.Intre(1, 999);
+    auto poz = std::find(coduriCnp_.begin(), coduriCnp_.end(), judet);
+    size_t ij = poz == coduriCnp_.end() ? 0 : size_t(poz - coduriCnp_.begin());
+    static const int ponderi[12] = {2, 7, 9, 1, 4, 6, 3, 5, 8, 2, 7, 9};
+    // A collision moves on to the next serial number, then the next county, without drawing:
+    // the rest of the data stays the same whatever the database already holds.
+    for (size_t incercari = 0; incercari < 999 * coduriCnp_.size(); ++incercari) {
+        const int jj = coduriCnp_[ij];
+        const int c[12] = {s,
+                           nastere.year() % 100 / 10,
+                           nastere.year() % 10,
+                           nastere.month() / 10,
+                           nastere.month() % 10,
+                           nastere.day() / 10,
+                           nastere.day() % 10,
+                           jj / 10,
+                           jj % 10,
+                           nnn / 100,
+                           nnn / 10 % 10,
+                           nnn % 10};
+        int suma = 0;
+        quint64 numar = 0;
+        for (int i = 0; i < 12; ++i) {
+            suma += c[i] * ponderi[i];
+            numar = numar * 10 + quint64(c[i]);
+        }
+        const int control = suma % 11 == 10 ? 1 : suma % 11;
+        numar = numar * 10 + quint64(control);
+        if (cnpFolosite_.insert(numar).second) return QStringLiteral("%1").arg(numar, 13, 10, QLatin1Char('0'));
+        nnn = nnn % 999 + 1;
+        if (incercari % 999 == 998) ij = (ij + 1) % coduriCnp_.size();
+    }
+    throw Eroare(QStringLiteral("Nu mai exista coduri numerice personale libere pentru data %1")
+                     .arg(nastere.toString(QStringLiteral("dd.MM.yyyy"))));
+}
+
+Generator::Persoana Generator::persoana(const QDate& nastere, bool barbat, const QString& nume, int rudenie,
+                                        const QDate& dataCerere) {
+    const Texte& t = texte();
+    Persoana p;
+    p.id = membruID_++;
+    p.nastere = nastere;
+    p.barbat = barbat;
+    p.nume = nume;
+    p.rudenie = rudenie;
+    const bool tanar = nastere.year() >= 2000;
+    p.prenume = zar_.Unul(barbat ? (tanar ? t.baieti : t.barbati) : (tanar ? t.fete : t.femei));
+    p.judet = zar_.Sansa(80) ? codJudet_ : coduriCnp_[size_t(zar_.Intre(0, int(coduriCnp_.size()) - 1))];
+    p.cnp = cnp(nastere, barbat, p.judet);
+    p.dizabilitate = zar_.Sansa(2);
+    p.numar = zar_.Cifre(6);
+    if (Varsta(nastere, dataCerere) >= 14) {
+        p.tipAct = zar_.Ponderat({{2, 80},
+                                  {8, dataCerere >= QDate(2021, 8, 1) ? 10 : 0},
+                                  {1, nastere.year() < 1985 ? 5 : 0},
+                                  {3, 3},
+                                  {9, 2}});
+        p.serie = serieJudet_;
+        p.eliberat = (QStringLiteral("SPCLEP ") + localitate_).left(30);
+        p.dataElib = zar_.ZiIntre(std::max(nastere.addYears(14), dataCerere.addYears(-10)), dataCerere.addDays(-1));
+    } else {
+        p.tipAct = 4;
+        p.serie = QStringLiteral("N");
+        p.eliberat = (QStringLiteral("Primăria ") + localitate_).left(30);
+        p.dataElib = nastere.addDays(zar_.Intre(3, 30));
+    }
+    return p;
+}
+
+int Generator::ocupatieAdult(bool cuBebelus) {
+    if (cuBebelus && zar_.Sansa(45)) return 10;
+    return zar_.Ponderat({{1, 34}, {3, 9}, {4, 15}, {5, 14}, {6, 8}, {7, 3}, {11, 9}, {12, 4}, {13, 2}, {14, 2}});
+}
+
+void Generator::familie(Dosar& d) {
+    const Texte& t = texte();
+    const bool singur = (d.stare == 1 || d.stare == 5) && zar_.Sansa(12);
+    int copii = singur ? 0 : zar_.Ponderat({{1, 33}, {2, 32}, {3, 18}, {4, 9}, {5, 5}, {6, 3}});
+    const bool major = !singur && zar_.Sansa(6);
+    const int ruda = singur ? 0 : zar_.Ponderat({{0, 90}, {4, 7}, {5, 3}});
+    const bool nouNascut = d.motivSchimbare == 1;
+    const int adulti = (d.tip == 1 ? 2 : 1) + (ruda ? 1 : 0);
+    copii = std::min(copii, 8 - adulti - (major ? 1 : 0) - (nouNascut ? 1 : 0));
+
+    // Births of the children: the youngest is still a minor when the request is last looked at,
+    // the others of any age under 18 on the day of the request.
+    const QDate minorLa = InPlata(d.stare) ? std::max(azi_, d.dataStare) : d.dataStare;
+    const QDate primaNastere = d.dataCerere.addYears(-18).addDays(1);
+    std::vector<std::pair<QDate, bool>> nasteri; // date, joined later
+    for (int i = 0; i < copii; ++i) {
+        QDate jos = primaNastere;
+        if (i == 0) jos = std::max(jos, minorLa.addYears(-18).addDays(1));
+        nasteri.push_back({zar_.ZiIntre(std::min(jos, d.dataCerere), d.dataCerere), false});
+    }
+    if (major) nasteri.push_back({d.dataCerere.addYears(-zar_.Intre(18, 19)).addDays(-zar_.Intre(0, 300)), false});
+    if (nouNascut) {
+        const QDate dupa = d.evenimente[0].dinData, inainte = d.evenimente[1].dinData;
+        nasteri.push_back({zar_.ZiIntre(dupa.addDays(1), inainte.addDays(-1)), true});
+    }
+    std::sort(nasteri.begin(), nasteri.end());
+    QDate celMaiTanar;
+    for (const auto& n : nasteri)
+        if (!n.second) celMaiTanar = n.first;
+
+    QDate mama, tata;
+    if (nasteri.empty())
+        mama = d.dataCerere.addYears(-zar_.Intre(18, 45)).addDays(-zar_.Intre(0, 364));
+    else
+        mama = nasteri.front().first.addYears(-zar_.Intre(18, 34)).addDays(-zar_.Intre(0, 364));
+    tata = mama.addDays(-zar_.Intre(-2 * 365, 8 * 365));
+    const QDate tataMajor = (nasteri.empty() ? d.dataCerere : nasteri.front().first).addYears(-18);
+    if (tata > tataMajor) tata = tataMajor.addDays(-zar_.Intre(0, 700));
+
+    const bool titularMama = zar_.Sansa(d.tip == 1 ? 75 : 85);
+    const bool casatoriti = d.tip == 1 && zar_.Sansa(80);
+    const QString numeTata = zar_.Unul(t.familie);
+    const QString numeMama = casatoriti ? numeTata : zar_.Unul(t.familie);
+    const int stCivila = d.tip == 1 ? (casatoriti ? 1 : 6) : zar_.Ponderat({{2, 35}, {3, 35}, {4, 10}, {5, 20}});
+    bool bebelus = false;
+    for (const auto& n : nasteri)
+        bebelus = bebelus || (!n.second && Varsta(n.first, d.dataCerere) < 2);
+
+    auto adult = [&](Persoana p, bool mamaCopiilor) {
+        p.ocupatie = ocupatieAdult(mamaCopiilor && bebelus);
+        p.studii = zar_.Ponderat({{1, 8}, {2, 45}, {3, 40}, {4, 7}});
+        p.drAsSociala = p.ocupatie == 1 ? 1 : zar_.Ponderat({{2, 30}, {3, 40}, {4, 30}});
+        p.stCivila = stCivila;
+        return p;
+    };
+    const QString numeTitular = titularMama ? numeMama : numeTata;
+    d.persoane.push_back(
+        adult(persoana(titularMama ? mama : tata, !titularMama, numeTitular, 1, d.dataCerere), titularMama));
+    if (d.tip == 1)
+        d.persoane.push_back(
+            adult(persoana(titularMama ? tata : mama, titularMama, titularMama ? numeTata : numeMama, 2, d.dataCerere),
+                  !titularMama));
+
+    const QString numeCopii =
+        d.tip == 1 ? numeTata : (!titularMama || zar_.Sansa(70) ? numeTitular : zar_.Unul(t.familie));
+    for (const auto& [nastere, nou] : nasteri) {
+        const int rudenie = zar_.Sansa(90) ? 3 : zar_.Intre(6, 10);
+        Persoana c = persoana(nastere, zar_.Sansa(50), numeCopii, rudenie, d.dataCerere);
+        c.nou = nou;
+        // The school situation as it stands at the last decision.
+        const int v = Varsta(nastere, d.dataStare);
+        if (v < 6)
+            c.ocupatie = 1;
+        else if (zar_.Sansa(3) && v < 18)
+            c.ocupatie = 2;
+        else
+            c.ocupatie = v < 15 ? 3 : 4;
+        c.studii = c.ocupatie;
+        c.drAsSociala = 3;
+        if (c.ocupatie >= 3) {
+            const int nr = zar_.Intre(1, 6);
+            c.uScolara = c.ocupatie == 3 ? QStringLiteral("Școala Gimnazială nr. %1").arg(nr)
+                                         : QStringLiteral("Liceul Tehnologic nr. %1").arg(nr);
+            c.clasa = Roman(v - 6);
+            // One child has at most one of these marks; the youngest keeps the request's right.
+            if (nastere != celMaiTanar && v < 18) switch (zar_.Ponderat({{0, 94}, {1, 3}, {2, 2}, {3, 1}})) {
+                case 1:
+                    c.dim20 = true;
+                    break;
+                case 2:
+                    c.dim50 = true;
+                    break;
+                case 3:
+                    c.peste20 = true;
+                    break;
+                default:
+                    break;
+                }
+        }
+        d.persoane.push_back(c);
+    }
+    if (ruda == 4) {
+        const QDate nastere = mama.addYears(-zar_.Intre(20, 30));
+        const bool barbat = zar_.Sansa(40);
+        Persoana b = persoana(nastere, barbat, numeMama, 4, d.dataCerere);
+        b.ocupatie = 2;
+        b.studii = zar_.Ponderat({{1, 20}, {2, 60}, {3, 20}});
+        b.drAsSociala = 1;
+        b.stCivila = zar_.Ponderat({{1, 60}, {4, 40}});
+        d.persoane.push_back(b);
+    } else if (ruda == 5) {
+        const QDate nastere = d.dataCerere.addYears(-zar_.Intre(20, 55)).addDays(-zar_.Intre(0, 364));
+        const bool barbat = zar_.Sansa(50);
+        const QString nume = zar_.Unul(t.familie);
+        Persoana a = adult(persoana(nastere, barbat, nume, 5, d.dataCerere), false);
+        a.stCivila = zar_.Ponderat({{2, 60}, {3, 25}, {4, 15}});
+        d.persoane.push_back(a);
+    }
+}
+
+void Generator::venituri(Dosar& d) {
+    auto cod = [&](int ocupatie) {
+        switch (ocupatie) {
+        case 1:
+            return zar_.Ponderat({{1, 80}, {2, 15}, {3, 5}});
+        case 2:
+            return zar_.Ponderat({{53, 60}, {57, 25}, {56, 15}});
+        case 3:
+            return 64;
+        case 6:
+            return zar_.Ponderat({{26, 40}, {39, 30}, {52, 30}});
+        case 7:
+            return 15;
+        case 10:
+            return 68;
+        case 11:
+            return 10;
+        case 12:
+            return 14;
+        case 13:
+            return 66;
+        default:
+            return 0;
+        }
+    };
+    for (size_t i = 0; i < d.persoane.size(); ++i)
+        if (!EsteCopil(d.persoane[i].rudenie))
+            if (const int c = cod(d.persoane[i].ocupatie)) d.surse.push_back({c, i, 0});
+    if (d.tip == 2 && d.persoane.size() > 1 && zar_.Sansa(25)) d.surse.push_back({74, 0, 0});
+
+    if (d.stare == 5) {
+        bool copii = false;
+        for (const Persoana& p : d.persoane)
+            copii = copii || EsteCopil(p.rudenie);
+        d.motivRespingere = !copii ? 1 : (zar_.Sansa(60) ? 2 : 3);
+    }
+    // Income per member: under the lower threshold, between the thresholds, or over them.
+    const int treapta = d.motivRespingere == 2 ? 2 : (zar_.Sansa(45) ? 0 : 1);
+    const int susMediu = d.evenimente.empty() || d.evenimente[0].dinData >= PragConstante ? 556 : 369;
+    auto peMembru = [&](int t) -> qint64 {
+        const int lei = t == 0 ? zar_.Intre(25, 209) : t == 1 ? zar_.Intre(211, susMediu) : zar_.Intre(600, 1400);
+        return qint64(lei) * 100 + zar_.Intre(0, 99);
+    };
+    if (d.surse.empty() && treapta > 0) {
+        d.persoane[0].ocupatie = 1;
+        d.persoane[0].drAsSociala = 1;
+        d.surse.push_back({1, 0, 0});
+    }
+    // At most three kinds of income, one row each.
+    std::vector<int> coduri;
+    std::vector<Sursa> pastrate;
+    for (const Sursa& s : d.surse) {
+        const bool cunoscut = std::find(coduri.begin(), coduri.end(), s.cod) != coduri.end();
+        if (!cunoscut && coduri.size() == 3) continue;
+        if (!cunoscut) coduri.push_back(s.cod);
+        pastrate.push_back(s);
+    }
+    d.surse = pastrate;
+    const qint64 membri = qint64(d.persoane.size());
+    if (!d.surse.empty()) {
+        d.venitPeMembru = peMembru(treapta);
+        d.venitTotal = d.venitPeMembru * membri;
+        std::vector<int> ponderi;
+        int total = 0;
+        for (size_t i = 0; i < d.surse.size(); ++i) {
+            ponderi.push_back(zar_.Intre(1, 10));
+            total += ponderi.back();
+        }
+        qint64 ramas = d.venitTotal;
+        for (size_t i = 0; i < d.surse.size(); ++i) {
+            const qint64 parte = i + 1 == d.surse.size() ? ramas : d.venitTotal * ponderi[i] / total;
+            d.surse[i].bani = parte;
+            ramas -= parte;
+            d.persoane[d.surse[i].persoana].venit += parte;
+        }
+    }
+    if (d.motivSchimbare == 2)
+        d.venitVechi = peMembru(treapta == 0 ? 1 : 0);
+    else
+        d.venitVechi = d.venitPeMembru;
+}
+
+void Generator::bunuri(Dosar& d) {
+    if (d.motivRespingere == 3) d.bife[zar_.Intre(0, 9)] = QLatin1Char('1');
+    const Bani limita = Bani::DinLei(d.persoane.size() == 1 ? 1000 : 2500);
+    const int n = zar_.Ponderat({{0, 55}, {1, 30}, {2, 15}});
+    std::vector<int> alese;
+    for (int i = 0; i < n; ++i) {
+        const int k = zar_.Intre(0, int(std::size(Bunuri)) - 1);
+        const Bun& b = Bunuri[k];
+        const Bani cantitate = Bani::DinUnitati(b.pas * zar_.Intre(b.minim, b.maxim));
+        if (std::find(alese.begin(), alese.end(), k) != alese.end()) continue;
+        // The editor stores the good shown on catalogue row r under r - 2 and values it with
+        // row r - 1; the demo keeps to what the editor writes and reads back.
+        const int nrBifa = b.rand - 2;
+        const auto v = valoriBife_.find(nrBifa + 1);
+        const Bani valoare = v == valoriBife_.end() ? Bani() : cantitate.Inmultit(v->second);
+        if (d.valoareBunuri + valoare > limita) continue;
+        alese.push_back(k);
+        d.valoareBunuri += valoare;
+        d.bunuri.push_back({nrBifa, cantitate});
+    }
+}
+
+void Generator::locuinta(Dosar& d) {
+    d.bloc = zar_.Sansa(35);
+    if (d.bloc) {
+        d.felLocuinta = zar_.Sansa(90) ? 3 : 4;
+        d.camere = zar_.Intre(1, 3);
+        d.suprafata = 22 + 14 * d.camere + zar_.Intre(0, 12);
+    } else {
+        d.felLocuinta = zar_.Ponderat({{1, 80}, {2, 15}, {4, 3}, {6, 2}});
+        d.camere = zar_.Intre(1, 4);
+        d.suprafata = 20 + 16 * d.camere + zar_.Intre(0, 25);
+    }
+}
+
+int Generator::copiiLa(const Dosar& d, const QDate& data) const {
+    const QDate luna = IntaiaZi(data);
+    int n = 0;
+    for (const Persoana& p : d.persoane)
+        if (EsteCopil(p.rudenie) && p.nastere <= data && p.nastere.addYears(18) >= luna && !p.peste20) ++n;
+    return n;
+}
+
+const RandBarem* Generator::barem(int tip, int nrPers, const Bani& treapta, const QDate& data) const {
+    for (const RandBarem& r : barem_)
+        if (r.tip == tip && r.nrPers == nrPers && r.suma == treapta && r.inceput <= data &&
+            (!r.stop.isValid() || r.stop >= data))
+            return &r;
+    return nullptr;
+}
+
+// The amount by the same rules as the request editor, so that a generated request opens
+// with the amount it would compute.
+Bani Generator::cuantumLa(const Dosar& d, const QDate& data, qint64 venitPeMembru, bool cuReduceri) const {
+    const int copii = copiiLa(d, data);
+    if (copii == 0 || d.bife.toLongLong() > 0) return {};
+    if (d.valoareBunuri > Bani::DinLei(d.persoane.size() == 1 ? 1000 : 2500)) return {};
+    const Bani venit = Bani::DinUnitati(venitPeMembru * 100);
+    Bani treapta;
+    if (data < PragConstante) {
+        if (venit <= Bani::DinLei(200))
+            treapta = *Bani::DinText(u"0.4");
+        else if (venit <= Bani::DinLei(370))
+            treapta = *Bani::DinText(u"0.74");
+        else
+            return {};
+    } else {
+        if (venit <= pragJos_)
+            treapta = *Bani::DinText(u"0.4");
+        else if (venit <= pragSus_)
+            treapta = *Bani::DinText(u"1.06");
+        else
+            return {};
+    }
+    const RandBarem* r = barem(d.tip, std::min(copii, 4), treapta, data);
+    if (!r) return {};
+    Bani suma = isr_.Inmultit(r->barem);
+    if (isr_ != Bani::DinLei(500)) suma = Bani::DinLei(RotunjireSus(suma));
+    if (cuReduceri) {
+        if (const RandBarem* unu = barem(d.tip, 1, treapta, data)) {
+            Bani reduceri;
+            for (const Persoana& p : d.persoane)
+                if (EsteCopil(p.rudenie)) {
+                    if (p.dim20) reduceri += unu->barem * 100;
+                    if (p.dim50) reduceri += unu->barem * 250;
+                }
+            suma -= Bani::DinLei(reduceri.RotunjitPar());
+        }
+    }
+    return suma;
+}
+
+void Generator::sume(Dosar& d) {
+    d.nrCopii = copiiLa(d, d.dataStare);
+    d.cuantum = cuantumLa(d, d.dataStare, d.venitPeMembru, true);
+    for (size_t i = 0; i < d.evenimente.size(); ++i) {
+        const bool ultimul = i + 1 == d.evenimente.size();
+        d.evenimente[i].cuantum =
+            ultimul ? d.cuantum : cuantumLa(d, d.evenimente[i].dinData, i == 0 ? d.venitVechi : d.venitPeMembru, false);
+    }
+}
+
+void Generator::scrie(Dosar& d) {
+    const Texte& t = texte();
+    const Persoana& titular = d.persoane[0];
+
+    const qint64 nrDosar = nrDosar_++;
+    Interogare& f = familii_;
+    f.Leaga(d.id).Leaga(judet_).Leaga(localitate_).Leaga(zar_.Unul(t.strazi));
+    if (d.bloc) {
+        f.Leaga(QString::number(zar_.Intre(1, 60)))
+            .Leaga(zar_.Sansa(50) ? QStringLiteral("%1").arg(QChar(u'A' + zar_.Intre(0, 3)))
+                                  : QString::number(zar_.Intre(1, 4)))
+            .Leaga(QString::number(zar_.Intre(1, 80)));
+    } else {
+        QString nr = QString::number(zar_.Intre(1, 250));
+        if (zar_.Sansa(8)) nr += QChar(u'A' + zar_.Intre(0, 2));
+        f.Leaga(nr).Leaga(QVariant()).Leaga(QVariant());
+    }
+    f.Leaga(QStringLiteral("%1/%2").arg(nrDosar).arg(d.dataCerere.year() % 100, 2, 10, QLatin1Char('0')))
+        .Leaga(nrDosar);
+    if (d.bloc) {
+        const int etaj = zar_.Intre(0, 10);
+        f.Leaga(QStringLiteral("%1%2").arg(QChar(u'A' + zar_.Intre(0, 12))).arg(zar_.Intre(1, 20)))
+            .Leaga(etaj == 0 ? QStringLiteral("P") : QString::number(etaj));
+    } else {
+        f.Leaga(QVariant()).Leaga(QVariant());
+    }
+    f.Leaga(zar_.Sansa(10) ? QVariant(QStringLiteral("02%1").arg(zar_.Cifre(8))) : QVariant())
+        .Leaga(zar_.Sansa(85) ? QVariant(QStringLiteral("07%1%2").arg(zar_.Intre(2, 7)).arg(zar_.Cifre(7)))
+                              : QVariant())
+        .Executa();
+
+    for (const Persoana& p : d.persoane)
+        membrii_.Leaga(p.id)
+            .Leaga(p.nume)
+            .Leaga(p.prenume)
+            .Leaga(p.cnp)
+            .Leaga(p.serie)
+            .Leaga(p.numar)
+            .Leaga(p.tipAct)
+            .Leaga(p.eliberat)
+            .Leaga(p.dataElib)
+            .Leaga(p.dizabilitate ? 1 : 0)
+            .Executa();
+
+    const bool cont = zar_.Sansa(d.dataCerere.year() >= 2018 ? 60 : 35);
+    const Banca& banca = Banci[zar_.Intre(0, int(std::size(Banci)) - 1)];
+    const bool polita = zar_.Sansa(25);
+    const QDate startPolita = zar_.ZiIntre(d.dataCerere.addYears(-1), d.dataCerere);
+    const bool vmg = zar_.Sansa(15), inc = zar_.Sansa(35);
+    QString acte;
+    for (int i = 0; i < nrActe_; ++i)
+        acte += i < 2 || zar_.Sansa(55) ? QLatin1Char('1') : QLatin1Char('0');
+    const QString numeTitular = titular.nume + QLatin1Char(' ') + titular.prenume;
+    cereri_
+        .Leaga(d.id)                                                                        // CerereID
+        .Leaga(d.id)                                                                        // FamilieID
+        .Leaga(nrCerere_++)                                                                 // NrCerere
+        .Leaga(d.dataCerere)                                                                // DataCerere
+        .Leaga(titular.id)                                                                  // MembruID1
+        .Leaga(d.tip == 1 ? QVariant(d.persoane[1].id) : QVariant())                        // MembruID2
+        .Leaga(d.stare)                                                                     // Stare
+        .Leaga(int(d.persoane.size()))                                                      // NrMembrii
+        .Leaga(d.nrCopii)                                                                   // NrCopii
+        .Leaga(d.cuantum)                                                                   // Cuantum
+        .Leaga(TextSauNul(d.motivStare))                                                    // MotivStare
+        .Leaga(d.dataStare)                                                                 // DataStare
+        .Leaga(Bani::DinUnitati(d.venitTotal * 100))                                        // VenitTotal
+        .Leaga(Bani::DinUnitati(d.venitPeMembru * 100))                                     // VenitpeMembru
+        .Leaga(zar_.Ponderat({{3, 95}, {2, 3}, {1, 2}}))                                    // ReprLegal
+        .Leaga(cont ? 2 : 1)                                                                // ModPlata
+        .Leaga(cont ? QVariant(numeTitular.left(34)) : QVariant())                          // NumeTitularCont
+        .Leaga(cont ? QVariant(Iban(zar_, banca.cod)) : QVariant())                         // Cont
+        .Leaga(cont ? QVariant(QString::fromUtf8(banca.nume)) : QVariant())                 // Banca
+        .Leaga(0)                                                                           // Gospodarire
+        .Leaga(zar_.Sansa(85) ? 1 : 2)                                                      // GospodLoc
+        .Leaga(zar_.Ponderat({{1, 45}, {2, 10}, {3, 8}, {4, 10}, {5, 20}, {6, 5}, {7, 2}})) // RegimJuridLoc
+        .Leaga(d.bloc ? zar_.Ponderat({{1, 40}, {2, 50}, {4, 10}})
+                      : zar_.Ponderat({{2, 30}, {3, 60}, {4, 8}, {5, 2}}))                         // TipIncalzire
+        .Leaga(zar_.Intre(1, 2))                                                                   // TipLocuinta
+        .Leaga(d.bife)                                                                             // Bife
+        .Leaga(d.tip)                                                                              // TipCerere
+        .Leaga(0)                                                                                  // LuniRetro
+        .Leaga(vmg)                                                                                // Vmg
+        .Leaga(inc)                                                                                // Inc
+        .Leaga(false)                                                                              // Supl
+        .Leaga(vmg)                                                                                // Lege416
+        .Leaga(QStringLiteral("0%1").arg(inc && zar_.Sansa(50) ? 1 : 0) + QLatin1Char('0'))        // A1Solicita
+        .Leaga(acte)                                                                               // ActeBife
+        .Leaga(zar_.Ponderat({{1, 25}, {2, 35}, {3, 5}, {4, 15}, {5, 8}, {6, 5}, {7, 4}, {8, 3}})) // TipDobandire
+        .Leaga(polita)                                                                             // Polita
+        .Leaga(polita ? QVariant(zar_.Unul(t.asiguratori)) : QVariant())                           // SocietatePolita
+        .Leaga(polita ? QVariant(QStringLiteral("PAD%1").arg(zar_.Cifre(9))) : QVariant())         // NrPolita
+        .Leaga(polita ? QVariant(startPolita) : QVariant())                                        // DataStartPolita
+        .Leaga(polita ? QVariant(startPolita.addYears(1).addDays(-1)) : QVariant())                // DataStopPolita
+        .Leaga(polita)                                                                             // AcoperaRiscuri
+        .Leaga(d.camere)                                                                           // NrCamere
+        .Executa();
+
+    for (const Persoana& p : d.persoane) {
+        const bool copil = EsteCopil(p.rudenie);
+        cereriMembrii_
+            .Leaga(d.id)                                                                          // CerereID
+            .Leaga(p.id)                                                                          // MembruID
+            .Leaga(p.rudenie)                                                                     // RudenieID
+            .Leaga(p.ocupatie)                                                                    // OcupatieID
+            .Leaga(copil ? QVariant(p.nastere.addYears(18)) : QVariant())                         // Data18Ani
+            .Leaga(copil ? QVariant(QStringLiteral("implinirea varstei de 18 ani")) : QVariant()) // Motiv
+            .Leaga(1)                                                                             // CetatenieID
+            .Leaga(1)                                                                             // ResedintaID
+            .Leaga(p.stCivila ? QVariant(p.stCivila) : QVariant())                                // StCivila
+            .Leaga(p.studii)                                                                      // Studii
+            .Leaga(p.drAsSociala)                                                                 // DrAsSociala
+            .Leaga(p.ocupatie == 12 && !copil)                                                    // LucreazaAfara
+            .Leaga(TextSauNul(p.uScolara))                                                        // UScolara
+            .Leaga(TextSauNul(p.clasa))                                                           // Clasa
+            .Leaga(p.venit > 0)                                                                   // RealizeazaVenit
+            .Leaga(p.nou ? QVariant(p.nastere.addDays(zar_.Intre(5, 25))) : QVariant())           // DataStare
+            .Leaga(p.nou ? QVariant(1) : QVariant())                                              // MotivID
+            .Leaga(p.nou ? 2 : 1)                                                                 // StareMembru
+            .Leaga(p.dim20 ? 1 : 0)                                                               // Diminuare20
+            .Leaga(p.dim50 ? 1 : 0)                                                               // Diminuare50
+            .Leaga(false)                                                                         // LocuitAfara
+            .Leaga(Bani::DinUnitati(p.venit * 100))                                               // Venit
+            .Leaga(vmg ? 1 : 0)                                                                   // VMG
+            .Leaga(copil ? 1 : 0)                                                                 // Alocatie
+            .Leaga(inc ? 1 : 0)                                                                   // Incalzire
+            .Leaga(p.uScolara.isEmpty() ? QVariant() : QVariant(localitate_))                     // LocScoala
+            .Leaga(0)                                                                             // Repetent
+            .Leaga(0)                                                                             // Abandon
+            .Leaga(p.peste20 ? 1 : 0)                                                             // Peste20abs
+            .Executa();
+    }
+
+    std::map<int, qint64> peCod;
+    for (const Sursa& s : d.surse)
+        peCod[s.cod] += s.bani;
+    for (const auto& [cod, bani] : peCod)
+        venituri_.Leaga(d.id).Leaga(cod).Leaga(Bani::DinUnitati(bani * 100)).Executa();
+
+    for (const auto& [nrBifa, cantitate] : d.bunuri)
+        bifeText_.Leaga(d.id).Leaga(nrBifa).Leaga(cantitate).Executa();
+
+    switch (zar_.Ponderat({{0, 10}, {1, 85}, {2, 5}})) {
+    case 2:
+        locuinte_.Leaga(d.id)
+            .Leaga(d.felLocuinta == 1 ? 2 : 1)
+            .Leaga(1)
+            .Leaga(QVariant(double(zar_.Intre(12, 30))))
+            .Executa();
+        [[fallthrough]];
+    case 1:
+        locuinte_.Leaga(d.id).Leaga(d.felLocuinta).Leaga(d.camere).Leaga(QVariant(double(d.suprafata))).Executa();
+        break;
+    default:
+        break;
+    }
+
+    scrieAdeverinte(d);
+    scrieDispozitii(d);
+    scrieAnchete(d);
+}
+
+void Generator::scrieAdeverinte(const Dosar& d) {
+    struct Candidat {
+        size_t persoana;
+        int tip, luni;
+    };
+    std::vector<Candidat> candidati;
+    for (size_t i = 0; i < d.persoane.size(); ++i) {
+        const Persoana& p = d.persoane[i];
+        if (p.nastere > d.dataStare) continue;
+        if (EsteCopil(p.rudenie)) {
+            if (p.ocupatie >= 3) candidati.push_back({i, 3, 6});
+            continue;
+        }
+        switch (p.ocupatie) {
+        case 1:
+            candidati.push_back({i, 6, 3});
+            break;
+        case 2:
+            candidati.push_back({i, 5, 12});
+            break;
+        case 3:
+            candidati.push_back({i, 1, 3});
+            break;
+        case 6:
+            candidati.push_back({i, 7, 12});
+            break;
+        case 13:
+            candidati.push_back({i, 4, 6});
+            break;
+        default:
+            break;
+        }
+        if (zar_.Sansa(30)) candidati.push_back({i, 2, 12});
+    }
+    int n = candidati.empty() ? 0 : zar_.Ponderat({{0, 15}, {1, 35}, {2, 30}, {3, 20}});
+    struct Rand {
+        Candidat c;
+        QDate data, depunere, expirare;
+    };
+    std::vector<Rand> randuri;
+    while (n > 0 && !candidati.empty()) {
+        const size_t k = size_t(zar_.Intre(0, int(candidati.size()) - 1));
+        const Candidat c = candidati[k];
+        candidati.erase(candidati.begin() + std::ptrdiff_t(k));
+        Rand r{c, {}, {}, {}};
+        if (InPlata(d.stare)) {
+            // Kept up to date: the current one runs out around today, some of them this month.
+            if (zar_.Sansa(10))
+                r.expirare = zar_.ZiIntre(lunaAzi_, lunaAzi_.addMonths(1).addDays(-1));
+            else
+                r.expirare = zar_.ZiIntre(azi_.addDays(-20), azi_.addMonths(c.luni).addDays(-10));
+            r.data = r.expirare.addMonths(-c.luni);
+        } else {
+            r.data = zar_.ZiIntre(d.dataCerere.addDays(-30), d.dataCerere);
+            r.expirare = r.data.addMonths(c.luni);
+        }
+        r.depunere = std::min(r.data.addDays(zar_.Intre(0, 10)), azi_);
+        randuri.push_back(r);
+        --n;
+        // A renewal: the one it replaced stays on file.
+        if (n > 0 && zar_.Sansa(35)) {
+            Rand vechi = r;
+            vechi.data = r.data.addMonths(-c.luni);
+            vechi.expirare = r.expirare.addMonths(-c.luni);
+            vechi.depunere = vechi.data.addDays(zar_.Intre(0, 10));
+            randuri.push_back(vechi);
+            --n;
+        }
+    }
+    for (const Rand& r : randuri) {
+        bool curenta = true;
+        for (const Rand& alta : randuri)
+            if (alta.c.persoana == r.c.persoana && alta.c.tip == r.c.tip && alta.expirare > r.expirare) curenta = false;
+        adeverinte_.Leaga(adevID_++)
+            .Leaga(d.id)
+            .Leaga(d.persoane[r.c.persoana].id)
+            .Leaga(r.c.tip)
+            .Leaga(QStringLiteral("%1/%2").arg(zar_.Intre(1, 9999)).arg(r.data.year()))
+            .Leaga(r.data)
+            .Leaga(r.expirare)
+            .Leaga(r.depunere)
+            .Leaga(curenta ? 1 : 0)
+            .Executa();
+    }
+}
+
+void Generator::scrieDispozitii(const Dosar& d) {
+    const Persoana& titular = d.persoane[0];
+    QDate dataDisp;
+    for (size_t i = 0; i < d.evenimente.size(); ++i) {
+        const Eveniment& e = d.evenimente[i];
+        const bool ultimul = i + 1 == d.evenimente.size();
+        if (i == 0)
+            dataDisp = zar_.ZiIntre(d.dataCerere.addDays(2), std::max(d.dataCerere.addDays(2), e.dinData.addDays(10)));
+        else
+            dataDisp = zar_.ZiIntre(std::max(dataDisp, e.dinData.addDays(-20)), e.dinData.addDays(10));
+        dataDisp = std::min(dataDisp, azi_);
+        QString motiv;
+        switch (e.actiune) {
+        case 1:
+            motiv = QStringLiteral("Îndeplinește condițiile prevăzute de Legea nr. 277/2010");
+            break;
+        case 2:
+            motiv = ultimul ? d.motivStare : zar_.Unul(texte().modificare);
+            break;
+        case 3:
+            motiv = ultimul ? d.motivStare : QStringLiteral("Nu a depus actele la termen");
+            break;
+        case 4:
+            motiv = d.motivRespingere == 1   ? QStringLiteral("Nu are copii în întreținere")
+                    : d.motivRespingere == 2 ? QStringLiteral("Venitul net pe membru depășește plafonul legal")
+                                             : QStringLiteral("Deține bunuri care exclud acordarea alocației");
+            break;
+        default:
+            motiv = d.motivStare;
+            break;
+        }
+        const bool schimbareTitular = d.stare == 8 && ultimul && d.persoane.size() > 1;
+        dispozitii_.Leaga(dispozitieID_++)
+            .Leaga(d.id)
+            .Leaga(nrDisp_++)
+            .Leaga(dataDisp)
+            .Leaga(e.dinData)
+            .Leaga(e.dinData.month())
+            .Leaga(e.dinData.year())
+            .Leaga(e.actiune)
+            .Leaga(e.cuantum);
+        // The previous amount belongs only to a change.
+        if (e.actiune == 2 && i > 0)
+            dispozitii_.Leaga(d.evenimente[i - 1].cuantum);
+        else
+            dispozitii_.Leaga(QVariant());
+        dispozitii_.Leaga(motiv)
+            .Leaga(titular.id)
+            .Leaga(schimbareTitular ? QVariant(d.persoane[1].nume + QLatin1Char(' ') + d.persoane[1].prenume)
+                                    : QVariant())
+            .Executa();
+    }
+}
+
+void Generator::scrieAnchete(const Dosar& d) {
+    const Texte& t = texte();
+    const int n = d.stare == 1 ? zar_.Ponderat({{0, 50}, {1, 50}}) : zar_.Ponderat({{0, 20}, {1, 55}, {2, 25}});
+    QDate data = d.dataCerere.addDays(zar_.Intre(5, 40));
+    for (int i = 0; i < n && data <= azi_; ++i) {
+        const QDate expira = data.addMonths(6);
+        int membri = 0, copii = 0;
+        bool copilTotTermenul = false;
+        for (const Persoana& p : d.persoane) {
+            if (p.nastere > data) continue;
+            ++membri;
+            const QDate majorat = p.nastere.addYears(18);
+            copii += majorat > data ? 1 : 0;
+            copilTotTermenul = copilTotTermenul || majorat > expira;
+        }
+        // An inquiry where no child stays a minor through its term is refused by the editor.
+        if (copilTotTermenul) {
+            const bool proprietate = zar_.Sansa(65);
+            QString teren;
+            for (const auto& [nrBifa, cantitate] : d.bunuri)
+                if (nrBifa + 2 <= 44)
+                    teren = QStringLiteral("%1,%2 ha teren agricol")
+                                .arg(cantitate.Unitati() / Bani::Scala)
+                                .arg(cantitate.Unitati() % Bani::Scala / 100, 2, 10, QLatin1Char('0'));
+            anchete_.Leaga(anchetaID_++)
+                .Leaga(d.id)
+                .Leaga(data)
+                .Leaga(zar_.Unul(functionari_))
+                .Leaga(expira)
+                .Leaga("valabilitate 6 luni")
+                .Leaga(membri)
+                .Leaga(copii)
+                .Leaga(d.felLocuinta)
+                .Leaga(proprietate ? zar_.Intre(1, 2) : zar_.Intre(3, 7))
+                .Leaga(d.camere)
+                .Leaga(QVariant(double(d.suprafata)))
+                .Leaga(zar_.Unul(t.bunuri))
+                .Leaga(zar_.Unul(t.igiena))
+                .Leaga(zar_.Ponderat({{4, 70}, {1, 10}, {2, 15}, {3, 5}}))
+                .Leaga(proprietate ? 1 : 2)
+                .Leaga(TextSauNul(teren))
+                .Leaga(d.bloc ? QVariant() : QVariant(QStringLiteral("casă de locuit și anexe gospodărești")))
+                .Leaga(zar_.Unul(t.sanatate))
+                .Leaga(zar_.Unul(t.nevoi))
+                .Leaga(zar_.Unul(t.aspecte))
+                .Executa();
+        }
+        data = data.addMonths(zar_.Intre(6, 9));
+    }
+}
+
+} // namespace
+
+void Demo::Genereaza(BazaDate& db, const Optiuni& o, const std::function<void(int, int)>& progres) {
+    if (o.cereri < 0) throw Eroare(QStringLiteral("Numarul de cereri demonstrative nu poate fi negativ."));
+    if (o.cereri == 0) return;
+    const int lot = o.lot > 0 ? o.lot : 2000;
+    Generator g(db, o.samanta, Ceas::Azi());
+    int facute = 0;
+    while (facute < o.cereri) {
+        const int n = std::min(lot, o.cereri - facute);
+        Tranzactie t(db);
+        g.Lot(n);
+        t.Confirma();
+        facute += n;
+        if (progres) progres(facute, o.cereri);
+    }
 }
