@@ -1,4 +1,4 @@
-#include "shell/Mesaje.h"
+#include "Comun.h"
 #include "store/ActualizareBD.h"
 #include "store/BazaDate.h"
 #include "store/DateLivrate.h"
@@ -18,15 +18,6 @@ namespace {
 
 const QString FolderDate = QStringLiteral(FEROLANTA_SURSA "/data");
 const QString SchemaBench = QStringLiteral("bench_x");
-
-class MesajeTacute : public Mesaje {
-public:
-    void Informatie(const QString&, const QString&) override {}
-    void Avertisment(const QString&, const QString&) override {}
-    void Critic(const QString&, const QString&) override {}
-    bool Intrebare(const QString&, const QString&, bool implicitDa) override { return implicitDa; }
-    QString Intrare(const QString&, const QString&, const QString& implicit) override { return implicit; }
-};
 
 // Where one benchmark keeps its database, and the way to clear it for the next iteration.
 class Loc {

@@ -3,6 +3,8 @@
 #include "shell/Val.h"
 #include "store/BazaDate.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 const QString SelectLista = QStringLiteral(
@@ -60,8 +62,23 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
     QVariantList valori;
     const QString like = db.dialect().EsteSQLite() ? QStringLiteral("LIKE") : QStringLiteral("ILIKE");
     if (!f.CNP.isEmpty()) {
-        conditii << QStringLiteral("M.CNP LIKE ? ESCAPE '\\'");
-        valori << prefix(f.CNP);
+        // A code is digits: the prefix becomes a range that the index on CNP serves.
+        static const QRegularExpression cifre(QStringLiteral("^[0-9]+$"));
+        if (cifre.match(f.CNP).hasMatch()) {
+            QString sus = f.CNP;
+            while (sus.endsWith(QLatin1Char('9')))
+                sus.chop(1);
+            conditii << QStringLiteral("M.CNP >= ?");
+            valori << f.CNP;
+            if (!sus.isEmpty()) {
+                sus[sus.size() - 1] = QChar(sus.back().unicode() + 1);
+                conditii << QStringLiteral("M.CNP < ?");
+                valori << sus;
+            }
+        } else {
+            conditii << QStringLiteral("M.CNP LIKE ? ESCAPE '\\'");
+            valori << prefix(f.CNP);
+        }
     }
     if (!f.Nume.isEmpty()) {
         conditii << QStringLiteral("M.Nume %1 ? ESCAPE '\\'").arg(like);

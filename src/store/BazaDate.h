@@ -10,6 +10,7 @@
 #include <QString>
 #include <QVariant>
 #include <memory>
+#include <type_traits>
 
 // The database file name in the folder CaleBD.
 inline const QString NumeBD = QStringLiteral("Ferolanta.db");
@@ -100,8 +101,12 @@ public:
     Interogare& Leaga(const QString& s) { return Leaga(QVariant(s)); }
     Interogare& Leaga(const char* s) { return Leaga(QVariant(QString::fromUtf8(s))); }
     Interogare& Leaga(bool b) { return Leaga(QVariant(b ? 1 : 0)); }
-    Interogare& Leaga(int v) { return Leaga(QVariant(v)); }
-    Interogare& Leaga(qint64 v) { return Leaga(QVariant(v)); }
+    // Any whole number (int, qint64, std::int64_t, ...), bound as 64 bits.
+    template <typename T>
+        requires(std::is_integral_v<T> && !std::is_same_v<T, bool>)
+    Interogare& Leaga(T v) {
+        return Leaga(QVariant(qint64(v)));
+    }
 
     // Executes with the values bound so far, then forgets them so the statement can run again.
     Interogare& Executa();

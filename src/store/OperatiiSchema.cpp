@@ -117,6 +117,9 @@ void OperatiiSchema::CreazaRelatie(const RelatieSchema& r) {
 }
 
 void OperatiiSchema::CreazaIndex(const IndexSchema& ix) {
-    db_.Executa(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2 (%3)")
-                    .arg(ix.Nume(), ix.tabela, ix.campuri.join(QStringLiteral(", "))));
+    QStringList campuri = ix.campuri;
+    if (ix.faraMajuscule && db_.dialect().EsteSQLite())
+        for (QString& c : campuri)
+            c += QStringLiteral(" COLLATE NOCASE");
+    db_.Executa(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2 (%3)").arg(ix.Nume(), ix.tabela, campuri.join(QStringLiteral(", "))));
 }

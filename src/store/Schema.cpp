@@ -155,10 +155,11 @@ std::vector<RelatieSchema> construiesteRelatii() {
 
 std::vector<IndexSchema> construiesteIndexuri() {
     auto ix = [](const char* t, std::initializer_list<const char*> c) { return IndexSchema{QString::fromLatin1(t), chei(c)}; };
+    auto ci = [](const char* t, const char* c) { return IndexSchema{QString::fromLatin1(t), chei({c}), true}; };
     return {
         ix("Cereri", {"FamilieID"}),       ix("Cereri", {"MembruID1"}),       ix("Cereri", {"MembruID2"}),
         ix("Cereri", {"NrCerere"}),        ix("Cereri", {"Stare"}),           ix("CereriMembrii", {"MembruID"}),
-        ix("Membrii", {"CNP"}),            ix("Membrii", {"Nume"}),           ix("DateGen", {"Tip", "DataID"}),
+        ix("Membrii", {"CNP"}),            ci("Membrii", "Nume"),             ci("Membrii", "Prenume"),           ix("DateGen", {"Tip", "DataID"}),
         ix("DateGen", {"Denumire"}),       ix("Dispozitii", {"CerereID"}),    ix("Dispozitii", {"BeneficiarID"}),
         ix("Anchete", {"CerereID"}),       ix("Strazi", {"LocalitateID"}),    ix("StatePlata", {"An", "Luna"}),
         ix("Barem", {"Tip", "DataInceput"}), ix("CMIesiti", {"CerereID"}),    ix("CMIesiti", {"MembruID"}),

@@ -31,7 +31,13 @@ struct RelatieSchema {
 struct IndexSchema {
     QString tabela;
     QStringList campuri;
-    QString Nume() const { return QStringLiteral("ix_%1_%2").arg(tabela, campuri.join(QLatin1Char('_'))).toLower(); }
+    // Names searched by prefix whatever the case: on SQLite the index then serves LIKE.
+    bool faraMajuscule = false;
+    QString Nume() const {
+        return QStringLiteral("ix_%1_%2%3")
+            .arg(tabela, campuri.join(QLatin1Char('_')), faraMajuscule ? QStringLiteral("_ci") : QString())
+            .toLower();
+    }
 };
 
 // A field that older databases had: removed, or renamed, by the upgrade.
