@@ -230,16 +230,14 @@ Bani SumaText(const QString& s) {
     return *suma;
 }
 
-QString PraguriVenit(BazaDate& db, Mesaje& m) {
+QString VerificaPraguriVenit(const std::optional<QString>& continut, Mesaje& m) {
     const QString titlu = QStringLiteral("Eroare");
     const QString formatGresit = QStringLiteral("Format praguri gresit!");
-    Interogare q(db, QStringLiteral("SELECT Continut FROM DateGen WHERE Denumire = ?"));
-    q.Leaga(QStringLiteral("PRAGURI_VENIT"));
-    if (!q.Exista()) {
+    if (!continut) {
         m.Critic(QStringLiteral("PRAGURI_VENIT nu exista!"), titlu);
         return {};
     }
-    const QString praguri = q.Valoare(0).toString();
+    const QString& praguri = *continut;
     if (praguri.trimmed().isEmpty()) {
         m.Critic(QStringLiteral("Nu sunt definite praguri venit!"), titlu);
         return {};
@@ -256,6 +254,13 @@ QString PraguriVenit(BazaDate& db, Mesaje& m) {
         return {};
     }
     return praguri;
+}
+
+QString PraguriVenit(BazaDate& db, Mesaje& m) {
+    Interogare q(db, QStringLiteral("SELECT Continut FROM DateGen WHERE Denumire = ?"));
+    q.Leaga(QStringLiteral("PRAGURI_VENIT"));
+    if (!q.Exista()) return VerificaPraguriVenit(std::nullopt, m);
+    return VerificaPraguriVenit(q.Valoare(0).toString(), m);
 }
 
 bool FontInstalat(const QString& nume) {

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QStringView>
 #include <cstdint>
+#include <optional>
 
 class BazaDate;
 class Mesaje;
@@ -59,6 +60,9 @@ Bani SumaText(const QString& s);
 // The income thresholds text of DateGen ("210.2|557.03"); empty after a critical message when
 // it is missing, blank or not at least two values separated by "|".
 QString PraguriVenit(BazaDate& db, Mesaje& m);
+// The same checks over a Continut already read: nullopt stands for a missing row, and a null
+// Continut is an empty text.
+QString VerificaPraguriVenit(const std::optional<QString>& continut, Mesaje& m);
 
 // Whether a font family of that name is installed (case ignored). Needs a GUI application.
 bool FontInstalat(const QString& nume);

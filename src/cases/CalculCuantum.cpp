@@ -1,0 +1,183 @@
+#include "cases/CalculCuantum.h"
+
+#include "shell/Eroare.h"
+#include "shell/Functii.h"
+#include "shell/Mesaje.h"
+#include "shell/Val.h"
+#include "store/BazaDate.h"
+
+#include <algorithm>
+
+namespace {
+
+const QDate DataPraguriVenit(2013, 7, 1);
+const Bani IsrImplicit = Bani::DinLei(500);
+// Bracket keys of Barem.Suma.
+const Bani TreaptaJoasa = Bani::DinUnitati(4000);      // 0.4
+const Bani TreaptaMedieVeche = Bani::DinUnitati(7400); // 0.74
+const Bani TreaptaMedie = Bani::DinUnitati(10600);     // 1.06
+
+// The row that the old criteria "NrPers = n AND Tip = t AND Suma = s AND DataInceput <= d AND
+// (DataStop >= d OR DataStop IS NULL)" select first; a missing DataInceput never matches.
+const RandBarem* gasesteBarem(const ParametriCuantum& p, int nrPers, int tip, const Bani& treapta, const QDate& data) {
+    if (!data.isValid()) return nullptr;
+    for (const RandBarem& r : p.Barem)
+        if (r.NrPers == nrPers && r.Tip == tip && r.Suma == treapta && r.DataInceput.isValid() &&
+            r.DataInceput <= data && (!r.DataStop.isValid() || r.DataStop >= data))
+            return &r;
+    return nullptr;
+}
+
+// The bracket key for the income, or nullopt when the income is above the upper limit.
+std::optional<Bani> treaptaVenit(const Bani& venit, const QDate& dataStare, const ParametriCuantum& p, Mesaje& m) {
+    if (!dataStare.isValid() || dataStare < DataPraguriVenit) {
+        if (venit <= Bani::DinLei(200)) return TreaptaJoasa;
+        if (venit <= Bani::DinLei(370)) return TreaptaMedieVeche;
+        return std::nullopt;
+    }
+    const QString praguri = VerificaPraguriVenit(p.PraguriVenit, m);
+    if (praguri.isEmpty())
+        throw Eroare(
+            QStringLiteral("Pragurile de venit (PRAGURI_VENIT) nu pot fi citite: cuantumul nu se poate calcula."));
+    const QStringList parti = praguri.split(u'|');
+    const Bani jos = SumaText(parti[0]);
+    const Bani sus = SumaText(parti[1]);
+    if (venit <= jos) return TreaptaJoasa;
+    if (venit <= sus) return TreaptaMedie;
+    return std::nullopt;
+}
+
+} // namespace
+
+ParametriCuantum IncarcaParametri(BazaDate& db) {
+    ParametriCuantum p;
+    {
+        Interogare q(db, QStringLiteral("SELECT Tip, NrPers, Suma, Barem, DataInceput, DataStop FROM Barem"));
+        q.Executa();
+        while (q.Urmator())
+            p.Barem.push_back({int(q.Intreg(QStringLiteral("Tip"))), int(q.Intreg(QStringLiteral("NrPers"))),
+                               q.Suma(QStringLiteral("Suma")), q.Suma(QStringLiteral("Barem")),
+                               q.Data(QStringLiteral("DataInceput")), q.Data(QStringLiteral("DataStop"))});
+    }
+    {
+        Interogare q(db, QStringLiteral("SELECT NrBifa, Valoare FROM ListaBife"));
+        q.Executa();
+        while (q.Urmator())
+            p.ListaBife.emplace(int(q.Intreg(QStringLiteral("NrBifa"))), q.Suma(QStringLiteral("Valoare")));
+    }
+    {
+        const QString isr = QStringLiteral("ISR"), praguri = QStringLiteral("PRAGURI_VENIT");
+        Interogare q(db, QStringLiteral("SELECT Denumire, Continut FROM DateGen WHERE Denumire IN (?, ?)"));
+        q.Leaga(isr).Leaga(praguri).Executa();
+        while (q.Urmator()) {
+            const QString denumire = q.Text(QStringLiteral("Denumire"));
+            if (denumire == isr)
+                p.ISR << q.Text(QStringLiteral("Continut"));
+            else if (denumire == praguri && !p.PraguriVenit)
+                p.PraguriVenit = q.Text(QStringLiteral("Continut"));
+        }
+    }
+    return p;
+}
+
+RezultatCuantum CalculCuantum(const IntrareCuantum& intrare, const ParametriCuantum& p, Mesaje& m) {
+    RezultatCuantum r;
+    const StareCerere& stare = intrare.stare;
+    if (!stare.MatriceMembri) return r;
+    const std::vector<MembruCerere>& membri = *stare.MatriceMembri;
+
+    const QDate intaiaZiALunii(intrare.AnSetat, intrare.LunaSetata, 1);
+    int copii = 0;
+    for (const MembruCerere& membru : membri)
+        if (membru.EsteCopil() && membru.Data18Ani.isValid() && membru.Data18Ani >= intaiaZiALunii &&
+            membru.Abandon == 0 && membru.Repetent == 0 && membru.Peste20abs == 0)
+            ++copii;
+    if (copii == 0) return r;
+    r.NrCopii = copii;
+
+    const int nrMembrii = int(membri.size());
+    if (Val(stare.Bife) > 0) return r;
+
+    Bani valoareBunuri;
+    for (int i = 0; i < int(stare.Bunuri.size()); ++i) {
+        const Bani& cantitate = stare.Bunuri[size_t(i)];
+        if (cantitate <= Bani()) continue;
+        const auto bifa = p.ListaBife.find(i + 10);
+        if (bifa == p.ListaBife.end()) {
+            m.Informatie(QStringLiteral("Eroare: nu exista in ListaBife, bifa cu Nr %1").arg(i + 10));
+            continue;
+        }
+        valoareBunuri += cantitate.Inmultit(bifa->second);
+    }
+    if (valoareBunuri > Bani::DinLei(nrMembrii == 1 ? 1000 : 2500)) return r;
+
+    const Bani venit = SumaText(intrare.VenitPeMembru);
+    const auto treapta = treaptaVenit(venit, intrare.DataStare, p, m);
+    if (!treapta) return r;
+
+    const RandBarem* barem = gasesteBarem(p, std::min(copii, 4), intrare.TipCerere, *treapta, intrare.DataStare);
+    if (!barem) {
+        m.Informatie(intrare.DataStare.year() < 2012
+                         ? QStringLiteral("Modificati Data statut de la 2012 in sus!")
+                         : QStringLiteral("A aparut o exceptie in CalculCuantum. Sunati la 0700-111222"));
+        return r;
+    }
+
+    const Bani isr = p.ISR.size() == 1 ? SumaText(p.ISR.front()) : IsrImplicit;
+    Bani suma = isr.Inmultit(barem->Barem);
+    if (isr != IsrImplicit && suma > Bani()) suma = Bani::DinLei(RotunjireSus(suma));
+    r.CuantumInainteDeReduceri = suma;
+
+    // The reductions take the one-child coefficient of the same bracket, always with 500 and
+    // never with the ISR, for every child of the list, counted or not. There is a child here, so
+    // the row is always needed; the old program stopped with a run-time error without it.
+    const RandBarem* unCopil = gasesteBarem(p, 1, intrare.TipCerere, *treapta, intrare.DataStare);
+    if (!unCopil)
+        throw Eroare(QStringLiteral("Lipseste randul din Barem pentru un copil (NrPers = 1, Tip = %1, Suma = %2) "
+                                    "valabil la %3: diminuarile nu se pot calcula.")
+                         .arg(intrare.TipCerere)
+                         .arg(FormatSuma(*treapta))
+                         .arg(FormatData(intrare.DataStare)));
+    Bani reduceri;
+    for (const MembruCerere& membru : membri) {
+        if (!membru.EsteCopil()) continue;
+        if (membru.Diminuare20 != 0) reduceri += unCopil->Barem * 100; // 0.2 x 500
+        if (membru.Diminuare50 != 0) reduceri += unCopil->Barem * 250; // 0.5 x 500
+    }
+    r.Cuantum = suma - Bani::DinLei(reduceri.RotunjitPar());
+    return r;
+}
+
+Bani SumaVenituri(const std::array<Bani, 79>& venituri) {
+    Bani total;
+    for (const Bani& v : venituri)
+        total += v;
+    return total;
+}
+
+TotaluriMembri RecalculTotaluri(int nrInLista, const std::optional<std::vector<MembruCerere>>& matrice) {
+    TotaluriMembri t;
+    t.NrMembrii = nrInLista;
+    if (matrice && qsizetype(matrice->size()) != nrInLista)
+        t.Exceptie = QStringLiteral(
+            "Exceptie Tarn in Calcule: Nr Membrii din lista este diferite de cel din matrice. Sunati la 0700-111222");
+    return t;
+}
+
+QString VenitPeMembruText(const Bani& venitTotal, int nrMembrii) {
+    if (nrMembrii <= 0) return {};
+    const double x = double(venitTotal.Unitati()) / double(Bani::Scala) / nrMembrii;
+    QString t = QString::number(x, 'g', 15);
+    // Below 0.0001 the old run-time switched to an exponent, which SumaText can't read back;
+    // the same digits are written without it.
+    if (t.contains(u'e')) {
+        const int exponent = t.mid(t.indexOf(u'e') + 1).toInt();
+        t = QString::number(x, 'f', std::max(0, 14 - exponent));
+        if (t.contains(u'.')) {
+            while (t.endsWith(u'0'))
+                t.chop(1);
+            if (t.endsWith(u'.')) t.chop(1);
+        }
+    }
+    return t;
+}

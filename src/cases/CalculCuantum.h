@@ -1,0 +1,77 @@
+#pragma once
+
+#include "cases/StareCerere.h"
+#include "shell/Bani.h"
+
+#include <QDate>
+#include <QString>
+#include <QStringList>
+#include <array>
+#include <map>
+#include <optional>
+#include <vector>
+
+class BazaDate;
+class Mesaje;
+
+// One row of Barem: the coefficient of a family kind, a number of children and an income
+// bracket, valid from DataInceput to DataStop (invalid: open-ended).
+struct RandBarem {
+    int Tip = 0;
+    int NrPers = 0;
+    Bani Suma;  // the bracket key: 0.4, 0.74 or 1.06
+    Bani Barem; // the coefficient
+    QDate DataInceput, DataStop;
+};
+
+// What the amount's computation reads from the database, loaded once so that the computation
+// itself is pure.
+struct ParametriCuantum {
+    std::vector<RandBarem> Barem;
+    std::map<int, Bani> ListaBife; // Valoare by NrBifa
+    QStringList ISR;               // Continut of every ISR row; the value counts only when there is one
+    // Continut of the PRAGURI_VENIT row as stored (a null is an empty text); nullopt without a row.
+    std::optional<QString> PraguriVenit;
+};
+
+// One query per table, no message: the thresholds are checked only when a computation needs them.
+ParametriCuantum IncarcaParametri(BazaDate& db);
+
+struct IntrareCuantum {
+    const StareCerere& stare; // MatriceMembri, Bunuri, Bife
+    int TipCerere = 0;
+    QDate DataStare;
+    QString VenitPeMembru; // the box's text
+    int LunaSetata = 0, AnSetat = 0;
+};
+
+struct RezultatCuantum {
+    Bani Cuantum;
+    // Set only when children were counted; otherwise the NrCopii box keeps what it shows.
+    std::optional<int> NrCopii;
+    // The amount after the rounding up and before the reductions; set only when the computation
+    // got that far, otherwise the editor keeps the previous one.
+    std::optional<Bani> CuantumInainteDeReduceri;
+};
+
+// The monthly amount of a request. Shows the messages of the computation through m; throws
+// Eroare when VenitPeMembru, a threshold or the ISR value is not a number, when the income
+// thresholds are unusable on a date from 1 July 2013 (after their message), and when the
+// reductions need the one-child Barem row of the bracket and it is missing.
+RezultatCuantum CalculCuantum(const IntrareCuantum& intrare, const ParametriCuantum& p, Mesaje& m);
+
+// The total of the income array.
+Bani SumaVenituri(const std::array<Bani, 79>& venituri);
+
+// What the editor writes after the list of persons changed: NrMembrii is the list's count;
+// Exceptie is the text to show (and go on) when the matrix disagrees with the list, else empty.
+struct TotaluriMembri {
+    int NrMembrii = 0;
+    QString Exceptie;
+};
+TotaluriMembri RecalculTotaluri(int nrInLista, const std::optional<std::vector<MembruCerere>>& matrice);
+
+// VenitTotal / NrMembrii as the old run-time wrote a double: up to 15 significant digits, a
+// point, no trailing zeros ("333.333333333333"). Empty when NrMembrii is not above 0: the box
+// then keeps its text.
+QString VenitPeMembruText(const Bani& venitTotal, int nrMembrii);
