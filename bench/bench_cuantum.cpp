@@ -13,19 +13,10 @@
 
 namespace {
 
-class FaraMesaje : public Mesaje {
-public:
-    void Informatie(const QString&, const QString&) override {}
-    void Avertisment(const QString&, const QString&) override {}
-    void Critic(const QString&, const QString&) override {}
-    bool Intrebare(const QString&, const QString&, bool implicitDa) override { return implicitDa; }
-    QString Intrare(const QString&, const QString&, const QString& implicit) override { return implicit; }
-};
-
 std::unique_ptr<BazaDate> BazaSeminte(const QTemporaryDir& dir) {
     LocatieBD loc;
     loc.caleBD = dir.path();
-    FaraMesaje m;
+    MesajeTacute m;
     return DateLivrate::Initializeaza(loc, QStringLiteral(FEROLANTA_SURSA "/data"), m);
 }
 
@@ -52,7 +43,7 @@ void CalculCuantumFamilieDeOpt(benchmark::State& st) {
     const ParametriCuantum p = IncarcaParametri(*BazaSeminte(dir));
     const StareCerere stare = FamilieDeOpt();
     const IntrareCuantum intrare{stare, 1, QDate(2014, 12, 1), QStringLiteral("150.5"), 12, 2014};
-    FaraMesaje m;
+    MesajeTacute m;
     if (!CalculCuantum(intrare, p, m).CuantumInainteDeReduceri) {
         st.SkipWithError("calculul s-a oprit inaintea reducerilor");
         return;

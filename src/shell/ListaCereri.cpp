@@ -107,7 +107,9 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
     QString sql = SelectLista;
     if (!conditii.isEmpty())
         sql += QStringLiteral(" WHERE ") + conditii.join(QStringLiteral(" AND "));
-    sql += f.OrdineNumerica ? QStringLiteral(" ORDER BY C.NrCerere, C.CerereID") : QStringLiteral(" ORDER BY C.CerereID");
+    // "+ 0" keeps the planner from walking the whole table in NrCerere order to spare a sort,
+    // so that a search starts from the index of what the clerk typed.
+    sql += f.OrdineNumerica ? QStringLiteral(" ORDER BY C.NrCerere + 0, C.CerereID") : QStringLiteral(" ORDER BY C.CerereID");
     Interogare q(db, sql);
     for (const QVariant& v : valori)
         q.Leaga(v);

@@ -28,3 +28,13 @@ public:
     bool Intrebare(const QString& text, const QString& titlu = {}, bool implicitDa = true) override;
     QString Intrare(const QString& text, const QString& titlu = {}, const QString& implicit = {}) override;
 };
+
+// Says nothing and takes the default answers: for generated data and benchmarks.
+class MesajeTacute : public Mesaje {
+public:
+    void Informatie(const QString&, const QString& = {}) override {}
+    void Avertisment(const QString&, const QString& = {}) override {}
+    void Critic(const QString&, const QString& = {}) override {}
+    bool Intrebare(const QString&, const QString& = {}, bool implicitDa = true) override { return implicitDa; }
+    QString Intrare(const QString&, const QString& = {}, const QString& implicit = {}) override { return implicit; }
+};

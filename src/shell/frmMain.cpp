@@ -133,9 +133,13 @@ void frmMain::construiesteCautarea(QWidget* sus) {
     lvwCereri->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     lvwCereri->setColumnHidden(ModelCereri::ID, true);
     lvwCereri->setAlternatingRowColors(true);
-    const int latimi[] = {0, 90, 55, 140, 75, 190, 105, 230, 75, 70, 75, 65};
+    // Widths from the longest texts each column usually holds: sizing by content would read
+    // every row of a large office's list.
+    const char* tipare[] = {"", "00000 0000/00", "Cu sot", "MODIFICARE CUANTUM", "00.00.0000", "Constantinescu Alexandra",
+                            "0000000000000", "Bucuresti, Strada Mihai Eminescu, nr. 120", "00000.00", "0000.00",
+                            "Nr. membrii", "Nr. copii"};
     for (int i = 1; i < ModelCereri::NrColoane; ++i)
-        lvwCereri->setColumnWidth(i, latimi[i]);
+        lvwCereri->setColumnWidth(i, fontMetrics().horizontalAdvance(QString::fromLatin1(tipare[i])) + 18);
     lvwCereri->horizontalHeader()->setSectionsClickable(true);
     lvwCereri->horizontalHeader()->setSortIndicatorShown(false);
     connect(lvwCereri->horizontalHeader(), &QHeaderView::sectionClicked, this, &frmMain::ColumnClick);

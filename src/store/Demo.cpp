@@ -1,5 +1,8 @@
 #include "store/Demo.h"
 
+#include "cases/CalculCuantum.h"
+#include "shell/Mesaje.h"
+
 #include "shell/Bani.h"
 #include "shell/Ceas.h"
 #include "shell/Eroare.h"
@@ -65,12 +68,6 @@ QString Iban(Zar& zar, const char* banca) {
     return QStringLiteral("RO%1%2").arg(98 - rest, 2, 10, QLatin1Char('0')).arg(bban);
 }
 
-struct RandBarem {
-    int tip, nrPers;
-    Bani suma, barem;
-    QDate inceput, stop;
-};
-
 class Generator {
 public:
     Generator(BazaDate& db, quint64 samanta, const QDate& azi);
@@ -125,9 +122,7 @@ private:
     void bunuri(Dosar& d);
     void locuinta(Dosar& d);
     void sume(Dosar& d);
-    int copiiLa(const Dosar& d, const QDate& data) const;
-    Bani cuantumLa(const Dosar& d, const QDate& data, qint64 venitPeMembru, bool cuReduceri) const;
-    const RandBarem* barem(int tip, int nrPers, const Bani& treapta, const QDate& data) const;
+    RezultatCuantum cuantumLa(const Dosar& d, const QDate& data, qint64 venitPeMembru, bool cuReduceri) const;
     void scrie(Dosar& d);
     void scrieAdeverinte(const Dosar& d);
     void scrieDispozitii(const Dosar& d);
@@ -138,8 +133,7 @@ private:
     const QDate azi_, lunaAzi_, ultimaCerere_;
 
     // What the database says about the scale, the catalogues and the town.
-    Bani isr_ = Bani::DinLei(500), pragJos_, pragSus_;
-    std::vector<RandBarem> barem_;
+    ParametriCuantum parametri_;
     std::map<int, Bani> valoriBife_;
     int nrActe_ = 28;
     QString localitate_, judet_, serieJudet_;
@@ -206,39 +200,7 @@ Generator::Generator(BazaDate& db, quint64 samanta, const QDate& azi)
 }
 
 void Generator::citesteReferinte() {
-    pragJos_ = *Bani::DinText(u"210.2");
-    pragSus_ = *Bani::DinText(u"557.03");
-    {
-        Interogare q(db_, QStringLiteral("SELECT Continut FROM DateGen WHERE Denumire = ?"));
-        q.Leaga("ISR").Executa();
-        int randuri = 0;
-        QString text;
-        while (q.Urmator()) {
-            ++randuri;
-            text = q.Valoare(0).toString();
-        }
-        // As the amount's computation: the row counts only when it is the only one.
-        if (randuri == 1) isr_ = SumaText(text);
-    }
-    {
-        Interogare q(db_, QStringLiteral("SELECT Continut FROM DateGen WHERE Denumire = ?"));
-        q.Leaga("PRAGURI_VENIT").Executa();
-        if (q.Urmator()) {
-            const QStringList p = q.Valoare(0).toString().split(QLatin1Char('|'));
-            if (p.size() >= 2) {
-                pragJos_ = SumaText(p[0]);
-                pragSus_ = SumaText(p[1]);
-            }
-        }
-    }
-    {
-        Interogare q(db_, QStringLiteral("SELECT Tip, NrPers, Suma, Barem, DataInceput, DataStop FROM Barem"));
-        q.Executa();
-        while (q.Urmator())
-            barem_.push_back({int(q.Intreg(QStringLiteral("Tip"))), int(q.Intreg(QStringLiteral("NrPers"))),
-                              q.Suma(QStringLiteral("Suma")), q.Suma(QStringLiteral("Barem")),
-                              q.Data(QStringLiteral("DataInceput")), q.Data(QStringLiteral("DataStop"))});
-    }
+    parametri_ = IncarcaParametri(db_);
     {
         Interogare q(db_, QStringLiteral("SELECT NrBifa, Valoare FROM ListaBife"));
         q.Executa();
@@ -703,70 +665,40 @@ void Generator::locuinta(Dosar& d) {
     }
 }
 
-int Generator::copiiLa(const Dosar& d, const QDate& data) const {
-    const QDate luna = IntaiaZi(data);
-    int n = 0;
-    for (const Persoana& p : d.persoane)
-        if (EsteCopil(p.rudenie) && p.nastere <= data && p.nastere.addYears(18) >= luna && !p.peste20) ++n;
-    return n;
-}
-
-const RandBarem* Generator::barem(int tip, int nrPers, const Bani& treapta, const QDate& data) const {
-    for (const RandBarem& r : barem_)
-        if (r.tip == tip && r.nrPers == nrPers && r.suma == treapta && r.inceput <= data &&
-            (!r.stop.isValid() || r.stop >= data))
-            return &r;
-    return nullptr;
-}
-
-// The amount by the same rules as the request editor, so that a generated request opens
-// with the amount it would compute.
-Bani Generator::cuantumLa(const Dosar& d, const QDate& data, qint64 venitPeMembru, bool cuReduceri) const {
-    const int copii = copiiLa(d, data);
-    if (copii == 0 || d.bife.toLongLong() > 0) return {};
-    if (d.valoareBunuri > Bani::DinLei(d.persoane.size() == 1 ? 1000 : 2500)) return {};
-    const Bani venit = Bani::DinUnitati(venitPeMembru * 100);
-    Bani treapta;
-    if (data < PragConstante) {
-        if (venit <= Bani::DinLei(200))
-            treapta = *Bani::DinText(u"0.4");
-        else if (venit <= Bani::DinLei(370))
-            treapta = *Bani::DinText(u"0.74");
-        else
-            return {};
-    } else {
-        if (venit <= pragJos_)
-            treapta = *Bani::DinText(u"0.4");
-        else if (venit <= pragSus_)
-            treapta = *Bani::DinText(u"1.06");
-        else
-            return {};
+// The amount as the request editor computes it, so that a generated request opens with the
+// amount it would get; persons born after the date are not yet in the family.
+RezultatCuantum Generator::cuantumLa(const Dosar& d, const QDate& data, qint64 venitPeMembru, bool cuReduceri) const {
+    StareCerere stare;
+    stare.MatriceMembri.emplace();
+    for (const Persoana& p : d.persoane) {
+        if (p.nastere > data)
+            continue;
+        MembruCerere m;
+        m.RudenieID = p.rudenie;
+        if (EsteCopil(p.rudenie))
+            m.Data18Ani = p.nastere.addYears(18);
+        m.Peste20abs = p.peste20 ? 1 : 0;
+        m.Diminuare20 = cuReduceri && p.dim20 ? 1 : 0;
+        m.Diminuare50 = cuReduceri && p.dim50 ? 1 : 0;
+        stare.MatriceMembri->push_back(m);
     }
-    const RandBarem* r = barem(d.tip, std::min(copii, 4), treapta, data);
-    if (!r) return {};
-    Bani suma = isr_.Inmultit(r->barem);
-    if (isr_ != Bani::DinLei(500)) suma = Bani::DinLei(RotunjireSus(suma));
-    if (cuReduceri) {
-        if (const RandBarem* unu = barem(d.tip, 1, treapta, data)) {
-            Bani reduceri;
-            for (const Persoana& p : d.persoane)
-                if (EsteCopil(p.rudenie)) {
-                    if (p.dim20) reduceri += unu->barem * 100;
-                    if (p.dim50) reduceri += unu->barem * 250;
-                }
-            suma -= Bani::DinLei(reduceri.RotunjitPar());
-        }
-    }
-    return suma;
+    for (const auto& [nrBifa, cantitate] : d.bunuri)
+        if (nrBifa >= 9 && nrBifa < 9 + int(stare.Bunuri.size()))
+            stare.Bunuri[size_t(nrBifa - 9)] = cantitate;
+    stare.Bife = d.bife;
+    MesajeTacute tacut;
+    return CalculCuantum({stare, d.tip, data, Bani::DinUnitati(venitPeMembru * 100).Text(), data.month(), data.year()},
+                         parametri_, tacut);
 }
 
 void Generator::sume(Dosar& d) {
-    d.nrCopii = copiiLa(d, d.dataStare);
-    d.cuantum = cuantumLa(d, d.dataStare, d.venitPeMembru, true);
+    const RezultatCuantum r = cuantumLa(d, d.dataStare, d.venitPeMembru, true);
+    d.nrCopii = r.NrCopii.value_or(0);
+    d.cuantum = r.Cuantum;
     for (size_t i = 0; i < d.evenimente.size(); ++i) {
         const bool ultimul = i + 1 == d.evenimente.size();
         d.evenimente[i].cuantum =
-            ultimul ? d.cuantum : cuantumLa(d, d.evenimente[i].dinData, i == 0 ? d.venitVechi : d.venitPeMembru, false);
+            ultimul ? d.cuantum : cuantumLa(d, d.evenimente[i].dinData, i == 0 ? d.venitVechi : d.venitPeMembru, false).Cuantum;
     }
 }
 

@@ -2,6 +2,7 @@
 #include "shell/Program.h"
 #include "shell/Setari.h"
 #include "shell/frmMain.h"
+#include "store/Demo.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
 
@@ -172,11 +173,9 @@ TEST_P(FereastraPrincipala, MeniurileAuToateIntrarile) {
 }
 
 TEST_P(FereastraPrincipala, SeDeseneazaCuOMieDeCereri) {
-    Tranzactie t(Bd());
-    for (int i = 1; i <= 1000; ++i)
-        AdaugaCerereTest(Bd(), {i, 0, i, 1 + i % 8, 1 + i % 2, QStringLiteral("Branesti"), QStringLiteral("Garii"),
-                                {{i, QStringLiteral("Nume%1").arg(i), QStringLiteral("Prenume"), QStringLiteral("1800101400123"), 1}}});
-    t.Confirma();
+    Demo::Optiuni o;
+    o.cereri = 1000;
+    Demo::Genereaza(Bd(), o);
     Bd().Executa(QStringLiteral("INSERT INTO DatePrimarie (Denumire) VALUES ('Primaria Comunei Branesti')"));
     auto f = Deschide();
     EXPECT_EQ(f->lblRezul->text(), QStringLiteral("1000 cereri"));
