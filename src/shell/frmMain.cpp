@@ -6,6 +6,7 @@
 #include "shell/LunaLucru.h"
 #include "shell/Mesaje.h"
 #include "shell/ModelCereri.h"
+#include "shell/PaneluriCerere.h"
 #include "shell/Pornire.h"
 #include "shell/Program.h"
 #include "shell/Setari.h"
@@ -32,6 +33,7 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QTableView>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -154,24 +156,73 @@ void frmMain::construiesteListeleDeJos(QWidget* jos) {
     asezare->setContentsMargins(0, 0, 0, 0);
     opt = new QTabWidget(jos);
     opt->setObjectName(QStringLiteral("opt"));
-    auto lista = [&](QTreeWidget*& l, const char* nume, const QString& titlu, const QStringList& coloane) {
-        l = new QTreeWidget(opt);
+    auto buton = [&](QWidget* panou, QHBoxLayout* rand, QPushButton*& b, const char* nume, const QString& text) {
+        b = new QPushButton(text, panou);
+        b->setObjectName(QString::fromLatin1(nume));
+        b->setEnabled(false);
+        rand->addWidget(b);
+    };
+    auto panou = [&](QTreeWidget*& l, const char* nume, const QString& titluTab, const QStringList& coloane, QLabel** titlu) {
+        auto* p = new QWidget(opt);
+        auto* v = new QVBoxLayout(p);
+        v->setContentsMargins(2, 2, 2, 2);
+        if (titlu) {
+            *titlu = new QLabel(p);
+            v->addWidget(*titlu);
+        }
+        l = new QTreeWidget(p);
         l->setObjectName(QString::fromLatin1(nume));
         l->setRootIsDecorated(false);
         l->setHeaderLabels(coloane.isEmpty() ? QStringList{QString()} : coloane);
         if (!coloane.isEmpty())
             l->setColumnHidden(0, true);
-        opt->addTab(l, titlu);
+        v->addWidget(l, 1);
+        opt->addTab(p, titluTab);
+        return p;
     };
-    lista(lvwAnchete, "lvwAnchete", QStringLiteral("Anchete"),
-          {QStringLiteral("ID"), QStringLiteral("Data"), QStringLiteral("Nr membrii"), QStringLiteral("Nr copii"),
-           QStringLiteral("Data expirarii"), QStringLiteral("Motivul expirarii")});
-    lista(lvwAdeverinte, "lvwAdeverinte", QStringLiteral("Adeverinte"), {});
-    lista(lvwPlati, "lvwPlati", QStringLiteral("Plati"), {});
-    lista(lvwDispozitii, "lvwDispozitii", QStringLiteral("Dispozitii"),
-          {QStringLiteral("ID"), QStringLiteral("Nr disp"), QStringLiteral("Data"), QStringLiteral("Tip decizie"),
-           QStringLiteral("Cuantum"), QStringLiteral("Luna"), QStringLiteral("Anul")});
+    QWidget* anchete = panou(lvwAnchete, "lvwAnchete", QStringLiteral("Anchete"),
+                             {QStringLiteral("ID"), QStringLiteral("Data"), QStringLiteral("Nr membrii"), QStringLiteral("Nr copii"),
+                              QStringLiteral("Data expirarii"), QStringLiteral("Motivul expirarii")},
+                             &lblAnchete);
+    auto* randAnchete = new QHBoxLayout;
+    buton(anchete, randAnchete, cmdAddAncheta, "cmdAddAncheta", QStringLiteral("Adauga ancheta"));
+    buton(anchete, randAnchete, cmdEditAncheta, "cmdEditAncheta", QStringLiteral("Modifica ancheta"));
+    buton(anchete, randAnchete, cmdDelAncheta, "cmdDelAncheta", QStringLiteral("Sterge ancheta"));
+    buton(anchete, randAnchete, cmdPrintAncheta, "cmdPrintAncheta", QStringLiteral("Tipareste ancheta"));
+    randAnchete->addStretch();
+    static_cast<QVBoxLayout*>(anchete->layout())->addLayout(randAnchete);
+    panou(lvwAdeverinte, "lvwAdeverinte", QStringLiteral("Adeverinte"), {}, nullptr);
+    panou(lvwPlati, "lvwPlati", QStringLiteral("Plati"), {}, nullptr);
+    QWidget* dispozitii = panou(lvwDispozitii, "lvwDispozitii", QStringLiteral("Dispozitii"),
+                                {QStringLiteral("ID"), QStringLiteral("Nr disp"), QStringLiteral("Data"), QStringLiteral("Tip decizie"),
+                                 QStringLiteral("Cuantum"), QStringLiteral("Luna"), QStringLiteral("Anul")},
+                                &lblDispozitii);
+    auto* randDisp = new QHBoxLayout;
+    buton(dispozitii, randDisp, cmdAddDisp, "cmdAddDisp", QStringLiteral("Adauga dispozitie"));
+    buton(dispozitii, randDisp, cmdEditDisp, "cmdEditDisp", QStringLiteral("Modifica dispozitie"));
+    buton(dispozitii, randDisp, cmdDelDisp, "cmdDelDisp", QStringLiteral("Sterge dispozitie"));
+    buton(dispozitii, randDisp, cmdPrintDisp, "cmdPrintDisp", QStringLiteral("Tipareste dispozitia"));
+    randDisp->addStretch();
+    static_cast<QVBoxLayout*>(dispozitii->layout())->addLayout(randDisp);
+    connect(cmdDelDisp, &QPushButton::clicked, this, &frmMain::cmdDelDisp_Click);
     asezare->addWidget(opt);
+
+    // The notice of expiring certificates slides up from the bottom edge.
+    picNotific = new QLabel(this);
+    picNotific->setObjectName(QStringLiteral("picNotific"));
+    picNotific->setStyleSheet(QStringLiteral("QLabel { background: #fff8c0; border: 1px solid #b09000; padding: 8px; }"));
+    picNotific->setAlignment(Qt::AlignCenter);
+    picNotific->hide();
+    timerNotificare_ = new QTimer(this);
+    timerNotificare_->setInterval(100);
+    connect(timerNotificare_, &QTimer::timeout, this, [this] {
+        const int tinta = height() - picNotific->height() - statusBar()->height() - 8;
+        if (picNotific->y() <= tinta) {
+            timerNotificare_->stop();
+            return;
+        }
+        picNotific->move(picNotific->x(), std::max(tinta, picNotific->y() - 4));
+    });
 }
 
 QAction* frmMain::meniu(QMenu* parinte, const char* nume, const QString& text, bool activ) {
@@ -289,6 +340,40 @@ void frmMain::Form_Load() {
         sbrMain[4]->setText(QStringLiteral("Versiune: ") + QString::fromUtf8(versiune.readAll()).trimmed());
     else
         sbrMain[4]->setText(QStringLiteral("Versiune: %1").arg(QStringLiteral(FEROLANTA_VERSIUNE)));
+
+    if (p_.setari.NotificareActe) {
+        try {
+            if (PaneluriCerere::ActeCareExpira(p_.bd, Ceas::Azi()))
+                ArataNotificarea();
+        } catch (const Eroare& e) {
+            m_.Critic(e.text());
+        }
+    }
+    QTimer::singleShot(1567, this, &frmMain::TimerMSG_UPD_Timer);
+}
+
+void frmMain::ArataNotificarea() {
+    picNotific->setText(PaneluriCerere::TextNotificare(Ceas::Azi()));
+    QFont f = picNotific->font();
+    f.setPointSizeF(f.pointSizeF() * 1.5);
+    picNotific->setFont(f);
+    picNotific->adjustSize();
+    picNotific->move(width() - picNotific->width() - 16, height());
+    picNotific->show();
+    picNotific->raise();
+    timerNotificare_->start();
+}
+
+void frmMain::resizeEvent(QResizeEvent* e) {
+    QMainWindow::resizeEvent(e);
+    if (picNotific && picNotific->isVisible())
+        picNotific->move(width() - picNotific->width() - 16, height() - picNotific->height() - statusBar()->height() - 8);
+}
+
+void frmMain::TimerMSG_UPD_Timer() {
+    // The printed forms use this font.
+    if (!FontInstalat(QStringLiteral("Monotype Corsiva")))
+        m_.Informatie(QStringLiteral("Fontul 'Monotype Corsiva' nu este instalat."));
 }
 
 void frmMain::ScrieTitlul(bool cuMesaj) {
@@ -369,8 +454,56 @@ void frmMain::ItemClick() {
     const RandCerere* r = model_->Rand(RandSelectat());
     if (!r)
         return;
-    if (ListaCereri::Citeste(p_.bd, r->CerereID).CerereID == 0)
-        m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
+    try {
+        if (ListaCereri::Citeste(p_.bd, r->CerereID).CerereID == 0) {
+            m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
+            return;
+        }
+        ListaDispozitii(r->CerereID);
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
+}
+
+void frmMain::ListaDispozitii(qint64 cerereID) {
+    lvwDispozitii->clear();
+    const auto randuri = PaneluriCerere::ListaDispozitii(p_.bd, cerereID);
+    for (const RandDispozitie& d : randuri) {
+        auto* item = new QTreeWidgetItem(lvwDispozitii, {QString::number(d.DispozitieID), d.NrDisp, FormatData(d.DataDisp),
+                                                         d.TipDecizie, FormatSuma(d.Cuantum), d.Luna, d.An});
+        item->setData(0, Qt::UserRole, d.DispozitieID);
+    }
+    const RandCerere* r = model_->Rand(RandSelectat());
+    lblDispozitii->setText(PaneluriCerere::TitluDispozitii(r ? r->Solicitant : QString(), randuri.size()));
+    // Editing and printing come with the disposition editor and the documents.
+    cmdDelDisp->setEnabled(!randuri.empty());
+    if (!randuri.empty())
+        lvwDispozitii->setCurrentItem(lvwDispozitii->topLevelItem(0));
+}
+
+void frmMain::cmdDelDisp_Click() {
+    QTreeWidgetItem* item = lvwDispozitii->currentItem();
+    if (!item) {
+        m_.Informatie(QStringLiteral("Selectati o dispozitie!"));
+        return;
+    }
+    if (!VerificaBD(p_.bd, m_))
+        return;
+    const int index = lvwDispozitii->indexOfTopLevelItem(item);
+    try {
+        if (!m_.Intrebare(QStringLiteral("Sigur doriti sa stergeti dispozitia %1 ?").arg(item->text(1)), {}, false))
+            return;
+        if (!PaneluriCerere::StergeDispozitie(p_.bd, item->data(0, Qt::UserRole).toLongLong()))
+            m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cerere!"));
+    } catch (const Eroare& e) {
+        m_.Critic(QStringLiteral("Exceptie Morvante din \"Delete Dispozitii\" %1").arg(e.text()));
+        return;
+    }
+    delete lvwDispozitii->takeTopLevelItem(index);
+    const int ramase = lvwDispozitii->topLevelItemCount();
+    if (ramase > 0)
+        lvwDispozitii->setCurrentItem(lvwDispozitii->topLevelItem(std::min(index, ramase - 1)));
+    cmdDelDisp->setEnabled(ramase > 0);
 }
 
 void frmMain::cmdAdd_Click() {

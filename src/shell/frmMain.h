@@ -16,6 +16,7 @@ class QListWidget;
 class QPushButton;
 class QTableView;
 class QTabWidget;
+class QTimer;
 class QTreeWidget;
 
 // The one top-level window: the search and the request list above, the lists of the selected
@@ -35,6 +36,9 @@ public:
     void SelecteazaRand(int rand);
     int RandSelectat() const;
     void ScrieLunaActiva();
+    void ListaDispozitii(qint64 cerereID);
+    void cmdDelDisp_Click();
+    void TimerMSG_UPD_Timer();
 
     ModelCereri* model() const { return model_; }
 
@@ -55,6 +59,17 @@ public:
     QTreeWidget* lvwAdeverinte = nullptr;
     QTreeWidget* lvwPlati = nullptr;
     QTreeWidget* lvwDispozitii = nullptr;
+    QLabel* lblAnchete = nullptr;
+    QLabel* lblDispozitii = nullptr;
+    QPushButton* cmdAddAncheta = nullptr;
+    QPushButton* cmdEditAncheta = nullptr;
+    QPushButton* cmdDelAncheta = nullptr;
+    QPushButton* cmdPrintAncheta = nullptr;
+    QPushButton* cmdAddDisp = nullptr;
+    QPushButton* cmdEditDisp = nullptr;
+    QPushButton* cmdDelDisp = nullptr;
+    QPushButton* cmdPrintDisp = nullptr;
+    QLabel* picNotific = nullptr;
     std::array<QLabel*, 5> sbrMain{};
 
 protected:
@@ -74,9 +89,11 @@ private:
     FiltruCautare FiltruDinControale() const;
     void Iesire();
     void ArataLunaLucru(bool dinMeniu);
+    void ArataNotificarea();
+    void resizeEvent(QResizeEvent* e) override;
 
     Program& p_;
     Mesaje& m_;
     ModelCereri* model_;
-    bool ordineNumerica_ = false;
+    QTimer* timerNotificare_ = nullptr;
 };

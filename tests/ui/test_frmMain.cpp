@@ -1,3 +1,4 @@
+#include "shell/Ceas.h"
 #include "shell/ModelCereri.h"
 #include "shell/Program.h"
 #include "shell/Setari.h"
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
+#include <QTreeWidget>
 
 namespace {
 
@@ -193,6 +195,44 @@ TEST_P(FereastraPrincipala, SeDeseneazaCuOMieDeCereri) {
     const QString capturi = qEnvironmentVariable("FEROLANTA_CAPTURI");
     if (!capturi.isEmpty())
         imagine.save(QStringLiteral("%1/frmMain_%2.png").arg(capturi, Bd().dialect().NumeEngine()));
+}
+
+TEST_P(FereastraPrincipala, DispozitiileCereriiSelectateSiStergerea) {
+    TreiCereri();
+    Interogare ins(Bd(), QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, Actiune) VALUES (?, ?, ?, ?, ?)"));
+    ins.Leaga(1).Leaga(1).Leaga(7).Leaga(QDate(2024, 4, 1)).Leaga(1).Executa();
+    ins.Leaga(2).Leaga(1).Leaga(8).Leaga(QDate(2024, 6, 1)).Leaga(2).Executa();
+    auto f = Deschide();
+    EXPECT_EQ(f->lvwDispozitii->topLevelItemCount(), 2) << "the first row's dispositions are shown";
+    EXPECT_EQ(f->lblDispozitii->text(), QStringLiteral("Dispozitiile lui Popescu Ion."));
+    EXPECT_TRUE(f->cmdDelDisp->isEnabled());
+
+    mesaje.raspunsuri = {true};
+    f->cmdDelDisp_Click();
+    EXPECT_EQ(mesaje.Texte(MesajeInregistrate::Fel::Intrebare), QStringList{QStringLiteral("Sigur doriti sa stergeti dispozitia 8 ?")});
+    EXPECT_EQ(f->lvwDispozitii->topLevelItemCount(), 1);
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii")), 1);
+
+    f->SelecteazaRand(1); // a request with none
+    EXPECT_EQ(f->lvwDispozitii->topLevelItemCount(), 0);
+    EXPECT_TRUE(f->lblDispozitii->text().isEmpty());
+    EXPECT_FALSE(f->cmdDelDisp->isEnabled());
+    mesaje.mesaje.clear();
+    f->cmdDelDisp_Click();
+    EXPECT_EQ(mesaje.Texte(), QStringList{QStringLiteral("Selectati o dispozitie!")});
+}
+
+TEST_P(FereastraPrincipala, NotificareaApareDoarCandEsteCerutaSiSuntActe) {
+    TreiCereri();
+    Interogare(Bd(), QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataExpAdev, AdvCurenta) "
+                                    "VALUES (1, 1, 1, 3, ?, 1)"))
+        .Leaga(QDate(Ceas::Azi().year(), Ceas::Azi().month(), 1)).Executa();
+    setari.NotificareActe = false;
+    EXPECT_FALSE(Deschide()->picNotific->isVisible());
+    setari.NotificareActe = true;
+    auto f = Deschide();
+    EXPECT_TRUE(f->picNotific->isVisible());
+    EXPECT_TRUE(f->picNotific->text().startsWith(QStringLiteral("Aveti acte care expira in luna ")));
 }
 
 PE_AMBELE_MOTOARE(FereastraPrincipala);
