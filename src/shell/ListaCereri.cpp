@@ -126,6 +126,25 @@ RandCerere ListaCereri::Citeste(BazaDate& db, qint64 cerereID) {
     return q.Exista() ? randDin(q) : RandCerere{};
 }
 
+namespace {
+std::vector<ElementLista> elemente(BazaDate& db, const QString& sql) {
+    Interogare q(db, sql);
+    q.Executa();
+    std::vector<ElementLista> r;
+    while (q.Urmator())
+        r.push_back({q.Intreg(0), q.Valoare(1).toString()});
+    return r;
+}
+} // namespace
+
+std::vector<ElementLista> ListaCereri::Strazi(BazaDate& db) {
+    return elemente(db, QStringLiteral("SELECT StradaID, Denumire FROM Strazi ORDER BY Denumire"));
+}
+
+std::vector<ElementLista> ListaCereri::Stari(BazaDate& db) {
+    return elemente(db, QStringLiteral("SELECT DataID, Continut FROM DateGen WHERE Tip = 1 ORDER BY Ordine, DataID"));
+}
+
 QString ListaCereri::TextRezultat(qsizetype n) {
     if (n == 0)
         return QStringLiteral(" Nu exista nici o cerere");

@@ -39,7 +39,18 @@ struct FiltruCautare {
     bool OrdineNumerica = false; // by request number; otherwise as the database returns them
 };
 
+// One entry of a combo or list filled from a table: its key and its text.
+struct ElementLista {
+    qint64 id = 0;
+    QString text;
+};
+
 namespace ListaCereri {
+
+// The streets and villages, by name, for the search box.
+std::vector<ElementLista> Strazi(BazaDate& db);
+// The request statuses in their order, for the status filter.
+std::vector<ElementLista> Stari(BazaDate& db);
 
 // All requests matching the filter, with their titular, family and status text, in one query.
 std::vector<RandCerere> Cauta(BazaDate& db, const FiltruCautare& f);

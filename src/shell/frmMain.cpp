@@ -304,32 +304,23 @@ void frmMain::construiesteBaraDeStare() {
 }
 
 void frmMain::Form_Load() {
-    cboStrada->clear();
-    Interogare strazi(p_.bd, QStringLiteral("SELECT StradaID, Denumire FROM Strazi ORDER BY Denumire"));
-    strazi.Executa();
-    while (strazi.Urmator())
-        cboStrada->addItem(strazi.Text(QStringLiteral("Denumire")), strazi.Intreg(QStringLiteral("StradaID")));
-    cboStrada->setCurrentIndex(-1);
-
-    ScrieTitlul(true);
-
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    FiltruCautare f;
-    f.LoadTipCerere = p_.setari.LoadTipCerere;
     try {
+        cboStrada->clear();
+        for (const ElementLista& e : ListaCereri::Strazi(p_.bd))
+            cboStrada->addItem(e.text, e.id);
+        cboStrada->setCurrentIndex(-1);
+        ScrieTitlul(true);
+        FiltruCautare f;
+        f.LoadTipCerere = p_.setari.LoadTipCerere;
         ListaCereri(ListaCereri::Cauta(p_.bd, f));
+        lstStare->clear();
+        for (const ElementLista& e : ListaCereri::Stari(p_.bd))
+            (new QListWidgetItem(e.text, lstStare))->setData(Qt::UserRole, e.id);
     } catch (const Eroare& e) {
         m_.Critic(e.text());
     }
     QApplication::restoreOverrideCursor();
-
-    lstStare->clear();
-    Interogare stari(p_.bd, QStringLiteral("SELECT DataID, Continut FROM DateGen WHERE Tip = 1 ORDER BY Ordine, DataID"));
-    stari.Executa();
-    while (stari.Urmator()) {
-        auto* item = new QListWidgetItem(stari.Text(QStringLiteral("Continut")), lstStare);
-        item->setData(Qt::UserRole, stari.Intreg(QStringLiteral("DataID")));
-    }
 
     const QDate azi = Ceas::Azi();
     sbrMain[0]->setText(QStringLiteral(" %1 %2 %3 ").arg(azi.day()).arg(LuniAn()[azi.month() - 1]).arg(azi.year()));
@@ -413,8 +404,8 @@ void frmMain::cmdCauta_Click() {
     QApplication::restoreOverrideCursor();
 }
 
-void frmMain::ListaCereri(const std::vector<RandCerere>& randuri) {
-    model_->Seteaza(randuri);
+void frmMain::ListaCereri(std::vector<RandCerere> randuri) {
+    model_->Seteaza(std::move(randuri));
     lblRezul->setText(ListaCereri::TextRezultat(model_->rowCount()));
     if (model_->rowCount() > 0)
         SelecteazaRand(0);

@@ -84,7 +84,7 @@ private:
     QAction* meniu(QMenu* parinte, const char* nume, const QString& text, bool activ);
     void Form_Load();
     void ScrieTitlul(bool cuMesaj);
-    void ListaCereri(const std::vector<RandCerere>& randuri);
+    void ListaCereri(std::vector<RandCerere> randuri);
     void GolireFiltre();
     FiltruCautare FiltruDinControale() const;
     void Iesire();
