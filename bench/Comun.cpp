@@ -23,8 +23,7 @@ LocatieBD BazaDemoSQLite(int cereri, bool copie) {
         MesajeTacute m;
         ActualizareBD(*BazaDate::Deschide(loc), loc.caleBD, m);
     }
-    if (!copie)
-        return loc;
+    if (!copie) return loc;
     LocatieBD lucru{folder + QStringLiteral("-lucru"), {}};
     QDir().mkpath(lucru.caleBD);
     QFile::remove(lucru.FisierSQLite());

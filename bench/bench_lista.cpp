@@ -62,11 +62,14 @@ void Sterge(benchmark::State& st) {
 const bool inregistrate = [] {
     benchmark::RegisterBenchmark("lista/pornire_100k", Pornire)->Unit(benchmark::kMillisecond)->UseRealTime();
     benchmark::RegisterBenchmark("lista/cauta_cnp", Cauta, filtru(QStringLiteral("2850"), {}, {}))
-        ->Unit(benchmark::kMillisecond)->UseRealTime();
+        ->Unit(benchmark::kMillisecond)
+        ->UseRealTime();
     benchmark::RegisterBenchmark("lista/cauta_nume", Cauta, filtru({}, QStringLiteral("Pop"), {}))
-        ->Unit(benchmark::kMillisecond)->UseRealTime();
+        ->Unit(benchmark::kMillisecond)
+        ->UseRealTime();
     benchmark::RegisterBenchmark("lista/filtru_stare", Cauta, filtru({}, {}, {3}))
-        ->Unit(benchmark::kMillisecond)->UseRealTime();
+        ->Unit(benchmark::kMillisecond)
+        ->UseRealTime();
     benchmark::RegisterBenchmark("lista/sterge", Sterge)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(200);
     return true;
 }();

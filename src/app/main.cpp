@@ -18,12 +18,10 @@ int main(int argc, char** argv) {
 
     // One copy per computer: a second one ends at once, silently.
     QString folderBlocare = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (folderBlocare.isEmpty())
-        folderBlocare = QDir::tempPath();
+    if (folderBlocare.isEmpty()) folderBlocare = QDir::tempPath();
     QLockFile blocare(QDir(folderBlocare).filePath(QStringLiteral("ferolanta.lock")));
     blocare.setStaleLockTime(0);
-    if (!blocare.tryLock(0))
-        return 0;
+    if (!blocare.tryLock(0)) return 0;
 
     UiMesaje mesaje;
     RezultatPornire pornire = PornesteBaza(Foldere::ApplicationPath(), Foldere::FolderLivrat(), mesaje);
@@ -32,14 +30,12 @@ int main(int argc, char** argv) {
         locatie.exec();
         return 0;
     }
-    if (pornire.stare != RezultatPornire::Stare::Deschisa)
-        return 0;
+    if (pornire.stare != RezultatPornire::Stare::Deschisa) return 0;
 
     if (!pornire.setari.Parola.isEmpty()) {
         frmLogin login(pornire.setari.Parola, mesaje);
         login.exec();
-        if (!login.LoginSucceeded)
-            return 0;
+        if (!login.LoginSucceeded) return 0;
     }
 
     Program program{*pornire.bd, pornire.setari, pornire.applicationPath};

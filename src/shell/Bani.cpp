@@ -9,8 +9,7 @@ std::int64_t imparteRotunjitPar(__int128 valoare, __int128 divizor) {
     __int128 cat = valoare / divizor;
     __int128 rest = valoare % divizor;
     __int128 dublu = (rest < 0 ? -rest : rest) * 2;
-    if (dublu > divizor || (dublu == divizor && (cat % 2) != 0))
-        cat += valoare < 0 ? -1 : 1;
+    if (dublu > divizor || (dublu == divizor && (cat % 2) != 0)) cat += valoare < 0 ? -1 : 1;
     return static_cast<std::int64_t>(cat);
 }
 
@@ -18,8 +17,7 @@ std::int64_t imparteRotunjitPar(__int128 valoare, __int128 divizor) {
 
 std::optional<Bani> Bani::DinText(QStringView text) {
     text = text.trimmed();
-    if (text.isEmpty())
-        return std::nullopt;
+    if (text.isEmpty()) return std::nullopt;
     bool negativ = false;
     qsizetype i = 0;
     if (text[0] == u'-' || text[0] == u'+') {
@@ -32,20 +30,17 @@ std::optional<Bani> Bani::DinText(QStringView text) {
     for (; i < text.size(); ++i) {
         const QChar c = text[i];
         if (c.isDigit() && c.unicode() < 128) {
-            if (cifre > __int128(1) << 100)
-                return std::nullopt;
+            if (cifre > __int128(1) << 100) return std::nullopt;
             cifre = cifre * 10 + (c.unicode() - u'0');
             oCifra = true;
-            if (separator)
-                ++zecimale;
+            if (separator) ++zecimale;
         } else if ((c == u'.' || c == u',') && !separator) {
             separator = true;
         } else {
             return std::nullopt;
         }
     }
-    if (!oCifra)
-        return std::nullopt;
+    if (!oCifra) return std::nullopt;
     __int128 unitati;
     if (zecimale <= 4) {
         unitati = cifre;
@@ -57,15 +52,13 @@ std::optional<Bani> Bani::DinText(QStringView text) {
             divizor *= 10;
         unitati = imparteRotunjitPar(cifre, divizor);
     }
-    if (unitati > INT64_MAX)
-        return std::nullopt;
+    if (unitati > INT64_MAX) return std::nullopt;
     const auto u = static_cast<std::int64_t>(unitati);
     return Bani(negativ ? -u : u);
 }
 
 Bani Bani::DinVariant(const QVariant& v) {
-    if (v.isNull() || !v.isValid())
-        return Bani();
+    if (v.isNull() || !v.isValid()) return Bani();
     switch (v.typeId()) {
     case QMetaType::Int:
     case QMetaType::LongLong:
@@ -77,8 +70,7 @@ Bani Bani::DinVariant(const QVariant& v) {
         // SQLite keeps a decimal as a double; four decimals survive the round trip exactly.
         return Bani(static_cast<std::int64_t>(std::llround(v.toDouble() * Scala)));
     default:
-        if (auto b = DinText(v.toString()))
-            return *b;
+        if (auto b = DinText(v.toString())) return *b;
         return Bani(static_cast<std::int64_t>(std::llround(v.toDouble() * Scala)));
     }
 }
@@ -95,4 +87,6 @@ Bani Bani::Inmultit(const Bani& alt) const {
     return Bani(imparteRotunjitPar(__int128(unitati_) * alt.unitati_, Scala));
 }
 
-std::int64_t Bani::RotunjitPar() const { return imparteRotunjitPar(unitati_, Scala); }
+std::int64_t Bani::RotunjitPar() const {
+    return imparteRotunjitPar(unitati_, Scala);
+}

@@ -35,8 +35,14 @@ public:
     constexpr Bani operator-(Bani b) const { return Bani(unitati_ - b.unitati_); }
     constexpr Bani operator-() const { return Bani(-unitati_); }
     constexpr Bani operator*(std::int64_t n) const { return Bani(unitati_ * n); }
-    Bani& operator+=(Bani b) { unitati_ += b.unitati_; return *this; }
-    Bani& operator-=(Bani b) { unitati_ -= b.unitati_; return *this; }
+    Bani& operator+=(Bani b) {
+        unitati_ += b.unitati_;
+        return *this;
+    }
+    Bani& operator-=(Bani b) {
+        unitati_ -= b.unitati_;
+        return *this;
+    }
     constexpr auto operator<=>(const Bani&) const = default;
 
 private:

@@ -4,6 +4,10 @@ namespace {
 QDate ziFixata;
 }
 
-QDate Ceas::Azi() { return ziFixata.isValid() ? ziFixata : QDate::currentDate(); }
+QDate Ceas::Azi() {
+    return ziFixata.isValid() ? ziFixata : QDate::currentDate();
+}
 
-void Ceas::SeteazaAzi(const QDate& zi) { ziFixata = zi; }
+void Ceas::SeteazaAzi(const QDate& zi) {
+    ziFixata = zi;
+}

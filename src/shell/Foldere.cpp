@@ -14,11 +14,9 @@ bool copiazaArbore(const QString& sursa, const QString& tinta) {
     while (it.hasNext()) {
         const QString f = it.next();
         const QString dest = QDir(tinta).filePath(QDir(sursa).relativeFilePath(f));
-        if (QFile::exists(dest))
-            continue;
+        if (QFile::exists(dest)) continue;
         QDir().mkpath(QFileInfo(dest).absolutePath());
-        if (!QFile::copy(f, dest))
-            return false;
+        if (!QFile::copy(f, dest)) return false;
         // The copies are what the town hall edits.
         QFile::setPermissions(dest, QFile::permissions(dest) | QFileDevice::WriteOwner);
     }
@@ -28,9 +26,9 @@ bool copiazaArbore(const QString& sursa, const QString& tinta) {
 } // namespace
 
 QString Foldere::FolderLivrat() {
-    const QString langaProgram = QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../share/ferolanta"));
-    if (QDir(langaProgram).exists())
-        return QDir::cleanPath(langaProgram);
+    const QString langaProgram =
+        QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../share/ferolanta"));
+    if (QDir(langaProgram).exists()) return QDir::cleanPath(langaProgram);
 #ifdef FEROLANTA_SURSA
     return QStringLiteral(FEROLANTA_SURSA);
 #else
@@ -40,18 +38,15 @@ QString Foldere::FolderLivrat() {
 
 QString Foldere::ApplicationPath() {
     const QString program = QCoreApplication::applicationDirPath();
-    if (QFile::exists(QDir(program).filePath(FisierSetari)))
-        return program;
+    if (QFile::exists(QDir(program).filePath(FisierSetari))) return program;
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
 }
 
 bool Foldere::PregatesteFolderDate(const QString& folderDate, const QString& folderLivrat) {
-    if (!QDir().mkpath(folderDate))
-        return false;
+    if (!QDir().mkpath(folderDate)) return false;
     for (const QString& sub : {QStringLiteral("Acte"), QStringLiteral("Rapoarte"), QStringLiteral("web")}) {
         const QString sursa = QDir(folderLivrat).filePath(sub);
-        if (QDir(sursa).exists() && !copiazaArbore(sursa, QDir(folderDate).filePath(sub)))
-            return false;
+        if (QDir(sursa).exists() && !copiazaArbore(sursa, QDir(folderDate).filePath(sub))) return false;
     }
     return true;
 }

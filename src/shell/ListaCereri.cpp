@@ -37,7 +37,8 @@ RandCerere randDin(const Interogare& q) {
     r.Stare = int(q.Intreg(5));
     r.StareText = q.Valoare(20).toString();
     const QVariant data = q.Valoare(6);
-    r.DataCerere = data.typeId() == QMetaType::QDate ? data.toDate() : QDate::fromString(data.toString().left(10), Qt::ISODate);
+    r.DataCerere =
+        data.typeId() == QMetaType::QDate ? data.toDate() : QDate::fromString(data.toString().left(10), Qt::ISODate);
     r.VenitTotal = Bani::DinVariant(q.Valoare(7));
     r.Cuantum = Bani::DinVariant(q.Valoare(8));
     r.NrMembrii = q.Intreg(9);
@@ -48,8 +49,7 @@ RandCerere randDin(const Interogare& q) {
     const std::pair<int, const char*> parti[] = {{16, ", "}, {17, ", nr. "}, {18, ", sc. "}, {19, ", ap. "}};
     for (const auto& [i, eticheta] : parti) {
         const QString v = q.Valoare(i).toString();
-        if (!v.isEmpty())
-            adresa += QLatin1String(eticheta) + v;
+        if (!v.isEmpty()) adresa += QLatin1String(eticheta) + v;
     }
     r.Adresa = adresa;
     return r;
@@ -105,11 +105,11 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
         valori << f.LoadTipCerere;
     }
     QString sql = SelectLista;
-    if (!conditii.isEmpty())
-        sql += QStringLiteral(" WHERE ") + conditii.join(QStringLiteral(" AND "));
+    if (!conditii.isEmpty()) sql += QStringLiteral(" WHERE ") + conditii.join(QStringLiteral(" AND "));
     // "+ 0" keeps the planner from walking the whole table in NrCerere order to spare a sort,
     // so that a search starts from the index of what the clerk typed.
-    sql += f.OrdineNumerica ? QStringLiteral(" ORDER BY C.NrCerere + 0, C.CerereID") : QStringLiteral(" ORDER BY C.CerereID");
+    sql += f.OrdineNumerica ? QStringLiteral(" ORDER BY C.NrCerere + 0, C.CerereID")
+                            : QStringLiteral(" ORDER BY C.CerereID");
     Interogare q(db, sql);
     for (const QVariant& v : valori)
         q.Leaga(v);
@@ -146,18 +146,15 @@ std::vector<ElementLista> ListaCereri::Stari(BazaDate& db) {
 }
 
 QString ListaCereri::TextRezultat(qsizetype n) {
-    if (n == 0)
-        return QStringLiteral(" Nu exista nici o cerere");
-    if (n == 1)
-        return QStringLiteral(" o cerere");
+    if (n == 0) return QStringLiteral(" Nu exista nici o cerere");
+    if (n == 1) return QStringLiteral(" o cerere");
     return QStringLiteral("%1 cereri").arg(n);
 }
 
 QString ListaCereri::DenumirePrimarie(BazaDate& db, bool* exista) {
     Interogare q(db, QStringLiteral("SELECT Denumire FROM DatePrimarie"));
     const bool gasit = q.Exista();
-    if (exista)
-        *exista = gasit;
+    if (exista) *exista = gasit;
     return gasit ? q.Text(QStringLiteral("Denumire")) : QString();
 }
 
@@ -173,10 +170,13 @@ void ListaCereri::Sterge(BazaDate& db, qint64 cerereID) {
     cerere.query().finish();
 
     // A person who is on another request stays.
-    Interogare(db, QStringLiteral("DELETE FROM Membrii WHERE MembruID IN (SELECT MembruID FROM CereriMembrii WHERE CerereID = ?) "
-                                  "AND NOT EXISTS (SELECT 1 FROM CereriMembrii X WHERE X.MembruID = Membrii.MembruID "
-                                  "AND X.CerereID <> ?)"))
-        .Leaga(cerereID).Leaga(cerereID).Executa();
+    Interogare(db, QStringLiteral(
+                       "DELETE FROM Membrii WHERE MembruID IN (SELECT MembruID FROM CereriMembrii WHERE CerereID = ?) "
+                       "AND NOT EXISTS (SELECT 1 FROM CereriMembrii X WHERE X.MembruID = Membrii.MembruID "
+                       "AND X.CerereID <> ?)"))
+        .Leaga(cerereID)
+        .Leaga(cerereID)
+        .Executa();
 
     Interogare alte(db, QStringLiteral("SELECT COUNT(CerereID) AS Nr FROM Cereri WHERE FamilieID = ?"));
     alte.Leaga(familie).Exista();

@@ -13,9 +13,9 @@ class BazaDate;
 struct RandCerere {
     qint64 CerereID = 0;
     qint64 FamilieID = 0;
-    QString NrCerere;   // number, dossier and request text, blank-separated
+    QString NrCerere; // number, dossier and request text, blank-separated
     qint64 NrCerereNumar = 0;
-    QString Tip;        // "Cu sot", "Mono"
+    QString Tip; // "Cu sot", "Mono"
     int Stare = 0;
     QString StareText;
     QDate DataCerere;

@@ -8,15 +8,12 @@
 
 std::optional<QString> LunaLucru::Verifica(BazaDate& db, const QString& luna, const QString& an) {
     const double l = Val(luna);
-    if (l < 1 || l > 12)
-        return QStringLiteral("Luna incorecta!");
+    if (l < 1 || l > 12) return QStringLiteral("Luna incorecta!");
     const double a = Val(an);
-    if (a < 2008 || a > 2500)
-        return QStringLiteral("An incorect!");
+    if (a < 2008 || a > 2500) return QStringLiteral("An incorect!");
     Interogare q(db, QStringLiteral("SELECT 1 FROM StatePlata WHERE An = ? AND Luna = ?"));
     q.Leaga(qint64(a)).Leaga(qint64(l));
-    if (!q.Exista())
-        return QStringLiteral("An sau Luna incorecta!");
+    if (!q.Exista()) return QStringLiteral("An sau Luna incorecta!");
     return std::nullopt;
 }
 

@@ -11,9 +11,15 @@ void scrie(std::FILE* f, const QString& text) {
 }
 } // namespace
 
-void MesajeConsola::Informatie(const QString& text, const QString&) { scrie(stdout, text); }
-void MesajeConsola::Avertisment(const QString& text, const QString&) { scrie(stderr, text); }
-void MesajeConsola::Critic(const QString& text, const QString&) { scrie(stderr, text); }
+void MesajeConsola::Informatie(const QString& text, const QString&) {
+    scrie(stdout, text);
+}
+void MesajeConsola::Avertisment(const QString& text, const QString&) {
+    scrie(stderr, text);
+}
+void MesajeConsola::Critic(const QString& text, const QString&) {
+    scrie(stderr, text);
+}
 
 bool MesajeConsola::Intrebare(const QString& text, const QString&, bool implicitDa) {
     scrie(stderr, text + (implicitDa ? QStringLiteral(" [Da]") : QStringLiteral(" [Nu]")));

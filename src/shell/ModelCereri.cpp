@@ -8,8 +8,8 @@
 
 namespace {
 
-const char* const Titluri[] = {"ID",      "Nr cerere", "Tip",      "Stare",   "Data",        "Solicitant",
-                               "CNP",     "Adresa",    "V. total", "Cuantum", "Nr. membrii", "Nr. copii"};
+const char* const Titluri[] = {"ID",  "Nr cerere", "Tip",      "Stare",   "Data",        "Solicitant",
+                               "CNP", "Adresa",    "V. total", "Cuantum", "Nr. membrii", "Nr. copii"};
 
 } // namespace
 
@@ -25,14 +25,12 @@ const RandCerere* ModelCereri::Rand(int rand) const {
 
 int ModelCereri::RandulCererii(qint64 cerereID) const {
     for (size_t i = 0; i < randuri_.size(); ++i)
-        if (randuri_[i].CerereID == cerereID)
-            return int(i);
+        if (randuri_[i].CerereID == cerereID) return int(i);
     return -1;
 }
 
 void ModelCereri::Inlocuieste(int rand, const RandCerere& r) {
-    if (!Rand(rand))
-        return;
+    if (!Rand(rand)) return;
     randuri_[size_t(rand)] = r;
     Q_EMIT dataChanged(index(rand, 0), index(rand, NrColoane - 1));
 }
@@ -45,8 +43,7 @@ void ModelCereri::Adauga(const RandCerere& r) {
 }
 
 void ModelCereri::Elimina(int rand) {
-    if (!Rand(rand))
-        return;
+    if (!Rand(rand)) return;
     beginRemoveRows({}, rand, rand);
     randuri_.erase(randuri_.begin() + rand);
     endRemoveRows();
@@ -54,30 +51,46 @@ void ModelCereri::Elimina(int rand) {
 
 QString ModelCereri::Text(const RandCerere& r, int coloana) {
     switch (coloana) {
-    case ID: return QString::number(r.CerereID);
-    case NrCerere: return r.NrCerere;
-    case Tip: return r.Tip;
-    case Stare: return r.StareText;
-    case Data: return r.DataCerere.isValid() ? r.DataCerere.toString(QStringLiteral("dd.MM.yyyy")) : QString();
-    case Solicitant: return r.Solicitant;
-    case CNP: return r.CNP;
-    case Adresa: return r.Adresa;
-    case VenitTotal: return FormatSuma(r.VenitTotal);
-    case Cuantum: return FormatSuma(r.Cuantum);
-    case NrMembrii: return QString::number(r.NrMembrii);
-    case NrCopii: return QString::number(r.NrCopii);
-    default: return {};
+    case ID:
+        return QString::number(r.CerereID);
+    case NrCerere:
+        return r.NrCerere;
+    case Tip:
+        return r.Tip;
+    case Stare:
+        return r.StareText;
+    case Data:
+        return r.DataCerere.isValid() ? r.DataCerere.toString(QStringLiteral("dd.MM.yyyy")) : QString();
+    case Solicitant:
+        return r.Solicitant;
+    case CNP:
+        return r.CNP;
+    case Adresa:
+        return r.Adresa;
+    case VenitTotal:
+        return FormatSuma(r.VenitTotal);
+    case Cuantum:
+        return FormatSuma(r.Cuantum);
+    case NrMembrii:
+        return QString::number(r.NrMembrii);
+    case NrCopii:
+        return QString::number(r.NrCopii);
+    default:
+        return {};
     }
 }
 
-int ModelCereri::rowCount(const QModelIndex& parinte) const { return parinte.isValid() ? 0 : int(randuri_.size()); }
+int ModelCereri::rowCount(const QModelIndex& parinte) const {
+    return parinte.isValid() ? 0 : int(randuri_.size());
+}
 
-int ModelCereri::columnCount(const QModelIndex& parinte) const { return parinte.isValid() ? 0 : NrColoane; }
+int ModelCereri::columnCount(const QModelIndex& parinte) const {
+    return parinte.isValid() ? 0 : NrColoane;
+}
 
 QVariant ModelCereri::data(const QModelIndex& index, int rol) const {
     const RandCerere* r = Rand(index.row());
-    if (!r)
-        return {};
+    if (!r) return {};
     switch (rol) {
     case Qt::DisplayRole:
         return Text(*r, index.column());

@@ -9,7 +9,21 @@
 class ModelCereri : public QAbstractTableModel {
     Q_OBJECT
 public:
-    enum Coloana { ID, NrCerere, Tip, Stare, Data, Solicitant, CNP, Adresa, VenitTotal, Cuantum, NrMembrii, NrCopii, NrColoane };
+    enum Coloana {
+        ID,
+        NrCerere,
+        Tip,
+        Stare,
+        Data,
+        Solicitant,
+        CNP,
+        Adresa,
+        VenitTotal,
+        Cuantum,
+        NrMembrii,
+        NrCopii,
+        NrColoane
+    };
 
     using QAbstractTableModel::QAbstractTableModel;
 

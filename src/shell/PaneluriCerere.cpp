@@ -4,9 +4,11 @@
 #include "store/BazaDate.h"
 
 std::vector<RandDispozitie> PaneluriCerere::ListaDispozitii(BazaDate& db, qint64 cerereID) {
-    Interogare q(db, QStringLiteral("SELECT D.DispozitieID, D.NrDisp, D.DataDisp, G.Continut AS TipDecizie, D.Cuantum, D.Luna, D.An "
-                                    "FROM Dispozitii D LEFT JOIN DateGen G ON G.Tip = 20 AND G.DataID = D.Actiune "
-                                    "WHERE D.CerereID = ? ORDER BY D.DataDisp DESC, D.DispozitieID DESC"));
+    Interogare q(
+        db,
+        QStringLiteral("SELECT D.DispozitieID, D.NrDisp, D.DataDisp, G.Continut AS TipDecizie, D.Cuantum, D.Luna, D.An "
+                       "FROM Dispozitii D LEFT JOIN DateGen G ON G.Tip = 20 AND G.DataID = D.Actiune "
+                       "WHERE D.CerereID = ? ORDER BY D.DataDisp DESC, D.DispozitieID DESC"));
     q.Leaga(cerereID).Executa();
     std::vector<RandDispozitie> r;
     while (q.Urmator()) {
@@ -43,5 +45,6 @@ bool PaneluriCerere::ActeCareExpira(BazaDate& db, const QDate& azi) {
 }
 
 QString PaneluriCerere::TextNotificare(const QDate& azi) {
-    return QStringLiteral("Aveti acte care expira in luna %1 !\nClick pentru a detalii.").arg(LuniAn()[azi.month() - 1]);
+    return QStringLiteral("Aveti acte care expira in luna %1 !\nClick pentru a detalii.")
+        .arg(LuniAn()[azi.month() - 1]);
 }

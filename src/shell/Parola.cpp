@@ -8,11 +8,12 @@ namespace {
 
 void initializeaza() {
     static const bool gata = sodium_init() >= 0;
-    if (!gata)
-        throw Eroare(QStringLiteral("Biblioteca de criptare nu a putut fi initializata."));
+    if (!gata) throw Eroare(QStringLiteral("Biblioteca de criptare nu a putut fi initializata."));
 }
 
-bool esteHash(const QString& s) { return s.startsWith(QLatin1String("$argon2")); }
+bool esteHash(const QString& s) {
+    return s.startsWith(QLatin1String("$argon2"));
+}
 
 } // namespace
 
@@ -27,19 +28,17 @@ QString Parola::Hash(const QString& parola) {
 }
 
 bool Parola::Corespunde(const QString& pastrata, const QString& scrisa) {
-    if (!esteHash(pastrata))
-        return pastrata == scrisa;
+    if (!esteHash(pastrata)) return pastrata == scrisa;
     initializeaza();
     const QByteArray hash = pastrata.toLatin1();
     const QByteArray text = scrisa.toUtf8();
     return crypto_pwhash_str_verify(hash.constData(), text.constData(), size_t(text.size())) == 0;
 }
 
-Parola::Schimbare Parola::Schimba(const QString& pastrata, const QString& veche, const QString& noua, const QString& repetata) {
-    if (!Corespunde(pastrata, veche))
-        return {QStringLiteral("Parola veche este incorecta!"), {}};
-    if (noua.trimmed().isEmpty())
-        return {QStringLiteral("Parola noua inexistenta!"), {}};
+Parola::Schimbare Parola::Schimba(const QString& pastrata, const QString& veche, const QString& noua,
+                                  const QString& repetata) {
+    if (!Corespunde(pastrata, veche)) return {QStringLiteral("Parola veche este incorecta!"), {}};
+    if (noua.trimmed().isEmpty()) return {QStringLiteral("Parola noua inexistenta!"), {}};
     if (noua.trimmed() != repetata.trimmed())
         return {QStringLiteral("Parola noua trebuie sa fie la fel in cele doua casute de text!"), {}};
     return {std::nullopt, Hash(noua.trimmed())};
@@ -47,6 +46,9 @@ Parola::Schimbare Parola::Schimba(const QString& pastrata, const QString& veche,
 
 Parola::Schimbare Parola::Reseteaza(const QString& pastrata, const QString& veche) {
     if (!Corespunde(pastrata, veche))
-        return {QStringLiteral("Parola veche este incorecta! Pentru a putea sterge parola trebuie sa o scrieti pe ce veche mai intai"), {}};
+        return {
+            QStringLiteral(
+                "Parola veche este incorecta! Pentru a putea sterge parola trebuie sa o scrieti pe ce veche mai intai"),
+            {}};
     return {std::nullopt, QString()};
 }

@@ -17,7 +17,8 @@ RezultatPornire PornesteBaza(const QString& applicationPath, const QString& fold
 
     if (!QFile::exists(setari)) {
         if (!Foldere::PregatesteFolderDate(applicationPath, folderLivrat)) {
-            m.Critic(QStringLiteral("Folderul de date %1 nu poate fi creat.").arg(QDir::toNativeSeparators(applicationPath)));
+            m.Critic(QStringLiteral("Folderul de date %1 nu poate fi creat.")
+                         .arg(QDir::toNativeSeparators(applicationPath)));
             return r;
         }
         LocatieBD loc{applicationPath, {}};
@@ -43,13 +44,15 @@ RezultatPornire PornesteBaza(const QString& applicationPath, const QString& fold
     if (!loc.EstePostgreSQL()) {
         const QString fisier = loc.FisierSQLite();
         if (ServiciuFisiere::StareFisier(fisier) == 1) {
-            if (m.Intrebare(QStringLiteral("Baza de date %1 nu a fost gasita in locatia %2\nDoriti sa selectati o noua locatie?")
+            if (m.Intrebare(QStringLiteral(
+                                "Baza de date %1 nu a fost gasita in locatia %2\nDoriti sa selectati o noua locatie?")
                                 .arg(NumeBD, loc.caleBD)))
                 r.stare = RezultatPornire::Stare::AlegeLocatie;
             return r;
         }
         if (ServiciuFisiere::StareFisier(fisier) == 2) {
-            m.Critic(QStringLiteral("Reteaua nu functioneaza sau locatia catre baza de date nu e corecta. Verificati!"));
+            m.Critic(
+                QStringLiteral("Reteaua nu functioneaza sau locatia catre baza de date nu e corecta. Verificati!"));
             return r;
         }
     }
@@ -57,7 +60,9 @@ RezultatPornire PornesteBaza(const QString& applicationPath, const QString& fold
         r.bd = BazaDate::Deschide(loc);
     } catch (const Eroare& e) {
         if (loc.EstePostgreSQL())
-            m.Critic(QStringLiteral("Reteaua nu functioneaza sau locatia catre baza de date nu e corecta. Verificati!\n%1").arg(e.text()));
+            m.Critic(
+                QStringLiteral("Reteaua nu functioneaza sau locatia catre baza de date nu e corecta. Verificati!\n%1")
+                    .arg(e.text()));
         else
             m.Critic(e.text());
         return r;

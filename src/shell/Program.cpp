@@ -4,4 +4,6 @@
 
 #include <QDir>
 
-QString Program::FisierSetari() const { return QDir(applicationPath).filePath(Foldere::FisierSetari); }
+QString Program::FisierSetari() const {
+    return QDir(applicationPath).filePath(Foldere::FisierSetari);
+}

@@ -14,16 +14,13 @@ namespace {
 
 // Settings files written by the old program are in the Windows-1250 code page; ours are UTF-8.
 QString decodeaza(const char* octeti) {
-    if (!octeti)
-        return {};
+    if (!octeti) return {};
     const QByteArray b(octeti);
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = utf8(b);
-    if (!utf8.hasError())
-        return text;
+    if (!utf8.hasError()) return text;
     QStringDecoder cp1250("windows-1250");
-    if (cp1250.isValid())
-        return cp1250(b);
+    if (cp1250.isValid()) return cp1250(b);
     return QString::fromLatin1(b);
 }
 
@@ -40,13 +37,10 @@ void incarca(CSimpleIniA& ini, const QString& fisier) {
 
 int ServiciuFisiere::StareFisier(const QString& cale) {
     const QFileInfo info(cale);
-    if (!QFileInfo(info.absolutePath()).isDir())
-        return 2;
-    if (!info.exists())
-        return 1;
+    if (!QFileInfo(info.absolutePath()).isDir()) return 2;
+    if (!info.exists()) return 1;
     QFile f(cale);
-    if (!f.open(QIODevice::ReadOnly))
-        return 2;
+    if (!f.open(QIODevice::ReadOnly)) return 2;
     return 0;
 }
 

@@ -25,21 +25,24 @@ const QString Cale = QStringLiteral("Cale");
 
 // A number goes into an integer variable rounded half to even, as the old run-time stored it.
 std::optional<int> Intreg(double v, int minim, int maxim) {
-    if (!std::isfinite(v))
-        return std::nullopt;
+    if (!std::isfinite(v)) return std::nullopt;
     double r = std::floor(v);
     const double rest = v - r;
-    if (rest > 0.5 || (rest == 0.5 && std::fmod(r, 2.0) != 0.0))
-        r += 1;
-    if (r < minim || r > maxim)
-        return std::nullopt;
+    if (rest > 0.5 || (rest == 0.5 && std::fmod(r, 2.0) != 0.0)) r += 1;
+    if (r < minim || r > maxim) return std::nullopt;
     return static_cast<int>(r);
 }
 
-int Octet(double v, int implicit) { return Intreg(v, 0, 255).value_or(implicit); }
+int Octet(double v, int implicit) {
+    return Intreg(v, 0, 255).value_or(implicit);
+}
 
-QString Flag(bool b) { return b ? QStringLiteral("1") : QStringLiteral("0"); }
-QString FlagFont(bool b) { return b ? QStringLiteral("255") : QStringLiteral("0"); }
+QString Flag(bool b) {
+    return b ? QStringLiteral("1") : QStringLiteral("0");
+}
+QString FlagFont(bool b) {
+    return b ? QStringLiteral("255") : QStringLiteral("0");
+}
 
 class Cititor {
 public:
@@ -55,15 +58,13 @@ public:
     // The written-back keys: 0 or empty takes the default, in memory and in the file.
     int OctetScris(const QString& sectiune, const QString& cheie, int implicit) const {
         const int v = Octet(sectiune, cheie, implicit);
-        if (v != 0)
-            return v;
+        if (v != 0) return v;
         SF::ScrieIni(fisier_, sectiune, cheie, QString::number(implicit));
         return implicit;
     }
     QString TextScris(const QString& sectiune, const QString& cheie, const QString& implicit) const {
         const QString v = Text(sectiune, cheie);
-        if (!v.isEmpty())
-            return v;
+        if (!v.isEmpty()) return v;
         SF::ScrieIni(fisier_, sectiune, cheie, implicit);
         return implicit;
     }
@@ -103,14 +104,12 @@ Setari IncarcaSetari(const QString& fisierIni) {
     s.HeightRowRaport = c.OctetScris(Raport, QStringLiteral("HeightRowRaport"), implicit.HeightRowRaport);
     s.AppWord = c.OctetScris(App, QStringLiteral("AppWord"), implicit.AppWord);
     s.LunaSetata = c.Octet(SectiuneSetari, QStringLiteral("LunaSetata"), implicit.LunaSetata);
-    if (s.LunaSetata == 0)
-        s.LunaSetata = implicit.LunaSetata;
+    if (s.LunaSetata == 0) s.LunaSetata = implicit.LunaSetata;
     s.AnSetat = static_cast<std::int16_t>(Intreg(Val(c.Text(SectiuneSetari, QStringLiteral("AnSetat"))),
                                                  std::numeric_limits<std::int16_t>::min(),
                                                  std::numeric_limits<std::int16_t>::max())
                                               .value_or(implicit.AnSetat));
-    if (s.AnSetat == 0)
-        s.AnSetat = implicit.AnSetat;
+    if (s.AnSetat == 0) s.AnSetat = implicit.AnSetat;
     s.LoadTipCerere = c.Octet(Generale, QStringLiteral("LoadTipCerere"), implicit.LoadTipCerere);
     s.DataCerereTiparita = c.OctetScris(Generale, QStringLiteral("DataCerereTiparita"), implicit.DataCerereTiparita);
     s.Cerere13Pag = c.Flag(Cereri, QStringLiteral("Cerere13Pag"));
@@ -202,14 +201,14 @@ ValoriOptiuni ValoriDinSetari(const Setari& s) {
 }
 
 std::optional<QString> VerificaMarimeFont(int marime) {
-    if (marime > 72)
-        return QStringLiteral("Marimea caracterelor nu poate fi mai mare de 72");
-    if (marime < 2)
-        return QStringLiteral("Marimea caracterelor nu poate fi mai mica de 2");
+    if (marime > 72) return QStringLiteral("Marimea caracterelor nu poate fi mai mare de 72");
+    if (marime < 2) return QStringLiteral("Marimea caracterelor nu poate fi mai mica de 2");
     return std::nullopt;
 }
 
-std::optional<QString> VerificaOptiuni(const ValoriOptiuni& v) { return VerificaMarimeFont(v.FontSize0); }
+std::optional<QString> VerificaOptiuni(const ValoriOptiuni& v) {
+    return VerificaMarimeFont(v.FontSize0);
+}
 
 Setari AplicaOptiuni(Setari s, const ValoriOptiuni& v) {
     const Setari implicit;
@@ -248,12 +247,9 @@ Setari AplicaOptiuni(Setari s, const ValoriOptiuni& v) {
 
 QString TextMostraFont(const QString& nume, int marime, bool b, bool i, bool u) {
     QString t = QStringLiteral("%1, %2").arg(nume).arg(marime);
-    if (b)
-        t += QStringLiteral(", B");
-    if (i)
-        t += QStringLiteral(", I");
-    if (u)
-        t += QStringLiteral(", U");
+    if (b) t += QStringLiteral(", B");
+    if (i) t += QStringLiteral(", I");
+    if (u) t += QStringLiteral(", U");
     return t;
 }
 
@@ -265,8 +261,7 @@ QString CuloareInText(const QColor& c) {
 std::optional<QColor> CuloareDinText(const QString& text) {
     bool ok = false;
     const qlonglong n = text.trimmed().toLongLong(&ok);
-    if (!ok || n < 0 || n > 0xFFFFFF)
-        return std::nullopt;
+    if (!ok || n < 0 || n > 0xFFFFFF) return std::nullopt;
     return QColor(int(n & 0xFF), int((n >> 8) & 0xFF), int((n >> 16) & 0xFF));
 }
 

@@ -5,8 +5,10 @@
 #include <QMessageBox>
 
 namespace {
-QString titluSau(const QString& titlu) { return titlu.isEmpty() ? QStringLiteral("Ferolanta") : titlu; }
+QString titluSau(const QString& titlu) {
+    return titlu.isEmpty() ? QStringLiteral("Ferolanta") : titlu;
 }
+} // namespace
 
 void UiMesaje::Informatie(const QString& text, const QString& titlu) {
     QMessageBox::information(parinte_, titluSau(titlu), text);
@@ -16,7 +18,9 @@ void UiMesaje::Avertisment(const QString& text, const QString& titlu) {
     QMessageBox::warning(parinte_, titluSau(titlu), text);
 }
 
-void UiMesaje::Critic(const QString& text, const QString& titlu) { QMessageBox::critical(parinte_, titluSau(titlu), text); }
+void UiMesaje::Critic(const QString& text, const QString& titlu) {
+    QMessageBox::critical(parinte_, titluSau(titlu), text);
+}
 
 bool UiMesaje::Intrebare(const QString& text, const QString& titlu, bool implicitDa) {
     return QMessageBox::question(parinte_, titluSau(titlu), text, QMessageBox::Yes | QMessageBox::No,

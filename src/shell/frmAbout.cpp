@@ -16,10 +16,11 @@ frmAbout::frmAbout(BazaDate& bd, QWidget* parinte) : QDialog(parinte), bd_(bd) {
     auto* titlu = new QLabel(QStringLiteral("<h2>Ferolanta</h2>"), this);
     asezare->addWidget(titlu);
     asezare->addWidget(new QLabel(QStringLiteral("Versiunea %1").arg(QStringLiteral(FEROLANTA_VERSIUNE)), this));
-    auto* descriere = new QLabel(QStringLiteral("Evidenta dosarelor de alocatie pentru sustinerea familiei (Legea 277/2010): "
-                                                "cereri, membri, venituri, bunuri, dispozitii, anchete sociale si situatiile "
-                                                "lunare pentru agentia judeteana."),
-                                 this);
+    auto* descriere =
+        new QLabel(QStringLiteral("Evidenta dosarelor de alocatie pentru sustinerea familiei (Legea 277/2010): "
+                                  "cereri, membri, venituri, bunuri, dispozitii, anchete sociale si situatiile "
+                                  "lunare pentru agentia judeteana."),
+                   this);
     descriere->setWordWrap(true);
     asezare->addWidget(descriere);
     auto* butoane = new QHBoxLayout;

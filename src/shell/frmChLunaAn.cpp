@@ -44,8 +44,10 @@ void frmChLunaAn::cmdOK_Click() {
         }
         const int luna = int(Val(txtLuna->text()));
         const int an = int(Val(txtAn->text()));
-        ServiciuFisiere::ScrieIni(p_.FisierSetari(), QStringLiteral("Setari"), QStringLiteral("LunaSetata"), QString::number(luna));
-        ServiciuFisiere::ScrieIni(p_.FisierSetari(), QStringLiteral("Setari"), QStringLiteral("AnSetat"), QString::number(an));
+        ServiciuFisiere::ScrieIni(p_.FisierSetari(), QStringLiteral("Setari"), QStringLiteral("LunaSetata"),
+                                  QString::number(luna));
+        ServiciuFisiere::ScrieIni(p_.FisierSetari(), QStringLiteral("Setari"), QStringLiteral("AnSetat"),
+                                  QString::number(an));
         p_.setari.LunaSetata = luna;
         p_.setari.AnSetat = an;
     } catch (const Eroare& e) {

@@ -44,14 +44,14 @@ frmGeneral::frmGeneral(const QString& fisierSetari, const QString& caleBD, Mesaj
 void frmGeneral::cmdBrowse_Click() {
     const QString ales = QFileDialog::getExistingDirectory(
         this, QStringLiteral("Selectati Folderul/directorul in care este baza de date..."), Txt->text());
-    if (!ales.isEmpty())
-        Txt->setText(ales);
+    if (!ales.isEmpty()) Txt->setText(ales);
 }
 
 void frmGeneral::cmdOK_Click() {
     try {
         if (!Txt->text().trimmed().isEmpty())
-            ServiciuFisiere::ScrieIni(fisierSetari_, QStringLiteral("Generale"), QStringLiteral("CaleBD"), Txt->text().trimmed());
+            ServiciuFisiere::ScrieIni(fisierSetari_, QStringLiteral("Generale"), QStringLiteral("CaleBD"),
+                                      Txt->text().trimmed());
     } catch (const Eroare& e) {
         m_.Critic(e.text());
     }

@@ -33,8 +33,8 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
-#include <QTimer>
 #include <QTableView>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -45,7 +45,8 @@ const QString ContactSuport = QStringLiteral(" Suport: suport@ferolanta.ro ");
 
 } // namespace
 
-frmMain::frmMain(Program& p, Mesaje& m, QWidget* parinte) : QMainWindow(parinte), p_(p), m_(m), model_(new ModelCereri(this)) {
+frmMain::frmMain(Program& p, Mesaje& m, QWidget* parinte)
+    : QMainWindow(parinte), p_(p), m_(m), model_(new ModelCereri(this)) {
     setObjectName(QStringLiteral("frmMain"));
     auto* centru = new QWidget(this);
     auto* asezare = new QVBoxLayout(centru);
@@ -137,9 +138,18 @@ void frmMain::construiesteCautarea(QWidget* sus) {
     lvwCereri->setAlternatingRowColors(true);
     // Widths from the longest texts each column usually holds: sizing by content would read
     // every row of a large office's list.
-    const char* tipare[] = {"", "00000 0000/00", "Cu sot", "MODIFICARE CUANTUM", "00.00.0000", "Constantinescu Alexandra",
-                            "0000000000000", "Bucuresti, Strada Mihai Eminescu, nr. 120", "00000.00", "0000.00",
-                            "Nr. membrii", "Nr. copii"};
+    const char* tipare[] = {"",
+                            "00000 0000/00",
+                            "Cu sot",
+                            "MODIFICARE CUANTUM",
+                            "00.00.0000",
+                            "Constantinescu Alexandra",
+                            "0000000000000",
+                            "Bucuresti, Strada Mihai Eminescu, nr. 120",
+                            "00000.00",
+                            "0000.00",
+                            "Nr. membrii",
+                            "Nr. copii"};
     for (int i = 1; i < ModelCereri::NrColoane; ++i)
         lvwCereri->setColumnWidth(i, fontMetrics().horizontalAdvance(QString::fromLatin1(tipare[i])) + 18);
     lvwCereri->horizontalHeader()->setSectionsClickable(true);
@@ -162,7 +172,8 @@ void frmMain::construiesteListeleDeJos(QWidget* jos) {
         b->setEnabled(false);
         rand->addWidget(b);
     };
-    auto panou = [&](QTreeWidget*& l, const char* nume, const QString& titluTab, const QStringList& coloane, QLabel** titlu) {
+    auto panou = [&](QTreeWidget*& l, const char* nume, const QString& titluTab, const QStringList& coloane,
+                     QLabel** titlu) {
         auto* p = new QWidget(opt);
         auto* v = new QVBoxLayout(p);
         v->setContentsMargins(2, 2, 2, 2);
@@ -174,16 +185,16 @@ void frmMain::construiesteListeleDeJos(QWidget* jos) {
         l->setObjectName(QString::fromLatin1(nume));
         l->setRootIsDecorated(false);
         l->setHeaderLabels(coloane.isEmpty() ? QStringList{QString()} : coloane);
-        if (!coloane.isEmpty())
-            l->setColumnHidden(0, true);
+        if (!coloane.isEmpty()) l->setColumnHidden(0, true);
         v->addWidget(l, 1);
         opt->addTab(p, titluTab);
         return p;
     };
-    QWidget* anchete = panou(lvwAnchete, "lvwAnchete", QStringLiteral("Anchete"),
-                             {QStringLiteral("ID"), QStringLiteral("Data"), QStringLiteral("Nr membrii"), QStringLiteral("Nr copii"),
-                              QStringLiteral("Data expirarii"), QStringLiteral("Motivul expirarii")},
-                             &lblAnchete);
+    QWidget* anchete =
+        panou(lvwAnchete, "lvwAnchete", QStringLiteral("Anchete"),
+              {QStringLiteral("ID"), QStringLiteral("Data"), QStringLiteral("Nr membrii"), QStringLiteral("Nr copii"),
+               QStringLiteral("Data expirarii"), QStringLiteral("Motivul expirarii")},
+              &lblAnchete);
     auto* randAnchete = new QHBoxLayout;
     buton(anchete, randAnchete, cmdAddAncheta, "cmdAddAncheta", QStringLiteral("Adauga ancheta"));
     buton(anchete, randAnchete, cmdEditAncheta, "cmdEditAncheta", QStringLiteral("Modifica ancheta"));
@@ -193,10 +204,11 @@ void frmMain::construiesteListeleDeJos(QWidget* jos) {
     static_cast<QVBoxLayout*>(anchete->layout())->addLayout(randAnchete);
     panou(lvwAdeverinte, "lvwAdeverinte", QStringLiteral("Adeverinte"), {}, nullptr);
     panou(lvwPlati, "lvwPlati", QStringLiteral("Plati"), {}, nullptr);
-    QWidget* dispozitii = panou(lvwDispozitii, "lvwDispozitii", QStringLiteral("Dispozitii"),
-                                {QStringLiteral("ID"), QStringLiteral("Nr disp"), QStringLiteral("Data"), QStringLiteral("Tip decizie"),
-                                 QStringLiteral("Cuantum"), QStringLiteral("Luna"), QStringLiteral("Anul")},
-                                &lblDispozitii);
+    QWidget* dispozitii =
+        panou(lvwDispozitii, "lvwDispozitii", QStringLiteral("Dispozitii"),
+              {QStringLiteral("ID"), QStringLiteral("Nr disp"), QStringLiteral("Data"), QStringLiteral("Tip decizie"),
+               QStringLiteral("Cuantum"), QStringLiteral("Luna"), QStringLiteral("Anul")},
+              &lblDispozitii);
     auto* randDisp = new QHBoxLayout;
     buton(dispozitii, randDisp, cmdAddDisp, "cmdAddDisp", QStringLiteral("Adauga dispozitie"));
     buton(dispozitii, randDisp, cmdEditDisp, "cmdEditDisp", QStringLiteral("Modifica dispozitie"));
@@ -210,7 +222,8 @@ void frmMain::construiesteListeleDeJos(QWidget* jos) {
     // The notice of expiring certificates slides up from the bottom edge.
     picNotific = new QLabel(this);
     picNotific->setObjectName(QStringLiteral("picNotific"));
-    picNotific->setStyleSheet(QStringLiteral("QLabel { background: #fff8c0; border: 1px solid #b09000; padding: 8px; }"));
+    picNotific->setStyleSheet(
+        QStringLiteral("QLabel { background: #fff8c0; border: 1px solid #b09000; padding: 8px; }"));
     picNotific->setAlignment(Qt::AlignCenter);
     picNotific->hide();
     timerNotificare_ = new QTimer(this);
@@ -246,8 +259,8 @@ void frmMain::construiesteMeniurile() {
     meniu(dataGen, "mnuJudete", QStringLiteral("Judete..."), true); // never had a window
     meniu(dataGen, "mnuSate", QStringLiteral("Sate/strazi..."), false);
     meniu(dataGen, "mnuMotive", QStringLiteral("Motive..."), false);
-    connect(meniu(dataGen, "mnuSetLunaCurenta", QStringLiteral("Setare luna curenta..."), true), &QAction::triggered, this,
-            [this] { ArataLunaLucru(true); });
+    connect(meniu(dataGen, "mnuSetLunaCurenta", QStringLiteral("Setare luna curenta..."), true), &QAction::triggered,
+            this, [this] { ArataLunaLucru(true); });
     meniu(dataGen, "mnuISR", QStringLiteral("Valoare ISR"), false);
     meniu(dataGen, "mnuGenAnNou", QStringLiteral("Generare An Nou..."), false);
     dataGen->addSeparator();
@@ -334,8 +347,7 @@ void frmMain::Form_Load() {
 
     if (p_.setari.NotificareActe) {
         try {
-            if (PaneluriCerere::ActeCareExpira(p_.bd, Ceas::Azi()))
-                ArataNotificarea();
+            if (PaneluriCerere::ActeCareExpira(p_.bd, Ceas::Azi())) ArataNotificarea();
         } catch (const Eroare& e) {
             m_.Critic(e.text());
         }
@@ -358,7 +370,8 @@ void frmMain::ArataNotificarea() {
 void frmMain::resizeEvent(QResizeEvent* e) {
     QMainWindow::resizeEvent(e);
     if (picNotific && picNotific->isVisible())
-        picNotific->move(width() - picNotific->width() - 16, height() - picNotific->height() - statusBar()->height() - 8);
+        picNotific->move(width() - picNotific->width() - 16,
+                         height() - picNotific->height() - statusBar()->height() - 8);
 }
 
 void frmMain::TimerMSG_UPD_Timer() {
@@ -370,12 +383,14 @@ void frmMain::TimerMSG_UPD_Timer() {
 void frmMain::ScrieTitlul(bool cuMesaj) {
     bool exista = false;
     const QString denumire = ListaCereri::DenumirePrimarie(p_.bd, &exista);
-    setWindowTitle(exista ? QStringLiteral("Alocatii-207: ") + denumire : QStringLiteral("Alocatii-207: Nu exista date!"));
-    if (!exista && cuMesaj)
-        m_.Informatie(QStringLiteral("Introduceti datele primariei!"));
+    setWindowTitle(exista ? QStringLiteral("Alocatii-207: ") + denumire
+                          : QStringLiteral("Alocatii-207: Nu exista date!"));
+    if (!exista && cuMesaj) m_.Informatie(QStringLiteral("Introduceti datele primariei!"));
 }
 
-void frmMain::ScrieLunaActiva() { sbrMain[2]->setText(LunaLucru::TextLunaActiva(p_.setari.LunaSetata, p_.setari.AnSetat)); }
+void frmMain::ScrieLunaActiva() {
+    sbrMain[2]->setText(LunaLucru::TextLunaActiva(p_.setari.LunaSetata, p_.setari.AnSetat));
+}
 
 FiltruCautare frmMain::FiltruDinControale() const {
     FiltruCautare f;
@@ -384,16 +399,14 @@ FiltruCautare frmMain::FiltruDinControale() const {
     f.Prenume = txtCauta[2]->text().trimmed();
     f.NrCerere = txtCauta[3]->text().trimmed();
     for (int i = 0; i < lstStare->count(); ++i)
-        if (lstStare->item(i)->isSelected())
-            f.Stari << lstStare->item(i)->data(Qt::UserRole).toInt();
+        if (lstStare->item(i)->isSelected()) f.Stari << lstStare->item(i)->data(Qt::UserRole).toInt();
     f.LoadTipCerere = p_.setari.LoadTipCerere;
     f.OrdineNumerica = true;
     return f;
 }
 
 void frmMain::cmdCauta_Click() {
-    if (!VerificaBD(p_.bd, m_))
-        return;
+    if (!VerificaBD(p_.bd, m_)) return;
     QApplication::setOverrideCursor(Qt::WaitCursor);
     try {
         ListaCereri(ListaCereri::Cauta(p_.bd, FiltruDinControale()));
@@ -407,8 +420,7 @@ void frmMain::cmdCauta_Click() {
 void frmMain::ListaCereri(std::vector<RandCerere> randuri) {
     model_->Seteaza(std::move(randuri));
     lblRezul->setText(ListaCereri::TextRezultat(model_->rowCount()));
-    if (model_->rowCount() > 0)
-        SelecteazaRand(0);
+    if (model_->rowCount() > 0) SelecteazaRand(0);
 }
 
 void frmMain::GolireFiltre() {
@@ -429,8 +441,7 @@ void frmMain::ColumnClick(int coloana) {
 }
 
 void frmMain::SelecteazaRand(int rand) {
-    if (rand < 0 || rand >= model_->rowCount())
-        return;
+    if (rand < 0 || rand >= model_->rowCount()) return;
     const QModelIndex i = model_->index(rand, ModelCereri::NrCerere);
     lvwCereri->selectionModel()->setCurrentIndex(i, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     lvwCereri->scrollTo(i);
@@ -443,8 +454,7 @@ int frmMain::RandSelectat() const {
 
 void frmMain::ItemClick() {
     const RandCerere* r = model_->Rand(RandSelectat());
-    if (!r)
-        return;
+    if (!r) return;
     try {
         if (ListaCereri::Citeste(p_.bd, r->CerereID).CerereID == 0) {
             m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
@@ -460,16 +470,16 @@ void frmMain::ListaDispozitii(qint64 cerereID) {
     lvwDispozitii->clear();
     const auto randuri = PaneluriCerere::ListaDispozitii(p_.bd, cerereID);
     for (const RandDispozitie& d : randuri) {
-        auto* item = new QTreeWidgetItem(lvwDispozitii, {QString::number(d.DispozitieID), d.NrDisp, FormatData(d.DataDisp),
-                                                         d.TipDecizie, FormatSuma(d.Cuantum), d.Luna, d.An});
+        auto* item =
+            new QTreeWidgetItem(lvwDispozitii, {QString::number(d.DispozitieID), d.NrDisp, FormatData(d.DataDisp),
+                                                d.TipDecizie, FormatSuma(d.Cuantum), d.Luna, d.An});
         item->setData(0, Qt::UserRole, d.DispozitieID);
     }
     const RandCerere* r = model_->Rand(RandSelectat());
     lblDispozitii->setText(PaneluriCerere::TitluDispozitii(r ? r->Solicitant : QString(), randuri.size()));
     // Editing and printing come with the disposition editor and the documents.
     cmdDelDisp->setEnabled(!randuri.empty());
-    if (!randuri.empty())
-        lvwDispozitii->setCurrentItem(lvwDispozitii->topLevelItem(0));
+    if (!randuri.empty()) lvwDispozitii->setCurrentItem(lvwDispozitii->topLevelItem(0));
 }
 
 void frmMain::cmdDelDisp_Click() {
@@ -478,8 +488,7 @@ void frmMain::cmdDelDisp_Click() {
         m_.Informatie(QStringLiteral("Selectati o dispozitie!"));
         return;
     }
-    if (!VerificaBD(p_.bd, m_))
-        return;
+    if (!VerificaBD(p_.bd, m_)) return;
     const int index = lvwDispozitii->indexOfTopLevelItem(item);
     try {
         if (!m_.Intrebare(QStringLiteral("Sigur doriti sa stergeti dispozitia %1 ?").arg(item->text(1)), {}, false))
@@ -492,21 +501,17 @@ void frmMain::cmdDelDisp_Click() {
     }
     delete lvwDispozitii->takeTopLevelItem(index);
     const int ramase = lvwDispozitii->topLevelItemCount();
-    if (ramase > 0)
-        lvwDispozitii->setCurrentItem(lvwDispozitii->topLevelItem(std::min(index, ramase - 1)));
+    if (ramase > 0) lvwDispozitii->setCurrentItem(lvwDispozitii->topLevelItem(std::min(index, ramase - 1)));
     cmdDelDisp->setEnabled(ramase > 0);
 }
 
 void frmMain::cmdAdd_Click() {
-    if (!cmdAdd->isEnabled() || !VerificaBD(p_.bd, m_))
-        return;
+    if (!cmdAdd->isEnabled() || !VerificaBD(p_.bd, m_)) return;
 }
 
 void frmMain::cmdEdit_Click() {
-    if (!cmdEdit->isEnabled() || !VerificaBD(p_.bd, m_))
-        return;
-    if (RandSelectat() < 0)
-        m_.Informatie(QStringLiteral("Selectati o cerere"));
+    if (!cmdEdit->isEnabled() || !VerificaBD(p_.bd, m_)) return;
+    if (RandSelectat() < 0) m_.Informatie(QStringLiteral("Selectati o cerere"));
 }
 
 void frmMain::cmdDelete_Click() {
@@ -516,16 +521,14 @@ void frmMain::cmdDelete_Click() {
         m_.Informatie(QStringLiteral("Selectati o cerere"));
         return;
     }
-    if (!VerificaBD(p_.bd, m_))
-        return;
+    if (!VerificaBD(p_.bd, m_)) return;
     try {
         const RandCerere actual = ListaCereri::Citeste(p_.bd, r->CerereID);
         if (actual.CerereID == 0) {
             m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
             return;
         }
-        if (!m_.Intrebare(QStringLiteral("Sigur doriti sa stergeti cererea %1 ?").arg(r->NrCerere), {}, false))
-            return;
+        if (!m_.Intrebare(QStringLiteral("Sigur doriti sa stergeti cererea %1 ?").arg(r->NrCerere), {}, false)) return;
         ListaCereri::Sterge(p_.bd, r->CerereID);
     } catch (const Eroare& e) {
         m_.Critic(e.text());
@@ -533,13 +536,13 @@ void frmMain::cmdDelete_Click() {
     }
     model_->Elimina(rand);
     SelecteazaRand(std::min(rand, model_->rowCount() - 1));
-    lblRezul->setText(model_->rowCount() == 0 ? QStringLiteral("0 cereri") : QStringLiteral("%1 cereri").arg(model_->rowCount()));
+    lblRezul->setText(model_->rowCount() == 0 ? QStringLiteral("0 cereri")
+                                              : QStringLiteral("%1 cereri").arg(model_->rowCount()));
 }
 
 void frmMain::ArataLunaLucru(bool dinMeniu) {
     frmChLunaAn f(p_, m_, this);
-    if (f.exec() != QDialog::Accepted)
-        return;
+    if (f.exec() != QDialog::Accepted) return;
     // From the status bar the month goes to its own panel; from the menu it lands on the next
     // one, over the support line, as it always has.
     if (dinMeniu)
@@ -549,8 +552,7 @@ void frmMain::ArataLunaLucru(bool dinMeniu) {
 }
 
 void frmMain::Iesire() {
-    if (m_.Intrebare(QStringLiteral("Sigur vreti sa parasiti programul?")))
-        QApplication::exit(0);
+    if (m_.Intrebare(QStringLiteral("Sigur vreti sa parasiti programul?"))) QApplication::exit(0);
 }
 
 void frmMain::closeEvent(QCloseEvent* e) {

@@ -243,8 +243,7 @@ void frmOptiuni::ArataFont() {
 void frmOptiuni::ArataCuloare() {
     const std::optional<QColor> c = CuloareDinText(culoareVenit_);
     QPalette p = lblFundal->parentWidget()->palette();
-    if (c)
-        p.setColor(QPalette::Window, *c);
+    if (c) p.setColor(QPalette::Window, *c);
     lblFundal->setAutoFillBackground(c.has_value());
     lblFundal->setPalette(p);
 }
@@ -271,15 +270,13 @@ void frmOptiuni::cmdFont_Click() {
     curent.setUnderline(fontU0_);
     bool ales = false;
     const QFont f = QFontDialog::getFont(&ales, curent, this, QStringLiteral("Font"));
-    if (ales)
-        AlegeFont(f);
+    if (ales) AlegeFont(f);
 }
 
 void frmOptiuni::cmdCuloare_Click() {
     const QColor initiala = CuloareDinText(culoareVenit_).value_or(Qt::white);
     const QColor c = QColorDialog::getColor(initiala, this, QStringLiteral("Culoare"));
-    if (c.isValid())
-        AlegeCuloare(c);
+    if (c.isValid()) AlegeCuloare(c);
 }
 
 void frmOptiuni::cmdDelColor_Click() {

@@ -52,7 +52,8 @@ void frmParola::pastreaza(const QString& valoare) {
 
 void frmParola::cmdOK_Click() {
     try {
-        const Parola::Schimbare s = Parola::Schimba(p_.setari.Parola, txtPassOld->text(), txtPassNew->text(), txtPassRenew->text());
+        const Parola::Schimbare s =
+            Parola::Schimba(p_.setari.Parola, txtPassOld->text(), txtPassNew->text(), txtPassRenew->text());
         if (s.mesaj) {
             m_.Informatie(*s.mesaj);
             return;

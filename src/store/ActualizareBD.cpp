@@ -29,13 +29,11 @@ public:
                 throw Eroare(QStringLiteral("%1 nu este o baza de date Ferolanta: lipseste tabela %2.")
                                  .arg(db_.locatie().Descriere(), t));
         for (const auto& p : PasiActualizare::Lista())
-            if (p.etapa == 1)
-                pasSchema(p);
+            if (p.etapa == 1) pasSchema(p);
         if (ops_.CampExista(QStringLiteral("Cereri"), QStringLiteral("VenitPermanent")))
             pasProtejat(QStringLiteral("RecalculVenitTotal"), [&] { recalculVenit(); });
         for (const auto& p : PasiActualizare::Lista())
-            if (p.etapa == 3)
-                pasSchema(p);
+            if (p.etapa == 3) pasSchema(p);
         pasProtejat(QStringLiteral("Adeverinte"), [&] { reparaAdeverinte(); });
         pasProtejat(QStringLiteral("Adeverinte"), [&] { marcheazaCurente(); });
         catalog([&] { return Cataloage::IncarcaListaVenituri(db_, caleBD_, m_, jurnal_); });
@@ -50,8 +48,7 @@ public:
 private:
     void schimbare(const QString& linie) {
         ++r_.schimbari;
-        if (jurnal_)
-            jurnal_(linie);
+        if (jurnal_) jurnal_(linie);
     }
 
     void eroare(const QString& text) {
@@ -111,7 +108,8 @@ private:
                     t.Confirma();
                     schimbare(QStringLiteral("Camp sters: %1.%2").arg(p.tabela, p.camp));
                 } catch (const Eroare& e) {
-                    eroare(QStringLiteral("Eroare in DeleteField la tabela: %1, campul: %2\n%3").arg(p.tabela, p.camp, e.text()));
+                    eroare(QStringLiteral("Eroare in DeleteField la tabela: %1, campul: %2\n%3")
+                               .arg(p.tabela, p.camp, e.text()));
                 }
             }
             break;
@@ -132,8 +130,7 @@ private:
                 eroare(QStringLiteral("Exceptie: relatia %1 lipseste din schema programului").arg(p.camp));
                 break;
             }
-            if (ops_.RelatieExista(*r))
-                break;
+            if (ops_.RelatieExista(*r)) break;
             try {
                 Tranzactie t(db_);
                 ops_.CreazaRelatie(*r);
@@ -156,8 +153,7 @@ private:
             return;
         }
         const TabelaSchema* t = Schema::Tabela(nume);
-        if (!t)
-            throw Eroare(QStringLiteral("Exceptie: tabela %1 lipseste din schema programului").arg(nume));
+        if (!t) throw Eroare(QStringLiteral("Exceptie: tabela %1 lipseste din schema programului").arg(nume));
         ops_.CreazaTabela(*t, {t->campuri.front()});
         schimbare(QStringLiteral("Tabela creata: %1").arg(nume));
     }
@@ -177,10 +173,12 @@ private:
         Interogare gasite(db_, QStringLiteral("SELECT COUNT(*) AS Nr FROM Adeverinte WHERE ") + conditie);
         gasite.Leaga(prag).Leaga(prag).Leaga(prag).Exista();
         const qint64 n = gasite.Intreg(QStringLiteral("Nr"));
-        if (n == 0)
-            return;
+        if (n == 0) return;
         Interogare(db_, QStringLiteral("DELETE FROM Adeverinte WHERE ") + conditie)
-            .Leaga(prag).Leaga(prag).Leaga(prag).Executa();
+            .Leaga(prag)
+            .Leaga(prag)
+            .Leaga(prag)
+            .Executa();
         schimbare(QStringLiteral("Adeverinte: %1 randuri fara nicio data sterse").arg(n));
     }
 
@@ -188,21 +186,19 @@ private:
     // kind for each person becomes the current one. As in the old program, persons are walked
     // by MembruID from 1 up to the number of certificates and kinds up to the last one listed.
     void marcheazaCurente() {
-        if (Interogare(db_, QStringLiteral("SELECT 1 FROM Adeverinte WHERE AdvCurenta = 1")).Exista())
-            return;
+        if (Interogare(db_, QStringLiteral("SELECT 1 FROM Adeverinte WHERE AdvCurenta = 1")).Exista()) return;
         Interogare total(db_, QStringLiteral("SELECT COUNT(*) AS Nr FROM Adeverinte"));
         total.Exista();
         const qint64 randuri = total.Intreg(QStringLiteral("Nr"));
-        if (randuri == 0)
-            return;
+        if (randuri == 0) return;
         Interogare tipuri(db_, QStringLiteral("SELECT MAX(DataID) AS NrActe FROM DateGen WHERE Tip = 30"));
         tipuri.Exista();
         const qint64 nrActe = tipuri.Intreg(QStringLiteral("NrActe"));
-        Interogare marcheaza(db_, QStringLiteral(
-            "UPDATE Adeverinte SET AdvCurenta = 1 WHERE AdevID IN (SELECT AdevID FROM ("
-            "SELECT AdevID, ROW_NUMBER() OVER (PARTITION BY MembruID, TipAdeverinta "
-            "ORDER BY DataExpAdev DESC NULLS LAST, AdevID) AS Rand FROM Adeverinte "
-            "WHERE MembruID BETWEEN 1 AND ? AND TipAdeverinta BETWEEN 1 AND ?) x WHERE Rand = 1)"));
+        Interogare marcheaza(
+            db_, QStringLiteral("UPDATE Adeverinte SET AdvCurenta = 1 WHERE AdevID IN (SELECT AdevID FROM ("
+                                "SELECT AdevID, ROW_NUMBER() OVER (PARTITION BY MembruID, TipAdeverinta "
+                                "ORDER BY DataExpAdev DESC NULLS LAST, AdevID) AS Rand FROM Adeverinte "
+                                "WHERE MembruID BETWEEN 1 AND ? AND TipAdeverinta BETWEEN 1 AND ?) x WHERE Rand = 1)"));
         marcheaza.Leaga(randuri).Leaga(nrActe).Executa();
         if (marcheaza.RanduriAfectate() > 0)
             schimbare(QStringLiteral("Adeverinte: %1 documente marcate curente").arg(marcheaza.RanduriAfectate()));
@@ -210,17 +206,22 @@ private:
 
     void seminteDateGen() {
         std::set<std::pair<qint64, qint64>> existente;
-        Interogare q(db_, QStringLiteral("SELECT Tip, DataID FROM DateGen WHERE Tip IS NOT NULL AND DataID IS NOT NULL"));
+        Interogare q(db_,
+                     QStringLiteral("SELECT Tip, DataID FROM DateGen WHERE Tip IS NOT NULL AND DataID IS NOT NULL"));
         q.Executa();
         while (q.Urmator())
             existente.insert({q.Intreg(0), q.Intreg(1)});
 
-        Interogare ins(db_, QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, ?, ?, ?, ?)"));
+        Interogare ins(
+            db_,
+            QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, ?, ?, ?, ?)"));
         for (const auto& s : Seminte::DateGen()) {
-            if (existente.count({s.tip, s.dataID}))
-                continue;
+            if (existente.count({s.tip, s.dataID})) continue;
             ins.Leaga(s.denumire).Leaga(s.tip).Leaga(s.dataID).Leaga(s.continut).Leaga(s.ordine).Executa();
-            schimbare(QStringLiteral("DateGen: adaugat Tip %1 DataID %2 %3").arg(s.tip).arg(s.dataID).arg(QString::fromUtf8(s.continut)));
+            schimbare(QStringLiteral("DateGen: adaugat Tip %1 DataID %2 %3")
+                          .arg(s.tip)
+                          .arg(s.dataID)
+                          .arg(QString::fromUtf8(s.continut)));
         }
 
         corecteaza(2, 2, QStringLiteral("PARTENER"), -1);
@@ -228,8 +229,7 @@ private:
         corecteaza(26, 2, QStringLiteral("IMPREUNA CU ALTA PERSOANA SINGURA SAU FAMILIE"), -1);
         Interogare sterge(db_, QStringLiteral("DELETE FROM DateGen WHERE Tip = 26 AND DataID = 3"));
         sterge.Executa();
-        if (sterge.RanduriAfectate() > 0)
-            schimbare(QStringLiteral("DateGen: sters Tip 26 DataID 3"));
+        if (sterge.RanduriAfectate() > 0) schimbare(QStringLiteral("DateGen: sters Tip 26 DataID 3"));
 
         parametru(QStringLiteral("ISR"), 1, QStringLiteral("525.5"));
         parametru(QStringLiteral("PRAGURI_VENIT"), 2, QStringLiteral("210.2|557.03"));
@@ -238,13 +238,11 @@ private:
     // A delivered row whose text must be this one; a clerk's edit of it does not last.
     void corecteaza(int tip, int dataID, const QString& continut, int ordine) {
         QString sql = QStringLiteral("UPDATE DateGen SET Continut = ?");
-        if (ordine >= 0)
-            sql += QStringLiteral(", Ordine = ?");
+        if (ordine >= 0) sql += QStringLiteral(", Ordine = ?");
         sql += QStringLiteral(" WHERE Tip = ? AND DataID = ? AND (Continut IS NULL OR Continut <> ?)");
         Interogare u(db_, sql);
         u.Leaga(continut);
-        if (ordine >= 0)
-            u.Leaga(ordine);
+        if (ordine >= 0) u.Leaga(ordine);
         u.Leaga(tip).Leaga(dataID).Leaga(continut).Executa();
         if (u.RanduriAfectate() > 0)
             schimbare(QStringLiteral("DateGen: corectat Tip %1 DataID %2 in %3").arg(tip).arg(dataID).arg(continut));
@@ -253,8 +251,12 @@ private:
     void parametru(const QString& denumire, int dataID, const QString& valoare) {
         if (Interogare(db_, QStringLiteral("SELECT 1 FROM DateGen WHERE Denumire = ?")).Leaga(denumire).Exista())
             return;
-        Interogare(db_, QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, 0, ?, ?, 0)"))
-            .Leaga(denumire).Leaga(dataID).Leaga(valoare).Executa();
+        Interogare(
+            db_, QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, 0, ?, ?, 0)"))
+            .Leaga(denumire)
+            .Leaga(dataID)
+            .Leaga(valoare)
+            .Executa();
         schimbare(QStringLiteral("DateGen: adaugat %1 = %2").arg(denumire, valoare));
     }
 
@@ -267,25 +269,31 @@ private:
             existente.insert({q.Intreg(QStringLiteral("Tip")), q.Intreg(QStringLiteral("NrPers")),
                               q.Suma(QStringLiteral("Suma")).Unitati(), q.Data(QStringLiteral("DataInceput"))});
 
-        Interogare ins(db_, QStringLiteral("INSERT INTO Barem (Tip, Descriere, NrPers, Barem, Suma, PerPers, BaremPerPers, "
-                                           "DataInceput) VALUES (?, ?, ?, ?, ?, 0, 0, ?)"));
+        Interogare ins(db_,
+                       QStringLiteral("INSERT INTO Barem (Tip, Descriere, NrPers, Barem, Suma, PerPers, BaremPerPers, "
+                                      "DataInceput) VALUES (?, ?, ?, ?, ?, 0, 0, ?)"));
         for (const QDate& set : {QDate(2012, 1, 1), QDate(2013, 7, 1), QDate(2014, 11, 1)}) {
             for (const auto& s : Seminte::Barem()) {
-                if (s.dataInceput != set)
-                    continue;
+                if (s.dataInceput != set) continue;
                 const Bani suma = *Bani::DinText(QString::fromLatin1(s.suma));
                 for (int nr = 1; nr <= 4; ++nr) {
-                    if (existente.count({s.tip, nr, suma.Unitati(), s.dataInceput}))
-                        continue;
-                    ins.Leaga(s.tip).Leaga(s.descriere).Leaga(nr).Leaga(*Bani::DinText(QString::fromLatin1(s.valori[nr - 1])))
-                        .Leaga(suma).Leaga(s.dataInceput).Executa();
-                    schimbare(QStringLiteral("Barem: adaugat Tip %1 NrPers %2 Suma %3 din %4")
-                                  .arg(s.tip).arg(nr).arg(QString::fromLatin1(s.suma), s.dataInceput.toString(QStringLiteral("dd.MM.yyyy"))));
+                    if (existente.count({s.tip, nr, suma.Unitati(), s.dataInceput})) continue;
+                    ins.Leaga(s.tip)
+                        .Leaga(s.descriere)
+                        .Leaga(nr)
+                        .Leaga(*Bani::DinText(QString::fromLatin1(s.valori[nr - 1])))
+                        .Leaga(suma)
+                        .Leaga(s.dataInceput)
+                        .Executa();
+                    schimbare(
+                        QStringLiteral("Barem: adaugat Tip %1 NrPers %2 Suma %3 din %4")
+                            .arg(s.tip)
+                            .arg(nr)
+                            .arg(QString::fromLatin1(s.suma), s.dataInceput.toString(QStringLiteral("dd.MM.yyyy"))));
                 }
             }
             for (const auto& inchidere : Seminte::InchideriBarem()) {
-                if (inchidere.dataInceput != set)
-                    continue;
+                if (inchidere.dataInceput != set) continue;
                 Interogare u(db_, QStringLiteral("UPDATE Barem SET DataStop = ? WHERE DataInceput = ? "
                                                  "AND (DataStop IS NULL OR DataStop <> ?)"));
                 u.Leaga(inchidere.dataStop).Leaga(inchidere.dataInceput).Leaga(inchidere.dataStop).Executa();
@@ -299,13 +307,11 @@ private:
 
     void indexuri() {
         for (const auto& ix : Schema::Indexuri()) {
-            if (!ops_.TabelaExista(ix.tabela) || ops_.IndexExista(ix))
-                continue;
+            if (!ops_.TabelaExista(ix.tabela) || ops_.IndexExista(ix)) continue;
             bool campuri = true;
             for (const auto& c : ix.campuri)
                 campuri = campuri && ops_.CampExista(ix.tabela, c);
-            if (!campuri)
-                continue;
+            if (!campuri) continue;
             ops_.CreazaIndex(ix);
             schimbare(QStringLiteral("Index creat: %1").arg(ix.Nume()));
         }
@@ -327,7 +333,8 @@ RezultatActualizare ActualizareBD(BazaDate& db, const QString& caleBD, Mesaje& m
 
 int RecalculVenitTotal(BazaDate& db) {
     Tranzactie t(db);
-    Interogare u(db, QStringLiteral("UPDATE Cereri SET VenitTotal = COALESCE(VenitPermanent, 0) + COALESCE(VenitAlte, 0)"));
+    Interogare u(db,
+                 QStringLiteral("UPDATE Cereri SET VenitTotal = COALESCE(VenitPermanent, 0) + COALESCE(VenitAlte, 0)"));
     u.Executa();
     t.Confirma();
     return u.RanduriAfectate();

@@ -9,8 +9,8 @@ class BazaDate;
 class Mesaje;
 
 struct RezultatActualizare {
-    int schimbari = 0;   // changes made; 0 on an up-to-date database
-    QStringList erori;   // what could not be done (each also shown through Mesaje)
+    int schimbari = 0; // changes made; 0 on an up-to-date database
+    QStringList erori; // what could not be done (each also shown through Mesaje)
     bool Reusit() const { return erori.isEmpty(); }
 };
 

@@ -4,9 +4,9 @@
 #include "shell/ServiciuFisiere.h"
 
 #include <QAtomicInt>
-#include <QRegularExpression>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlRecord>
 #include <QUrl>
@@ -18,22 +18,21 @@ QAtomicInt contorConexiuni;
 
 QString textEroare(const QSqlError& e) {
     QString t = e.databaseText().trimmed();
-    if (t.isEmpty())
-        t = e.driverText().trimmed();
+    if (t.isEmpty()) t = e.driverText().trimmed();
     return t;
 }
 
 } // namespace
 
-QString LocatieBD::FisierSQLite() const { return QDir(caleBD).filePath(NumeBD); }
+QString LocatieBD::FisierSQLite() const {
+    return QDir(caleBD).filePath(NumeBD);
+}
 
 QString LocatieBD::Descriere() const {
-    if (!EstePostgreSQL())
-        return QDir::toNativeSeparators(FisierSQLite());
+    if (!EstePostgreSQL()) return QDir::toNativeSeparators(FisierSQLite());
     const QUrl u(url);
     QString server = u.host().isEmpty() ? QStringLiteral("localhost") : u.host();
-    if (u.port() > 0)
-        server += QLatin1Char(':') + QString::number(u.port());
+    if (u.port() > 0) server += QLatin1Char(':') + QString::number(u.port());
     return QStringLiteral("serverul PostgreSQL %1, baza %2").arg(server, u.path().mid(1));
 }
 
@@ -43,8 +42,7 @@ BazaDate::BazaDate(const LocatieBD& loc, Motor m)
 
 BazaDate::~BazaDate() {
     if (db_.isValid()) {
-        if (adancime_ > 0)
-            db_.rollback();
+        if (adancime_ > 0) db_.rollback();
         db_.close();
     }
     db_ = QSqlDatabase();
@@ -84,8 +82,7 @@ void BazaDate::deschideSQLite(Mod mod) {
         throw Eroare(QStringLiteral("Fisierul %1 nu este o baza de date valida: %2")
                          .arg(QDir::toNativeSeparators(fisier), textEroare(q.lastError())));
     q.finish();
-    if (!q.exec(QStringLiteral("PRAGMA foreign_keys = ON")))
-        throw Eroare(textEroare(q.lastError()));
+    if (!q.exec(QStringLiteral("PRAGMA foreign_keys = ON"))) throw Eroare(textEroare(q.lastError()));
 }
 
 void BazaDate::deschidePostgreSQL() {
@@ -93,11 +90,9 @@ void BazaDate::deschidePostgreSQL() {
     if (!u.isValid() || (u.scheme() != QLatin1String("postgresql") && u.scheme() != QLatin1String("postgres")))
         throw Eroare(QStringLiteral("Conexiunea %1 nu este o adresa postgresql:// valida").arg(loc_.url));
     db_ = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), numeConexiune_);
-    if (!db_.isValid())
-        throw Eroare(QStringLiteral("Driverul PostgreSQL (QPSQL) nu este instalat"));
+    if (!db_.isValid()) throw Eroare(QStringLiteral("Driverul PostgreSQL (QPSQL) nu este instalat"));
     db_.setHostName(u.host().isEmpty() ? QStringLiteral("localhost") : u.host());
-    if (u.port() > 0)
-        db_.setPort(u.port());
+    if (u.port() > 0) db_.setPort(u.port());
     db_.setDatabaseName(u.path().mid(1));
     db_.setUserName(u.userName());
     db_.setPassword(u.password());
@@ -129,38 +124,31 @@ void BazaDate::deschidePostgreSQL() {
 }
 
 int BazaDate::Stare() {
-    if (!loc_.EstePostgreSQL())
-        return ServiciuFisiere::StareFisier(loc_.FisierSQLite());
+    if (!loc_.EstePostgreSQL()) return ServiciuFisiere::StareFisier(loc_.FisierSQLite());
     QSqlQuery q(db_);
     return db_.isOpen() && q.exec(QStringLiteral("SELECT 1")) ? 0 : 2;
 }
 
 void BazaDate::Executa(const QString& sql) {
     QSqlQuery q(db_);
-    if (!q.exec(sql))
-        throw Eroare(QStringLiteral("%1\n[%2]").arg(textEroare(q.lastError()), sql));
+    if (!q.exec(sql)) throw Eroare(QStringLiteral("%1\n[%2]").arg(textEroare(q.lastError()), sql));
 }
 
 void BazaDate::incepe() {
-    if (adancime_++ > 0)
-        return;
+    if (adancime_++ > 0) return;
     esuata_ = false;
     // IMMEDIATE takes the write lock at once, so that a MAX+1 read can't race another computer.
     Executa(dialect_.EsteSQLite() ? QStringLiteral("BEGIN IMMEDIATE") : QStringLiteral("BEGIN"));
 }
 
 void BazaDate::termina(bool confirma) {
-    if (adancime_ == 0)
-        return;
-    if (!confirma)
-        esuata_ = true;
-    if (--adancime_ > 0)
-        return;
+    if (adancime_ == 0) return;
+    if (!confirma) esuata_ = true;
+    if (--adancime_ > 0) return;
     QSqlQuery q(db_);
     if (esuata_) {
         q.exec(QStringLiteral("ROLLBACK"));
-        if (confirma)
-            throw Eroare(QStringLiteral("Operatia a fost anulata: o parte a ei nu a reusit."));
+        if (confirma) throw Eroare(QStringLiteral("Operatia a fost anulata: o parte a ei nu a reusit."));
         return;
     }
     if (!q.exec(QStringLiteral("COMMIT"))) {
@@ -174,16 +162,16 @@ qint64 BazaDate::CheieNoua(const QString& tabela, const QString& camp) {
     if (adancime_ == 0)
         throw Eroare(QStringLiteral("Exceptie: cheie noua pentru %1 ceruta in afara unei tranzactii").arg(tabela));
     Interogare q(*this, QStringLiteral("SELECT MAX(%1) AS Nr FROM %2").arg(camp, tabela));
-    if (q.Exista() && !q.EsteNul(QStringLiteral("Nr")))
-        return q.Intreg(QStringLiteral("Nr")) + 1;
+    if (q.Exista() && !q.EsteNul(QStringLiteral("Nr"))) return q.Intreg(QStringLiteral("Nr")) + 1;
     return 1;
 }
 
-Tranzactie::Tranzactie(BazaDate& db) : db_(db) { db_.incepe(); }
+Tranzactie::Tranzactie(BazaDate& db) : db_(db) {
+    db_.incepe();
+}
 
 Tranzactie::~Tranzactie() {
-    if (!gata_)
-        db_.termina(false);
+    if (!gata_) db_.termina(false);
 }
 
 void Tranzactie::Confirma() {
@@ -193,8 +181,7 @@ void Tranzactie::Confirma() {
 
 Interogare::Interogare(BazaDate& db, const QString& sql) : db_(db), q_(db.conexiune()), sql_(sql) {
     q_.setForwardOnly(true);
-    if (!q_.prepare(sql))
-        throw Eroare(QStringLiteral("%1\n[%2]").arg(textEroare(q_.lastError()), sql));
+    if (!q_.prepare(sql)) throw Eroare(QStringLiteral("%1\n[%2]").arg(textEroare(q_.lastError()), sql));
 }
 
 Interogare& Interogare::Leaga(const QVariant& v) {
@@ -204,34 +191,28 @@ Interogare& Interogare::Leaga(const QVariant& v) {
 
 Interogare& Interogare::Leaga(const Bani& b) {
     // SQLite stores a decimal as a double, which keeps four decimals exactly; PostgreSQL takes the text.
-    if (db_.dialect().EsteSQLite())
-        return Leaga(QVariant(b.ToDouble()));
+    if (db_.dialect().EsteSQLite()) return Leaga(QVariant(b.ToDouble()));
     return Leaga(QVariant(b.Text()));
 }
 
 Interogare& Interogare::Executa() {
     const bool ok = q_.exec();
     legate_ = 0;
-    if (!ok)
-        throw Eroare(QStringLiteral("%1\n[%2]").arg(textEroare(q_.lastError()), sql_));
+    if (!ok) throw Eroare(QStringLiteral("%1\n[%2]").arg(textEroare(q_.lastError()), sql_));
     rec_ = q_.record();
     return *this;
 }
 
 QVariant Interogare::Valoare(const QString& camp) const {
     const int i = rec_.indexOf(camp);
-    if (i < 0)
-        throw Eroare(QStringLiteral("Exceptie: campul %1 lipseste din rezultatul [%2]").arg(camp, sql_));
+    if (i < 0) throw Eroare(QStringLiteral("Exceptie: campul %1 lipseste din rezultatul [%2]").arg(camp, sql_));
     return q_.value(i);
 }
 
 QDate Interogare::Data(const QString& camp) const {
     const QVariant v = Valoare(camp);
-    if (v.isNull())
-        return {};
-    if (v.typeId() == QMetaType::QDate)
-        return v.toDate();
-    if (v.typeId() == QMetaType::QDateTime)
-        return v.toDateTime().date();
+    if (v.isNull()) return {};
+    if (v.typeId() == QMetaType::QDate) return v.toDate();
+    if (v.typeId() == QMetaType::QDateTime) return v.toDateTime().date();
     return QDate::fromString(v.toString().left(10), Qt::ISODate);
 }

@@ -23,11 +23,11 @@ struct Catalog {
 };
 
 const Catalog Venituri{QStringLiteral("ListaVenituri"), QStringLiteral("ListaVenituri"), QStringLiteral("venituri.txt"),
-                       QStringLiteral("Venituri.txt"), Cataloage::RanduriVenituri, 0};
+                       QStringLiteral("Venituri.txt"),  Cataloage::RanduriVenituri,      0};
 const Catalog Bife{QStringLiteral("ListaBife"), QStringLiteral("ListaBife"), QStringLiteral("bife.txt"),
-                   QStringLiteral("bife.txt"), Cataloage::RanduriBife, 1};
+                   QStringLiteral("bife.txt"),  Cataloage::RanduriBife,      1};
 const Catalog Acte{QStringLiteral("ListaActe"), QStringLiteral("Acte"), QStringLiteral("acte.txt"),
-                   QStringLiteral("acte.txt"), Cataloage::RanduriActe, 0};
+                   QStringLiteral("acte.txt"),  Cataloage::RanduriActe, 0};
 
 qint64 numarRanduri(BazaDate& db, const QString& tabela) {
     Interogare q(db, QStringLiteral("SELECT COUNT(*) AS NrRanduri FROM %1").arg(tabela));
@@ -86,9 +86,15 @@ void scrieBife(BazaDate& db, const QString& cale, const QStringList& randuri) {
                              .arg(f[1].trimmed()));
         citite.push_back({f[0].trimmed(), f[2].trimmed(), int(cod), *valoare});
     }
-    Interogare ins(db, QStringLiteral("INSERT INTO ListaBife (NrBifa, Tip, Cod, Denumire, Valoare) VALUES (?, ?, ?, ?, ?)"));
+    Interogare ins(
+        db, QStringLiteral("INSERT INTO ListaBife (NrBifa, Tip, Cod, Denumire, Valoare) VALUES (?, ?, ?, ?, ?)"));
     for (size_t i = 0; i < citite.size(); ++i)
-        ins.Leaga(int(i + 1)).Leaga(citite[i].tip).Leaga(citite[i].cod).Leaga(citite[i].denumire).Leaga(citite[i].valoare).Executa();
+        ins.Leaga(int(i + 1))
+            .Leaga(citite[i].tip)
+            .Leaga(citite[i].cod)
+            .Leaga(citite[i].denumire)
+            .Leaga(citite[i].valoare)
+            .Executa();
 }
 
 void reincarca(BazaDate& db, const Catalog& c, const QString& cale) {
@@ -104,8 +110,7 @@ void reincarca(BazaDate& db, const Catalog& c, const QString& cale) {
 
 Cataloage::Rezultat incarca(BazaDate& db, const Catalog& c, const QString& caleBD, Mesaje& m, const Jurnal& jurnal) {
     const qint64 n = numarRanduri(db, c.tabela);
-    if (n == c.randuri)
-        return Cataloage::Rezultat::Neschimbat;
+    if (n == c.randuri) return Cataloage::Rezultat::Neschimbat;
     m.Informatie(QStringLiteral("In tabela %1 exista %2 randuri").arg(c.tabelaInMesaj).arg(n));
     const QString cale = QDir(caleBD).filePath(c.fisier);
     if (ServiciuFisiere::StareFisier(cale) != 0) {
@@ -113,8 +118,7 @@ Cataloage::Rezultat incarca(BazaDate& db, const Catalog& c, const QString& caleB
         return Cataloage::Rezultat::FisierLipsa;
     }
     reincarca(db, c, cale);
-    if (jurnal)
-        jurnal(QStringLiteral("%1: %2 randuri incarcate din %3").arg(c.tabela).arg(c.randuri).arg(c.fisier));
+    if (jurnal) jurnal(QStringLiteral("%1: %2 randuri incarcate din %3").arg(c.tabela).arg(c.randuri).arg(c.fisier));
     return Cataloage::Rezultat::Reincarcat;
 }
 
@@ -131,16 +135,15 @@ QStringList Cataloage::CitesteLinii(const QString& fisier) {
         QStringDecoder cp1250("windows-1250");
         text = cp1250.isValid() ? cp1250(octeti) : QString::fromLatin1(octeti);
     }
-    if (text.startsWith(QChar(0xFEFF)))
-        text.remove(0, 1);
+    if (text.startsWith(QChar(0xFEFF))) text.remove(0, 1);
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     QStringList linii = text.split(QLatin1Char('\n'));
-    if (!linii.isEmpty() && linii.last().isEmpty())
-        linii.removeLast();
+    if (!linii.isEmpty() && linii.last().isEmpty()) linii.removeLast();
     return linii;
 }
 
-Cataloage::Rezultat Cataloage::IncarcaListaVenituri(BazaDate& db, const QString& caleBD, Mesaje& m, const Jurnal& jurnal) {
+Cataloage::Rezultat Cataloage::IncarcaListaVenituri(BazaDate& db, const QString& caleBD, Mesaje& m,
+                                                    const Jurnal& jurnal) {
     return incarca(db, Venituri, caleBD, m, jurnal);
 }
 
@@ -152,7 +155,9 @@ Cataloage::Rezultat Cataloage::IncarcaListaActe(BazaDate& db, const QString& cal
     return incarca(db, Acte, caleBD, m, jurnal);
 }
 
-void Cataloage::RefaListaBife(BazaDate& db, const QString& caleBD) { reincarca(db, Bife, QDir(caleBD).filePath(Bife.fisier)); }
+void Cataloage::RefaListaBife(BazaDate& db, const QString& caleBD) {
+    reincarca(db, Bife, QDir(caleBD).filePath(Bife.fisier));
+}
 
 void Cataloage::IncarcaToate(BazaDate& db, const QString& caleBD) {
     for (const Catalog* c : {&Venituri, &Bife, &Acte})

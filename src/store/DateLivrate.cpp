@@ -13,8 +13,7 @@
 namespace {
 
 QVariant valoareCamp(const CampSchema& c, const QString& text, const QString& fisier, int linie) {
-    if (text.isEmpty())
-        return QVariant();
+    if (text.isEmpty()) return QVariant();
     switch (c.tip) {
     case TipCamp::Cheie:
     case TipCamp::Byte:
@@ -25,7 +24,9 @@ QVariant valoareCamp(const CampSchema& c, const QString& text, const QString& fi
         const qint64 v = text.toLongLong(&ok);
         if (!ok)
             throw Eroare(QStringLiteral("Fisierul %1, randul %2: \"%3\" nu este un numar intreg (%4).")
-                             .arg(fisier).arg(linie).arg(text, c.nume));
+                             .arg(fisier)
+                             .arg(linie)
+                             .arg(text, c.nume));
         return v;
     }
     default:
@@ -36,8 +37,7 @@ QVariant valoareCamp(const CampSchema& c, const QString& text, const QString& fi
 // A tab-separated file whose first line names the fields of the table.
 void incarcaTsv(BazaDate& db, const QString& tabela, const QString& fisier) {
     const QStringList linii = Cataloage::CitesteLinii(fisier);
-    if (linii.isEmpty())
-        throw Eroare(QStringLiteral("Fisierul %1 este gol.").arg(QDir::toNativeSeparators(fisier)));
+    if (linii.isEmpty()) throw Eroare(QStringLiteral("Fisierul %1 este gol.").arg(QDir::toNativeSeparators(fisier)));
     const QStringList antet = linii.first().split(QLatin1Char('\t'));
     std::vector<const CampSchema*> campuri;
     for (const QString& nume : antet) {
@@ -52,15 +52,17 @@ void incarcaTsv(BazaDate& db, const QString& tabela, const QString& fisier) {
         nume << c->nume;
         semne << QStringLiteral("?");
     }
-    Interogare ins(db, QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(tabela, nume.join(QStringLiteral(", ")),
-                                                                         semne.join(QStringLiteral(", "))));
+    Interogare ins(db, QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                           .arg(tabela, nume.join(QStringLiteral(", ")), semne.join(QStringLiteral(", "))));
     for (int i = 1; i < linii.size(); ++i) {
-        if (linii[i].trimmed().isEmpty())
-            continue;
+        if (linii[i].trimmed().isEmpty()) continue;
         const QStringList valori = linii[i].split(QLatin1Char('\t'));
         if (valori.size() != antet.size())
             throw Eroare(QStringLiteral("Fisierul %1, randul %2: sunt %3 campuri in loc de %4.")
-                             .arg(QDir::toNativeSeparators(fisier)).arg(i + 1).arg(valori.size()).arg(antet.size()));
+                             .arg(QDir::toNativeSeparators(fisier))
+                             .arg(i + 1)
+                             .arg(valori.size())
+                             .arg(antet.size()));
         for (size_t k = 0; k < campuri.size(); ++k)
             ins.Leaga(valoareCamp(*campuri[k], valori[int(k)].trimmed(), fisier, i + 1));
         ins.Executa();
@@ -72,8 +74,7 @@ void incarcaTsv(BazaDate& db, const QString& tabela, const QString& fisier) {
 void DateLivrate::CreeazaTabeleLivrate(BazaDate& db, bool formaVeche) {
     OperatiiSchema ops(db);
     for (const auto& t : Schema::Tabele())
-        if (t.livrata)
-            ops.CreazaTabela(t, Schema::CampuriDeBaza(t, formaVeche));
+        if (t.livrata) ops.CreazaTabela(t, Schema::CampuriDeBaza(t, formaVeche));
 }
 
 void DateLivrate::CreeazaSchemaCompleta(BazaDate& db) {
@@ -101,10 +102,10 @@ void DateLivrate::IncarcaDateLivrate(BazaDate& db, const QString& folderDate, co
 }
 
 void DateLivrate::CopiazaCataloage(const QString& folderDate, const QString& caleBD) {
-    for (const QString& nume : {QStringLiteral("venituri.txt"), QStringLiteral("bife.txt"), QStringLiteral("acte.txt")}) {
+    for (const QString& nume :
+         {QStringLiteral("venituri.txt"), QStringLiteral("bife.txt"), QStringLiteral("acte.txt")}) {
         const QString tinta = QDir(caleBD).filePath(nume);
-        if (QFile::exists(tinta))
-            continue;
+        if (QFile::exists(tinta)) continue;
         const QString sursa = QDir(folderDate).filePath(nume);
         if (!QFile::copy(sursa, tinta))
             throw Eroare(QStringLiteral("Fisierul %1 nu a putut fi copiat in %2.")
@@ -127,8 +128,7 @@ std::unique_ptr<BazaDate> DateLivrate::Initializeaza(const LocatieBD& loc, const
         IncarcaDateLivrate(*db, folderDate, Ceas::Azi());
         Cataloage::IncarcaToate(*db, loc.caleBD);
         const RezultatActualizare r = ActualizareBD(*db, loc.caleBD, m, jurnal);
-        if (!r.Reusit())
-            throw Eroare(r.erori.join(QLatin1Char('\n')));
+        if (!r.Reusit()) throw Eroare(r.erori.join(QLatin1Char('\n')));
         t.Confirma();
     } catch (...) {
         if (!loc.EstePostgreSQL()) {

@@ -671,20 +671,17 @@ RezultatCuantum Generator::cuantumLa(const Dosar& d, const QDate& data, qint64 v
     StareCerere stare;
     stare.MatriceMembri.emplace();
     for (const Persoana& p : d.persoane) {
-        if (p.nastere > data)
-            continue;
+        if (p.nastere > data) continue;
         MembruCerere m;
         m.RudenieID = p.rudenie;
-        if (EsteCopil(p.rudenie))
-            m.Data18Ani = p.nastere.addYears(18);
+        if (EsteCopil(p.rudenie)) m.Data18Ani = p.nastere.addYears(18);
         m.Peste20abs = p.peste20 ? 1 : 0;
         m.Diminuare20 = cuReduceri && p.dim20 ? 1 : 0;
         m.Diminuare50 = cuReduceri && p.dim50 ? 1 : 0;
         stare.MatriceMembri->push_back(m);
     }
     for (const auto& [nrBifa, cantitate] : d.bunuri)
-        if (nrBifa >= 9 && nrBifa < 9 + int(stare.Bunuri.size()))
-            stare.Bunuri[size_t(nrBifa - 9)] = cantitate;
+        if (nrBifa >= 9 && nrBifa < 9 + int(stare.Bunuri.size())) stare.Bunuri[size_t(nrBifa - 9)] = cantitate;
     stare.Bife = d.bife;
     MesajeTacute tacut;
     return CalculCuantum({stare, d.tip, data, Bani::DinUnitati(venitPeMembru * 100).Text(), data.month(), data.year()},
@@ -698,7 +695,8 @@ void Generator::sume(Dosar& d) {
     for (size_t i = 0; i < d.evenimente.size(); ++i) {
         const bool ultimul = i + 1 == d.evenimente.size();
         d.evenimente[i].cuantum =
-            ultimul ? d.cuantum : cuantumLa(d, d.evenimente[i].dinData, i == 0 ? d.venitVechi : d.venitPeMembru, false).Cuantum;
+            ultimul ? d.cuantum
+                    : cuantumLa(d, d.evenimente[i].dinData, i == 0 ? d.venitVechi : d.venitPeMembru, false).Cuantum;
     }
 }
 

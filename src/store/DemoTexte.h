@@ -81,8 +81,8 @@ struct Oras {
 };
 
 inline constexpr Oras Orase[] = {{"Pașcani", 22}, {"Câmpina", 29}, {"Fălticeni", 33}, {"Caracal", 28},
-                      {"Roman", 27},   {"Lugoj", 35},   {"Dej", 12},       {"Tecuci", 17},
-                      {"Bârlad", 37},  {"Onești", 4},   {"Făgăraș", 8},    {"Sighișoara", 26}};
+                                 {"Roman", 27},   {"Lugoj", 35},   {"Dej", 12},       {"Tecuci", 17},
+                                 {"Bârlad", 37},  {"Onești", 4},   {"Făgăraș", 8},    {"Sighișoara", 26}};
 
 struct Banca {
     const char* cod;
@@ -90,12 +90,12 @@ struct Banca {
 };
 
 inline constexpr Banca Banci[] = {{"BTRL", "Banca Transilvania"},
-                       {"BRDE", "BRD - Groupe Société Générale"},
-                       {"RNCB", "Banca Comercială Română"},
-                       {"RZBR", "Raiffeisen Bank"},
-                       {"CECE", "CEC Bank"},
-                       {"INGB", "ING Bank"},
-                       {"BACX", "UniCredit Bank"}};
+                                  {"BRDE", "BRD - Groupe Société Générale"},
+                                  {"RNCB", "Banca Comercială Română"},
+                                  {"RZBR", "Raiffeisen Bank"},
+                                  {"CECE", "CEC Bank"},
+                                  {"INGB", "ING Bank"},
+                                  {"BACX", "UniCredit Bank"}};
 
 // A good of the catalogue with the quantities a family of the town may hold.
 struct Bun {

@@ -29,8 +29,7 @@ QString Dialect::TipSql(TipCamp tip, int marime) const {
 }
 
 QVariant Dialect::Parametru(const QVariant& v) const {
-    if (!v.isValid() || v.isNull())
-        return QVariant();
+    if (!v.isValid() || v.isNull()) return QVariant();
     switch (v.typeId()) {
     case QMetaType::QDate:
         return v.toDate().toString(Qt::ISODate);

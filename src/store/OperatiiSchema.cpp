@@ -9,13 +9,13 @@ void OperatiiSchema::uita(const QString& tabela) {
 }
 
 QStringList OperatiiSchema::Tabele() {
-    if (tabele_)
-        return *tabele_;
+    if (tabele_) return *tabele_;
     QStringList r;
-    Interogare q(db_, db_.dialect().EsteSQLite()
-                          ? QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite_%'")
-                          : QStringLiteral("SELECT table_name AS name FROM information_schema.tables "
-                                           "WHERE table_schema = current_schema() AND table_type = 'BASE TABLE'"));
+    Interogare q(
+        db_, db_.dialect().EsteSQLite()
+                 ? QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite_%'")
+                 : QStringLiteral("SELECT table_name AS name FROM information_schema.tables "
+                                  "WHERE table_schema = current_schema() AND table_type = 'BASE TABLE'"));
     q.Executa();
     while (q.Urmator())
         r << q.Text(QStringLiteral("name"));
@@ -23,12 +23,13 @@ QStringList OperatiiSchema::Tabele() {
     return r;
 }
 
-bool OperatiiSchema::TabelaExista(const QString& tabela) { return Tabele().contains(tabela, Qt::CaseInsensitive); }
+bool OperatiiSchema::TabelaExista(const QString& tabela) {
+    return Tabele().contains(tabela, Qt::CaseInsensitive);
+}
 
 QStringList OperatiiSchema::Campuri(const QString& tabela) {
     const auto gasit = campuri_.constFind(tabela.toLower());
-    if (gasit != campuri_.constEnd())
-        return *gasit;
+    if (gasit != campuri_.constEnd()) return *gasit;
     QStringList r;
     Interogare q(db_, db_.dialect().EsteSQLite()
                           ? QStringLiteral("SELECT name FROM pragma_table_info(?) ORDER BY cid")
@@ -80,14 +81,14 @@ void OperatiiSchema::CreazaTabela(const TabelaSchema& t, const std::vector<CampS
     bool cheieCompleta = !t.cheiePrimara.isEmpty();
     for (const auto& k : t.cheiePrimara)
         cheieCompleta = cheieCompleta && numeCampuri.contains(k.toLower());
-    if (cheieCompleta)
-        definitii << QStringLiteral("PRIMARY KEY (%1)").arg(t.cheiePrimara.join(QStringLiteral(", ")));
+    if (cheieCompleta) definitii << QStringLiteral("PRIMARY KEY (%1)").arg(t.cheiePrimara.join(QStringLiteral(", ")));
     db_.Executa(QStringLiteral("CREATE TABLE %1 (%2)").arg(t.nume, definitii.join(QStringLiteral(", "))));
 }
 
 void OperatiiSchema::AdaugaCamp(const QString& tabela, const CampSchema& c) {
     uita(tabela);
-    db_.Executa(QStringLiteral("ALTER TABLE %1 ADD COLUMN %2").arg(tabela, Schema::DefinitieCamp(db_.dialect(), tabela, c)));
+    db_.Executa(
+        QStringLiteral("ALTER TABLE %1 ADD COLUMN %2").arg(tabela, Schema::DefinitieCamp(db_.dialect(), tabela, c)));
 }
 
 void OperatiiSchema::StergeCamp(const QString& tabela, const QString& camp) {
@@ -121,5 +122,6 @@ void OperatiiSchema::CreazaIndex(const IndexSchema& ix) {
     if (ix.faraMajuscule && db_.dialect().EsteSQLite())
         for (QString& c : campuri)
             c += QStringLiteral(" COLLATE NOCASE");
-    db_.Executa(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2 (%3)").arg(ix.Nume(), ix.tabela, campuri.join(QStringLiteral(", "))));
+    db_.Executa(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2 (%3)")
+                    .arg(ix.Nume(), ix.tabela, campuri.join(QStringLiteral(", "))));
 }

@@ -8,9 +8,9 @@ struct PasActualizare {
     enum class Fel { AdaugaCamp, StergeCamp, RedenumesteCamp, CreazaTabela, CreazaRelatie };
     Fel fel;
     QString tabela;
-    QString camp;     // the field; for a relation, its name
-    QString numeNou;  // for a rename
-    int etapa;        // 1: before the income recalculation, 3: after it
+    QString camp;    // the field; for a relation, its name
+    QString numeNou; // for a rename
+    int etapa;       // 1: before the income recalculation, 3: after it
 };
 
 namespace PasiActualizare {

@@ -8,17 +8,39 @@ namespace {
 
 using T = TipCamp;
 
-CampSchema K(const char* n) { return {QString::fromLatin1(n), T::Cheie, 0}; }
-CampSchema B(const char* n) { return {QString::fromLatin1(n), T::Byte, 0}; }
-CampSchema I(const char* n) { return {QString::fromLatin1(n), T::Integer, 0}; }
-CampSchema L(const char* n) { return {QString::fromLatin1(n), T::Long, 0}; }
-CampSchema S(const char* n) { return {QString::fromLatin1(n), T::Single, 0}; }
-CampSchema C(const char* n) { return {QString::fromLatin1(n), T::Currency, 0}; }
-CampSchema Z(const char* n) { return {QString::fromLatin1(n), T::Zecimal, 0}; }
-CampSchema D(const char* n) { return {QString::fromLatin1(n), T::Data, 0}; }
-CampSchema O(const char* n) { return {QString::fromLatin1(n), T::Boolean, 0}; }
-CampSchema X(const char* n, int w) { return {QString::fromLatin1(n), T::Text, w}; }
-CampSchema M(const char* n) { return {QString::fromLatin1(n), T::Memo, 0}; }
+CampSchema K(const char* n) {
+    return {QString::fromLatin1(n), T::Cheie, 0};
+}
+CampSchema B(const char* n) {
+    return {QString::fromLatin1(n), T::Byte, 0};
+}
+CampSchema I(const char* n) {
+    return {QString::fromLatin1(n), T::Integer, 0};
+}
+CampSchema L(const char* n) {
+    return {QString::fromLatin1(n), T::Long, 0};
+}
+CampSchema S(const char* n) {
+    return {QString::fromLatin1(n), T::Single, 0};
+}
+CampSchema C(const char* n) {
+    return {QString::fromLatin1(n), T::Currency, 0};
+}
+CampSchema Z(const char* n) {
+    return {QString::fromLatin1(n), T::Zecimal, 0};
+}
+CampSchema D(const char* n) {
+    return {QString::fromLatin1(n), T::Data, 0};
+}
+CampSchema O(const char* n) {
+    return {QString::fromLatin1(n), T::Boolean, 0};
+}
+CampSchema X(const char* n, int w) {
+    return {QString::fromLatin1(n), T::Text, w};
+}
+CampSchema M(const char* n) {
+    return {QString::fromLatin1(n), T::Memo, 0};
+}
 
 QStringList chei(std::initializer_list<const char*> l) {
     QStringList r;
@@ -30,10 +52,11 @@ QStringList chei(std::initializer_list<const char*> l) {
 std::vector<TabelaSchema> construiesteTabele() {
     std::vector<TabelaSchema> t;
     t.push_back({"Familii",
-                 {K("FamilieID"), X("Judet", 50), X("Localitate", 50), X("Strada", 50), X("Nr", 10), X("Sc", 10),
-                  X("Ap", 10), X("NrDosar2", 10), L("NrDosar"), X("CodDosar", 15), X("Bloc", 15), X("Etaj", 10),
-                  X("Telefon", 15), X("Mobil", 15), X("JudetR", 50), X("LocalitateR", 50), X("StradaR", 50),
-                  X("NrR", 10), X("BlocR", 50), X("ScR", 10), X("ApR", 10), X("EtR", 10)},
+                 {K("FamilieID"),       X("Judet", 50),   X("Localitate", 50), X("Strada", 50), X("Nr", 10),
+                  X("Sc", 10),          X("Ap", 10),      X("NrDosar2", 10),   L("NrDosar"),    X("CodDosar", 15),
+                  X("Bloc", 15),        X("Etaj", 10),    X("Telefon", 15),    X("Mobil", 15),  X("JudetR", 50),
+                  X("LocalitateR", 50), X("StradaR", 50), X("NrR", 10),        X("BlocR", 50),  X("ScR", 10),
+                  X("ApR", 10),         X("EtR", 10)},
                  chei({"FamilieID"}),
                  true});
     t.push_back({"Membrii",
@@ -42,39 +65,103 @@ std::vector<TabelaSchema> construiesteTabele() {
                  chei({"MembruID"}),
                  true});
     t.push_back({"Cereri",
-                 {K("CerereID"),      K("FamilieID"),       L("NrCerere"),       D("DataCerere"),
-                  K("MembruID1"),     K("MembruID2"),       I("Stare"),          I("NrMembrii"),
-                  I("NrCopii"),       C("Cuantum"),         X("NrCerere2", 10),  X("MotivStare", 50),
-                  D("DataStare"),     C("VenitTotal"),      C("VenitpeMembru"),  B("ReprLegal"),
-                  B("ModPlata"),      X("NumeTitularCont", 34), X("Cont", 32),   X("Banca", 30),
-                  B("Gospodarire"),   B("LunaGospod"),      B("GospodLoc"),      B("RegimJuridLoc"),
-                  B("TipIncalzire"),  B("TipLocuinta"),     X("Bife", 30),       B("TipCerere"),
-                  B("LuniRetro"),     O("Vmg"),             O("Inc"),            O("Supl"),
-                  O("Lege416"),       X("A1Solicita", 3),   X("ActeBife", 30),   B("TipDobandire"),
-                  O("Polita"),        X("SocietatePolita", 50), X("NrPolita", 15), D("DataStartPolita"),
-                  D("DataStopPolita"), O("AcoperaRiscuri"), B("NrCamere")},
+                 {K("CerereID"),
+                  K("FamilieID"),
+                  L("NrCerere"),
+                  D("DataCerere"),
+                  K("MembruID1"),
+                  K("MembruID2"),
+                  I("Stare"),
+                  I("NrMembrii"),
+                  I("NrCopii"),
+                  C("Cuantum"),
+                  X("NrCerere2", 10),
+                  X("MotivStare", 50),
+                  D("DataStare"),
+                  C("VenitTotal"),
+                  C("VenitpeMembru"),
+                  B("ReprLegal"),
+                  B("ModPlata"),
+                  X("NumeTitularCont", 34),
+                  X("Cont", 32),
+                  X("Banca", 30),
+                  B("Gospodarire"),
+                  B("LunaGospod"),
+                  B("GospodLoc"),
+                  B("RegimJuridLoc"),
+                  B("TipIncalzire"),
+                  B("TipLocuinta"),
+                  X("Bife", 30),
+                  B("TipCerere"),
+                  B("LuniRetro"),
+                  O("Vmg"),
+                  O("Inc"),
+                  O("Supl"),
+                  O("Lege416"),
+                  X("A1Solicita", 3),
+                  X("ActeBife", 30),
+                  B("TipDobandire"),
+                  O("Polita"),
+                  X("SocietatePolita", 50),
+                  X("NrPolita", 15),
+                  D("DataStartPolita"),
+                  D("DataStopPolita"),
+                  O("AcoperaRiscuri"),
+                  B("NrCamere")},
                  chei({"CerereID"}),
                  true});
     t.push_back({"CereriMembrii",
-                 {K("CerereID"),       K("MembruID"),        B("RudenieID"),       B("OcupatieID"),
-                  D("Data18Ani"),      X("Motiv", 50),       B("CetatenieID"),     X("TaraCetatenie", 30),
-                  B("ResedintaID"),    X("LocResedinta", 30), X("TaraResedinta", 30), B("StCivila"),
-                  B("Studii"),         B("DrAsSociala"),     O("LucreazaAfara"),   X("UScolara", 50),
-                  X("Clasa", 30),      O("RealizeazaVenit"), B("Stare"),           X("MotivStare", 30),
-                  D("DataStare"),      I("MotivID"),         C("Suma"),            I("TipValuta"),
-                  B("StareMembru"),    B("Diminuare20"),     B("Diminuare50"),     X("Perioada1", 50),
-                  X("TaraAfara1", 30), X("Perioada2", 50),   X("TaraAfara2", 30),  O("LocuitAfara"),
-                  X("Perioada11", 50), X("TaraAfara11", 30), X("Perioada22", 50),  X("TaraAfara22", 30),
-                  C("Venit"),          B("TipIncalzTrecut"), B("VMG"),             B("Alocatie"),
-                  B("Incalzire"),      X("LocScoala", 50),   B("Repetent"),        B("Abandon"),
+                 {K("CerereID"),
+                  K("MembruID"),
+                  B("RudenieID"),
+                  B("OcupatieID"),
+                  D("Data18Ani"),
+                  X("Motiv", 50),
+                  B("CetatenieID"),
+                  X("TaraCetatenie", 30),
+                  B("ResedintaID"),
+                  X("LocResedinta", 30),
+                  X("TaraResedinta", 30),
+                  B("StCivila"),
+                  B("Studii"),
+                  B("DrAsSociala"),
+                  O("LucreazaAfara"),
+                  X("UScolara", 50),
+                  X("Clasa", 30),
+                  O("RealizeazaVenit"),
+                  B("Stare"),
+                  X("MotivStare", 30),
+                  D("DataStare"),
+                  I("MotivID"),
+                  C("Suma"),
+                  I("TipValuta"),
+                  B("StareMembru"),
+                  B("Diminuare20"),
+                  B("Diminuare50"),
+                  X("Perioada1", 50),
+                  X("TaraAfara1", 30),
+                  X("Perioada2", 50),
+                  X("TaraAfara2", 30),
+                  O("LocuitAfara"),
+                  X("Perioada11", 50),
+                  X("TaraAfara11", 30),
+                  X("Perioada22", 50),
+                  X("TaraAfara22", 30),
+                  C("Venit"),
+                  B("TipIncalzTrecut"),
+                  B("VMG"),
+                  B("Alocatie"),
+                  B("Incalzire"),
+                  X("LocScoala", 50),
+                  B("Repetent"),
+                  B("Abandon"),
                   B("Peste20abs")},
                  chei({"CerereID", "MembruID"}),
                  true});
     t.push_back({"DatePrimarie",
-                 {X("Denumire", 50), X("Judet", 50), X("Localitate", 50), X("Str", 50), X("Nr", 10),
-                  X("Primar", 50), X("Secretar", 50), X("CodFiscal", 50), X("AsSocial", 50), B("TipLocalitate"),
-                  X("CodJudet", 5), X("Email", 50), X("OfPostal", 10), X("CodPostal", 10), X("CNPAsSocial", 13),
-                  X("Politia", 30)},
+                 {X("Denumire", 50), X("Judet", 50), X("Localitate", 50), X("Str", 50), X("Nr", 10), X("Primar", 50),
+                  X("Secretar", 50), X("CodFiscal", 50), X("AsSocial", 50), B("TipLocalitate"), X("CodJudet", 5),
+                  X("Email", 50), X("OfPostal", 10), X("CodPostal", 10), X("CNPAsSocial", 13), X("Politia", 30)},
                  {},
                  true});
     t.push_back({"DateGen",
@@ -96,28 +183,33 @@ std::vector<TabelaSchema> construiesteTabele() {
                  {K("StradaID"), X("Denumire", 50), K("LocalitateID"), X("OfPostal", 50), X("CodPostal", 50)},
                  chei({"StradaID"}),
                  true});
-    t.push_back({"Anchete",
-                 {K("AnchetaID"), K("CerereID"), D("DataAncheta"), X("Intocmitor", 50), D("DataExpirarii"),
-                  X("Motiv", 100), I("NrMembrii"), I("NrCopii"), I("TipLocuinta"), I("RegimJuridic"), I("NrCamere"),
-                  S("SuprUtila"), X("Bunuri", 255), X("Igiena", 255), I("TipLocuire"), I("TipDetinere"),
-                  X("Teren", 255), X("Cladiri", 255), X("Spatii", 255), X("AlteBunuri", 255),
-                  X("StareSanatate", 255), X("Nevoi", 255), X("Aspecte", 255)},
-                 chei({"AnchetaID"}),
-                 true});
+    t.push_back(
+        {"Anchete",
+         {K("AnchetaID"),          K("CerereID"),   D("DataAncheta"),  X("Intocmitor", 50), D("DataExpirarii"),
+          X("Motiv", 100),         I("NrMembrii"),  I("NrCopii"),      I("TipLocuinta"),    I("RegimJuridic"),
+          I("NrCamere"),           S("SuprUtila"),  X("Bunuri", 255),  X("Igiena", 255),    I("TipLocuire"),
+          I("TipDetinere"),        X("Teren", 255), X("Cladiri", 255), X("Spatii", 255),    X("AlteBunuri", 255),
+          X("StareSanatate", 255), X("Nevoi", 255), X("Aspecte", 255)},
+         chei({"AnchetaID"}),
+         true});
     t.push_back({"StatePlata", {K("StatPlataID"), I("An"), I("Luna")}, chei({"StatPlataID"}), true});
     t.push_back({"Judete", {K("JudetID"), X("Denumire", 50), X("Cod", 2)}, chei({"JudetID"}), true});
     t.push_back({"Localitati", {K("LocalitateID"), X("Denumire", 50)}, chei({"LocalitateID"}), true});
     t.push_back({"TipuriActe", {K("TipActID"), X("DenScurt", 10), X("Denumire", 50)}, chei({"TipActID"}), true});
     t.push_back({"TipIncalzire", {K("TipID"), X("Denumire", 50)}, chei({"TipID"}), true});
 
-    t.push_back({"CMIesiti", {K("CerereID"), K("MembruID"), I("RudenieID"), I("MotivID"), C("Suma"), I("TipValuta")}, {}, false});
+    t.push_back({"CMIesiti",
+                 {K("CerereID"), K("MembruID"), I("RudenieID"), I("MotivID"), C("Suma"), I("TipValuta")},
+                 {},
+                 false});
     t.push_back({"Venituri", {K("CerereID"), B("CodVenit"), C("Valoare")}, {}, false});
     t.push_back({"Locuinte", {K("CerereID"), B("Cod"), B("NrCamere"), S("Suprafata")}, {}, false});
     t.push_back({"ListaVenituri", {B("CodVenit"), M("Denumire")}, chei({"CodVenit"}), false});
     t.push_back({"Adeverinte",
                  {K("AdevID"), K("CerereID"), K("MembruID"), B("TipAdeverinta"), X("NrAdev", 15), D("DataAdeverinta"),
                   D("DataExpAdev"), D("DataDepunerii"), B("AdvCurenta")},
-                 chei({"AdevID"}), false});
+                 chei({"AdevID"}),
+                 false});
     t.push_back(
         {"IstoricCereri", {K("CerereID"), B("Tranzactie"), D("DataTranzactie"), X("MotivTranzactie", 255)}, {}, false});
     t.push_back({"Politii", {K("PolitiaID"), X("Denumire", 50), K("LocalitateID")}, chei({"PolitiaID"}), false});
@@ -154,18 +246,39 @@ std::vector<RelatieSchema> construiesteRelatii() {
 }
 
 std::vector<IndexSchema> construiesteIndexuri() {
-    auto ix = [](const char* t, std::initializer_list<const char*> c) { return IndexSchema{QString::fromLatin1(t), chei(c)}; };
+    auto ix = [](const char* t, std::initializer_list<const char*> c) {
+        return IndexSchema{QString::fromLatin1(t), chei(c)};
+    };
     auto ci = [](const char* t, const char* c) { return IndexSchema{QString::fromLatin1(t), chei({c}), true}; };
     return {
-        ix("Cereri", {"FamilieID"}),       ix("Cereri", {"MembruID1"}),       ix("Cereri", {"MembruID2"}),
-        ix("Cereri", {"NrCerere"}),        ix("Cereri", {"Stare"}),           ix("CereriMembrii", {"MembruID"}),
-        ix("Membrii", {"CNP"}),            ci("Membrii", "Nume"),             ci("Membrii", "Prenume"),           ix("DateGen", {"Tip", "DataID"}),
-        ix("DateGen", {"Denumire"}),       ix("Dispozitii", {"CerereID"}),    ix("Dispozitii", {"BeneficiarID"}),
-        ix("Anchete", {"CerereID"}),       ix("Strazi", {"LocalitateID"}),    ix("StatePlata", {"An", "Luna"}),
-        ix("Barem", {"Tip", "DataInceput"}), ix("CMIesiti", {"CerereID"}),    ix("CMIesiti", {"MembruID"}),
-        ix("Venituri", {"CerereID"}),      ix("Locuinte", {"CerereID"}),      ix("Adeverinte", {"CerereID"}),
-        ix("Adeverinte", {"MembruID"}),    ix("Adeverinte", {"DataExpAdev"}), ix("IstoricCereri", {"CerereID"}),
-        ix("BifeText", {"CerereID"}),      ix("Politii", {"LocalitateID"}),   ix("Scoli", {"LocalitateID"}),
+        ix("Cereri", {"FamilieID"}),
+        ix("Cereri", {"MembruID1"}),
+        ix("Cereri", {"MembruID2"}),
+        ix("Cereri", {"NrCerere"}),
+        ix("Cereri", {"Stare"}),
+        ix("CereriMembrii", {"MembruID"}),
+        ix("Membrii", {"CNP"}),
+        ci("Membrii", "Nume"),
+        ci("Membrii", "Prenume"),
+        ix("DateGen", {"Tip", "DataID"}),
+        ix("DateGen", {"Denumire"}),
+        ix("Dispozitii", {"CerereID"}),
+        ix("Dispozitii", {"BeneficiarID"}),
+        ix("Anchete", {"CerereID"}),
+        ix("Strazi", {"LocalitateID"}),
+        ix("StatePlata", {"An", "Luna"}),
+        ix("Barem", {"Tip", "DataInceput"}),
+        ix("CMIesiti", {"CerereID"}),
+        ix("CMIesiti", {"MembruID"}),
+        ix("Venituri", {"CerereID"}),
+        ix("Locuinte", {"CerereID"}),
+        ix("Adeverinte", {"CerereID"}),
+        ix("Adeverinte", {"MembruID"}),
+        ix("Adeverinte", {"DataExpAdev"}),
+        ix("IstoricCereri", {"CerereID"}),
+        ix("BifeText", {"CerereID"}),
+        ix("Politii", {"LocalitateID"}),
+        ix("Scoli", {"LocalitateID"}),
     };
 }
 
@@ -178,18 +291,15 @@ const std::vector<TabelaSchema>& Schema::Tabele() {
 
 const TabelaSchema* Schema::Tabela(const QString& nume) {
     for (const auto& t : Tabele())
-        if (t.nume.compare(nume, Qt::CaseInsensitive) == 0)
-            return &t;
+        if (t.nume.compare(nume, Qt::CaseInsensitive) == 0) return &t;
     return nullptr;
 }
 
 const CampSchema* Schema::Camp(const QString& tabela, const QString& camp) {
     const TabelaSchema* t = Tabela(tabela);
-    if (!t)
-        return nullptr;
+    if (!t) return nullptr;
     for (const auto& c : t->campuri)
-        if (c.nume.compare(camp, Qt::CaseInsensitive) == 0)
-            return &c;
+        if (c.nume.compare(camp, Qt::CaseInsensitive) == 0) return &c;
     return nullptr;
 }
 
@@ -200,8 +310,7 @@ const std::vector<RelatieSchema>& Schema::Relatii() {
 
 const RelatieSchema* Schema::Relatie(const QString& nume) {
     for (const auto& r : Relatii())
-        if (r.nume.compare(nume, Qt::CaseInsensitive) == 0)
-            return &r;
+        if (r.nume.compare(nume, Qt::CaseInsensitive) == 0) return &r;
     return nullptr;
 }
 
@@ -243,18 +352,15 @@ std::vector<CampSchema> Schema::CampuriDeBaza(const TabelaSchema& t, bool formaV
 
     std::vector<CampSchema> baza;
     for (const auto& c : t.campuri) {
-        if (adaugate.contains(c.nume.toLower()))
-            continue;
+        if (adaugate.contains(c.nume.toLower())) continue;
         const CampVechi* vechi = nullptr;
         for (const auto& v : CampuriVechi())
-            if (formaVeche && v.tabela == t.nume && v.redenumitIn.compare(c.nume, Qt::CaseInsensitive) == 0)
-                vechi = &v;
+            if (formaVeche && v.tabela == t.nume && v.redenumitIn.compare(c.nume, Qt::CaseInsensitive) == 0) vechi = &v;
         baza.push_back(vechi ? vechi->camp : c);
     }
     if (formaVeche)
         for (const auto& v : CampuriVechi())
-            if (v.tabela == t.nume && v.redenumitIn.isEmpty())
-                baza.push_back(v.camp);
+            if (v.tabela == t.nume && v.redenumitIn.isEmpty()) baza.push_back(v.camp);
     return baza;
 }
 

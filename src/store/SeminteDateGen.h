@@ -17,8 +17,8 @@ struct SamantaBarem {
     QDate dataInceput;
     int tip;
     const char* descriere;
-    const char* suma;       // income bracket, in shares of ISR
-    const char* valori[4];  // NrPers 1 to 4
+    const char* suma;      // income bracket, in shares of ISR
+    const char* valori[4]; // NrPers 1 to 4
 };
 
 namespace Seminte {

@@ -21,19 +21,16 @@ TEST_P(BaniDinText, CitesteCaOamenii) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Cazuri, BaniDinText,
-                         ::testing::Values(CazText{"12", true, 120000}, CazText{"12.5", true, 125000},
-                                           CazText{"12,5", true, 125000}, CazText{" 0,0001 ", true, 1},
-                                           CazText{"-3.25", true, -32500}, CazText{"+7", true, 70000},
-                                           CazText{".5", true, 5000}, CazText{"1.23456", true, 12346},
-                                           // half to even on the fifth decimal
-                                           CazText{"0.00005", true, 0}, CazText{"0.00015", true, 2},
-                                           CazText{"-0.00015", true, -2}, CazText{"", false, 0},
-                                           CazText{"abc", false, 0}, CazText{"1.2.3", false, 0},
-                                           CazText{"1,234.5", false, 0}, CazText{"12 lei", false, 0},
-                                           CazText{"-", false, 0},
-                                           CazText{"922337203685477.5807", true, INT64_MAX},
-                                           CazText{"922337203685477.5808", false, 0}));
+INSTANTIATE_TEST_SUITE_P(
+    Cazuri, BaniDinText,
+    ::testing::Values(CazText{"12", true, 120000}, CazText{"12.5", true, 125000}, CazText{"12,5", true, 125000},
+                      CazText{" 0,0001 ", true, 1}, CazText{"-3.25", true, -32500}, CazText{"+7", true, 70000},
+                      CazText{".5", true, 5000}, CazText{"1.23456", true, 12346},
+                      // half to even on the fifth decimal
+                      CazText{"0.00005", true, 0}, CazText{"0.00015", true, 2}, CazText{"-0.00015", true, -2},
+                      CazText{"", false, 0}, CazText{"abc", false, 0}, CazText{"1.2.3", false, 0},
+                      CazText{"1,234.5", false, 0}, CazText{"12 lei", false, 0}, CazText{"-", false, 0},
+                      CazText{"922337203685477.5807", true, INT64_MAX}, CazText{"922337203685477.5808", false, 0}));
 
 TEST(Bani, TextAreMereuPatruZecimale) {
     EXPECT_EQ(Bani::DinUnitati(125000).Text(), QStringLiteral("12.5000"));

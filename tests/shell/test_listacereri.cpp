@@ -8,16 +8,29 @@ class Lista : public TestBaza {
 protected:
     void SetUp() override {
         TestBaza::SetUp();
-        if (IsSkipped())
-            return;
+        if (IsSkipped()) return;
         BazaDate& db = BazaNoua();
         // Requests 1 and 2 share a family and a child; request 3 stands alone.
-        AdaugaCerereTest(db, {1, 0, 10, 2, 1, QStringLiteral("Branesti"), QStringLiteral("Garii"),
+        AdaugaCerereTest(db, {1,
+                              0,
+                              10,
+                              2,
+                              1,
+                              QStringLiteral("Branesti"),
+                              QStringLiteral("Garii"),
                               {{1, "Popescu", "Ion", "1800101400123", 1}, {2, "Popescu", "Ana", "6150101400127", 3}}});
-        AdaugaCerereTest(db, {2, 1, 9, 3, 2, {}, {},
-                              {{3, "popa", "Maria", "2850315400128", 1}, {2, "Popescu", "Ana", "6150101400127", 3},
+        AdaugaCerereTest(db, {2,
+                              1,
+                              9,
+                              3,
+                              2,
+                              {},
+                              {},
+                              {{3, "popa", "Maria", "2850315400128", 1},
+                               {2, "Popescu", "Ana", "6150101400127", 3},
                                {4, "Popa", "Dan", "5120505400121", 3}}});
-        AdaugaCerereTest(db, {3, 0, 2, 4, 1, QStringLiteral("Cernica"), {}, {{5, "Ionescu", "Vasile", "1790202123456", 1}}});
+        AdaugaCerereTest(
+            db, {3, 0, 2, 4, 1, QStringLiteral("Cernica"), {}, {{5, "Ionescu", "Vasile", "1790202123456", 1}}});
     }
 
     QList<qint64> Id(const FiltruCautare& f) {
@@ -86,20 +99,22 @@ TEST_P(Lista, FiltreleCautaDupaInceput) {
         {filtru(QStringLiteral("999"), {}, {}, {}), {}},
     };
     for (const auto& c : cazuri)
-        EXPECT_EQ(Id(c.f), c.id) << c.f.CNP.toStdString() << "|" << c.f.Nume.toStdString() << "|" << c.f.Prenume.toStdString()
-                                 << "|" << c.f.NrCerere.toStdString();
+        EXPECT_EQ(Id(c.f), c.id) << c.f.CNP.toStdString() << "|" << c.f.Nume.toStdString() << "|"
+                                 << c.f.Prenume.toStdString() << "|" << c.f.NrCerere.toStdString();
 }
 
 TEST_P(Lista, StergereaPastreazaFamiliaSiPersoaneleComune) {
     ListaCereri::Sterge(Bd(), 2);
     EXPECT_EQ(Id({}), (QList<qint64>{1, 3}));
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Familii WHERE FamilieID = 1")), 1);
-    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii WHERE MembruID IN (1, 2)")), 2) << "shared child stays";
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii WHERE MembruID IN (1, 2)")), 2)
+        << "shared child stays";
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii WHERE MembruID IN (3, 4)")), 0);
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE CerereID = 2")), 0);
 
     ListaCereri::Sterge(Bd(), 1);
-    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Familii WHERE FamilieID = 1")), 0) << "the last request takes the family";
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Familii WHERE FamilieID = 1")), 0)
+        << "the last request takes the family";
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii")), 1);
     ListaCereri::Sterge(Bd(), 1); // already gone: nothing happens
     EXPECT_EQ(Id({}), (QList<qint64>{3}));

@@ -8,24 +8,38 @@ class Paneluri : public TestBaza {
 protected:
     void SetUp() override {
         TestBaza::SetUp();
-        if (IsSkipped())
-            return;
+        if (IsSkipped()) return;
         BazaNoua();
         AdaugaCerereTest(Bd(), {1, 0, 1, 2, 1, {}, {}, {{1, "Popescu", "Ion", "1800101400123", 1}}});
         AdaugaCerereTest(Bd(), {2, 0, 2, 3, 1, {}, {}, {{2, "Popa", "Ana", "2850315400128", 1}}});
     }
 
     void Adeverinta(qint64 id, qint64 cerere, const QDate& expira, int curenta) {
-        Interogare(Bd(), QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataExpAdev, AdvCurenta) "
-                                        "VALUES (?, ?, ?, 3, ?, ?)"))
-            .Leaga(id).Leaga(cerere).Leaga(cerere).Leaga(expira).Leaga(curenta).Executa();
+        Interogare(Bd(),
+                   QStringLiteral(
+                       "INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataExpAdev, AdvCurenta) "
+                       "VALUES (?, ?, ?, 3, ?, ?)"))
+            .Leaga(id)
+            .Leaga(cerere)
+            .Leaga(cerere)
+            .Leaga(expira)
+            .Leaga(curenta)
+            .Executa();
     }
 
     void Dispozitie(qint64 id, qint64 cerere, const char* nr, const QDate& data, int actiune) {
-        Interogare(Bd(), QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, Actiune, Cuantum, Luna, An) "
-                                        "VALUES (?, ?, ?, ?, ?, 173, ?, ?)"))
-            .Leaga(id).Leaga(cerere).Leaga(QString::fromLatin1(nr).toLongLong()).Leaga(data).Leaga(actiune)
-            .Leaga(data.month()).Leaga(data.year()).Executa();
+        Interogare(Bd(),
+                   QStringLiteral(
+                       "INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, Actiune, Cuantum, Luna, An) "
+                       "VALUES (?, ?, ?, ?, ?, 173, ?, ?)"))
+            .Leaga(id)
+            .Leaga(cerere)
+            .Leaga(QString::fromLatin1(nr).toLongLong())
+            .Leaga(data)
+            .Leaga(actiune)
+            .Leaga(data.month())
+            .Leaga(data.year())
+            .Executa();
     }
 };
 
@@ -51,7 +65,8 @@ TEST_P(Paneluri, ActeCareExpiraDoarCurenteSiInPlataInLunaCalendaristica) {
         Adeverinta(id++, c.cerere, c.expira, c.curenta);
         EXPECT_EQ(PaneluriCerere::ActeCareExpira(Bd(), azi), c.gasit) << c.expira.toString(Qt::ISODate).toStdString();
     }
-    EXPECT_EQ(PaneluriCerere::TextNotificare(azi), QStringLiteral("Aveti acte care expira in luna Noiembrie !\nClick pentru a detalii."));
+    EXPECT_EQ(PaneluriCerere::TextNotificare(azi),
+              QStringLiteral("Aveti acte care expira in luna Noiembrie !\nClick pentru a detalii."));
 }
 
 TEST_P(Paneluri, DispozitiileCeleMaiNoiPrimeleCuTextulActiunii) {
@@ -65,7 +80,8 @@ TEST_P(Paneluri, DispozitiileCeleMaiNoiPrimeleCuTextulActiunii) {
     EXPECT_EQ(r[0].Luna, QStringLiteral("3"));
     EXPECT_EQ(r[1].TipDecizie, QStringLiteral("ACORDARE"));
     EXPECT_EQ(r[1].Cuantum.Text(), QStringLiteral("173.0000"));
-    EXPECT_EQ(PaneluriCerere::TitluDispozitii(QStringLiteral("Popescu Ion"), r.size()), QStringLiteral("Dispozitiile lui Popescu Ion."));
+    EXPECT_EQ(PaneluriCerere::TitluDispozitii(QStringLiteral("Popescu Ion"), r.size()),
+              QStringLiteral("Dispozitiile lui Popescu Ion."));
     EXPECT_EQ(PaneluriCerere::TitluDispozitii(QStringLiteral("Popescu Ion"), 0), QString());
 
     EXPECT_TRUE(PaneluriCerere::StergeDispozitie(Bd(), 2));

@@ -26,7 +26,8 @@ TEST(Parola, SchimbareaSiStergereaAuMesajeleLor) {
     } cazuri[] = {
         {QStringLiteral("abd"), QStringLiteral("x"), QStringLiteral("x"), "Parola veche este incorecta!"},
         {QStringLiteral("abc"), QStringLiteral("   "), QStringLiteral("   "), "Parola noua inexistenta!"},
-        {QStringLiteral("abc"), QStringLiteral("nou"), QStringLiteral("nu"), "Parola noua trebuie sa fie la fel in cele doua casute de text!"},
+        {QStringLiteral("abc"), QStringLiteral("nou"), QStringLiteral("nu"),
+         "Parola noua trebuie sa fie la fel in cele doua casute de text!"},
     };
     for (const auto& c : cazuri) {
         const auto s = Parola::Schimba(veche, c.veche, c.noua, c.repetata);
@@ -37,8 +38,10 @@ TEST(Parola, SchimbareaSiStergereaAuMesajeleLor) {
     ASSERT_FALSE(bun.mesaj.has_value());
     EXPECT_TRUE(Parola::Corespunde(bun.valoareNoua, QStringLiteral("nou"))) << "the new password is trimmed";
 
-    EXPECT_EQ(*Parola::Reseteaza(bun.valoareNoua, QStringLiteral("abc")).mesaj,
-              QStringLiteral("Parola veche este incorecta! Pentru a putea sterge parola trebuie sa o scrieti pe ce veche mai intai"));
+    EXPECT_EQ(
+        *Parola::Reseteaza(bun.valoareNoua, QStringLiteral("abc")).mesaj,
+        QStringLiteral(
+            "Parola veche este incorecta! Pentru a putea sterge parola trebuie sa o scrieti pe ce veche mai intai"));
     const auto sters = Parola::Reseteaza(bun.valoareNoua, QStringLiteral("nou"));
     EXPECT_FALSE(sters.mesaj.has_value());
     EXPECT_TRUE(sters.valoareNoua.isEmpty());

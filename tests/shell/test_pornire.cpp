@@ -10,7 +10,9 @@
 
 namespace {
 
-QString folderLivrat() { return QStringLiteral(FEROLANTA_SURSA); }
+QString folderLivrat() {
+    return QStringLiteral(FEROLANTA_SURSA);
+}
 
 TEST(Pornire, PrimaPornireCreeazaFolderulSiBaza) {
     QTemporaryDir tmp;
@@ -39,10 +41,12 @@ TEST(Pornire, BazaLipsaDinLocatieIntreabaDeONouaLocatie) {
     m.raspunsuri = {true, false};
     EXPECT_EQ(PornesteBaza(tmp.path(), folderLivrat(), m).stare, RezultatPornire::Stare::AlegeLocatie);
     EXPECT_EQ(PornesteBaza(tmp.path(), folderLivrat(), m).stare, RezultatPornire::Stare::Terminat);
-    const QString intrebare = QStringLiteral("Baza de date Ferolanta.db nu a fost gasita in locatia %1\nDoriti sa selectati o noua locatie?")
-                                  .arg(tmp.path());
+    const QString intrebare =
+        QStringLiteral("Baza de date Ferolanta.db nu a fost gasita in locatia %1\nDoriti sa selectati o noua locatie?")
+            .arg(tmp.path());
     EXPECT_EQ(m.Texte(), (QStringList{intrebare, intrebare}));
-    EXPECT_FALSE(QFile::exists(QDir(tmp.path()).filePath(QStringLiteral("Ferolanta.db")))) << "a named location is never filled silently";
+    EXPECT_FALSE(QFile::exists(QDir(tmp.path()).filePath(QStringLiteral("Ferolanta.db"))))
+        << "a named location is never filled silently";
 }
 
 TEST(Pornire, CaleBDGoalaDevineFolderulProgramului) {
@@ -58,10 +62,12 @@ TEST(Pornire, CaleBDGoalaDevineFolderulProgramului) {
 TEST(Pornire, FolderulBazeiDeNeatinsOpresteProgramul) {
     QTemporaryDir tmp;
     const QString ini = QDir(tmp.path()).filePath(Foldere::FisierSetari);
-    ServiciuFisiere::ScrieIni(ini, QStringLiteral("Generale"), QStringLiteral("CaleBD"), tmp.filePath(QStringLiteral("retea/lipsa")));
+    ServiciuFisiere::ScrieIni(ini, QStringLiteral("Generale"), QStringLiteral("CaleBD"),
+                              tmp.filePath(QStringLiteral("retea/lipsa")));
     MesajeInregistrate m;
     EXPECT_EQ(PornesteBaza(tmp.path(), folderLivrat(), m).stare, RezultatPornire::Stare::Terminat);
-    EXPECT_EQ(m.Texte(), QStringList{QStringLiteral("Reteaua nu functioneaza sau locatia catre baza de date nu e corecta. Verificati!")});
+    EXPECT_EQ(m.Texte(), QStringList{QStringLiteral(
+                             "Reteaua nu functioneaza sau locatia catre baza de date nu e corecta. Verificati!")});
 }
 
 } // namespace

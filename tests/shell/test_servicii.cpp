@@ -23,7 +23,8 @@ TEST(FisierIni, CheileNuTinContDeMajuscule) {
     const QString ini = QDir(dir.path()).filePath(QStringLiteral("setari207.ini"));
     EXPECT_EQ(SF::CitesteIni(ini, QStringLiteral("Generale"), QStringLiteral("CaleBD")), QString());
     SF::ScrieIni(ini, QStringLiteral("Generale"), QStringLiteral("CaleBD"), QStringLiteral("C:\\Date\\Primărie"));
-    EXPECT_EQ(SF::CitesteIni(ini, QStringLiteral("GENERALE"), QStringLiteral("calebd")), QStringLiteral("C:\\Date\\Primărie"));
+    EXPECT_EQ(SF::CitesteIni(ini, QStringLiteral("GENERALE"), QStringLiteral("calebd")),
+              QStringLiteral("C:\\Date\\Primărie"));
     SF::ScrieIni(ini, QStringLiteral("generale"), QStringLiteral("CALEBD"), QStringLiteral("D:\\X"));
     EXPECT_EQ(SF::CitesteIni(ini, QStringLiteral("Generale"), QStringLiteral("CaleBD")), QStringLiteral("D:\\X"));
 }
@@ -52,5 +53,6 @@ TEST(FisierIni, CitesteFisierVechiInWindows1250) {
     // "Primăria Brăneşti" in Windows-1250: ă = 0xE3, ş = 0xBA
     f.write("[Generale]\nNume=Prim\xE3ria Br\xE3ne\xBAti\n");
     f.close();
-    EXPECT_EQ(SF::CitesteIni(ini, QStringLiteral("Generale"), QStringLiteral("Nume")), QStringLiteral("Primăria Brăneşti"));
+    EXPECT_EQ(SF::CitesteIni(ini, QStringLiteral("Generale"), QStringLiteral("Nume")),
+              QStringLiteral("Primăria Brăneşti"));
 }

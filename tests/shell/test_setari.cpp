@@ -15,7 +15,9 @@ namespace {
 
 namespace SF = ServiciuFisiere;
 
-std::string S(const QString& q) { return q.toStdString(); }
+std::string S(const QString& q) {
+    return q.toStdString();
+}
 
 class FisierSetari : public ::testing::Test {
 protected:
@@ -252,7 +254,8 @@ TEST_F(FisierSetari, ValoareInAfaraTipuluiDaImplicitul) {
 
 TEST_F(FisierSetari, FisierVechiInWindows1250) {
     // "Străduţă" and "Centralizator Brăneşti.xls" in Windows-1250: ă = E3, ţ = FE, ş = BA.
-    const QByteArray strSat = "Str\xE3" "du\xFE\xE3";
+    const QByteArray strSat = "Str\xE3"
+                              "du\xFE\xE3";
     const QByteArray anexa3 = "Centralizator Br\xE3ne\xBAti.xls";
     ScrieOcteti("[generale]\r\nstrsat=" + strSat + "\r\nCaleBD=C:\\Prim\xE3ria\r\n[FISIERE]\r\nANEXA3=" + anexa3 +
                 "\r\n");
@@ -309,22 +312,42 @@ TEST_F(FisierSetari, ScrieOptiuniApoiIncarcaSetari) {
     const Setari scrise = SetariSchimbate();
     ScrieOptiuni(Ini(), scrise);
 
-    const std::vector<std::string> ordine = {
-        "Generale/OpresteActualizareAutomata", "Ordonari/NrCerereAnexa3", "Fonturi/FontSize0", "Fonturi/FontName0",
-        "Fonturi/FontB0", "Fonturi/FontI0", "Fonturi/FontU0", "Afisari/AfisCereri", "Fisiere/Anexa3",
-        "Fisiere/Anexa4", "Fisiere/StatPlata", "Generale/Anexa2ExportWord", "Generale/StrSat",
-        "Generale/AfisSerieStatPlata", "Generale/ReteaSetat", "Generale/Motiv", "Borderou/HeightRowBorderou",
-        "Raport/HeightRowRaport", "App/AppWord", "Generale/DataCerereTiparita", "Cereri/Cerere13Pag",
-        "Cereri/Ancheta14Pag", "Generale/NotificareActe", "Cereri/AngajamentPlata", "Cereri/CertificarePrimar",
-        "Generale/NrCerereInAncheta", "Generale/NrCerereTiparita", "Generale/ServerCerere", "Generale/CuloareVenit",
-        "Cale/CaleWord"};
+    const std::vector<std::string> ordine = {"Generale/OpresteActualizareAutomata",
+                                             "Ordonari/NrCerereAnexa3",
+                                             "Fonturi/FontSize0",
+                                             "Fonturi/FontName0",
+                                             "Fonturi/FontB0",
+                                             "Fonturi/FontI0",
+                                             "Fonturi/FontU0",
+                                             "Afisari/AfisCereri",
+                                             "Fisiere/Anexa3",
+                                             "Fisiere/Anexa4",
+                                             "Fisiere/StatPlata",
+                                             "Generale/Anexa2ExportWord",
+                                             "Generale/StrSat",
+                                             "Generale/AfisSerieStatPlata",
+                                             "Generale/ReteaSetat",
+                                             "Generale/Motiv",
+                                             "Borderou/HeightRowBorderou",
+                                             "Raport/HeightRowRaport",
+                                             "App/AppWord",
+                                             "Generale/DataCerereTiparita",
+                                             "Cereri/Cerere13Pag",
+                                             "Cereri/Ancheta14Pag",
+                                             "Generale/NotificareActe",
+                                             "Cereri/AngajamentPlata",
+                                             "Cereri/CertificarePrimar",
+                                             "Generale/NrCerereInAncheta",
+                                             "Generale/NrCerereTiparita",
+                                             "Generale/ServerCerere",
+                                             "Generale/CuloareVenit",
+                                             "Cale/CaleWord"};
     // A new file takes the sections in the order they are first written.
     std::vector<std::string> dupaSectiune;
-    for (const char* sectiune : {"Generale", "Ordonari", "Fonturi", "Afisari", "Fisiere", "Borderou", "Raport", "App",
-                                 "Cereri", "Cale"})
+    for (const char* sectiune :
+         {"Generale", "Ordonari", "Fonturi", "Afisari", "Fisiere", "Borderou", "Raport", "App", "Cereri", "Cale"})
         for (const auto& c : ordine)
-            if (c.starts_with(std::string(sectiune) + '/'))
-                dupaSectiune.push_back(c);
+            if (c.starts_with(std::string(sectiune) + '/')) dupaSectiune.push_back(c);
     EXPECT_EQ(Chei(), dupaSectiune);
 
     const struct {
@@ -332,10 +355,17 @@ TEST_F(FisierSetari, ScrieOptiuniApoiIncarcaSetari) {
         const char* cheie;
         const char* valoare;
     } inFisier[] = {
-        {"Generale", "OpresteActualizareAutomata", "1"}, {"Fonturi", "FontB0", "255"}, {"Fonturi", "FontI0", "0"},
-        {"Fonturi", "FontU0", "255"}, {"Afisari", "AfisCereri", "0"}, {"Generale", "Motiv", "1"},
-        {"Raport", "HeightRowRaport", "255"}, {"App", "AppWord", "5"}, {"Generale", "DataCerereTiparita", "2"},
-        {"Generale", "CuloareVenit", "197121"}, {"Cale", "CaleWord", ""},
+        {"Generale", "OpresteActualizareAutomata", "1"},
+        {"Fonturi", "FontB0", "255"},
+        {"Fonturi", "FontI0", "0"},
+        {"Fonturi", "FontU0", "255"},
+        {"Afisari", "AfisCereri", "0"},
+        {"Generale", "Motiv", "1"},
+        {"Raport", "HeightRowRaport", "255"},
+        {"App", "AppWord", "5"},
+        {"Generale", "DataCerereTiparita", "2"},
+        {"Generale", "CuloareVenit", "197121"},
+        {"Cale", "CaleWord", ""},
     };
     for (const auto& c : inFisier)
         EXPECT_EQ(Citeste(c.sectiune, c.cheie), c.valoare) << c.cheie;
@@ -380,7 +410,7 @@ TEST(Optiuni, AplicaOptiuniCitesteNumereleTastate) {
         const char* tastat;
         int citit;
     } inaltimi[] = {{"40", 40}, {" 4 0 ", 40}, {"12,5", 12}, {"12.5", 12}, {"abc", 0},
-                    {"", 0},    {"255", 255}, {"256", 36},  {"-3", 36},   {"36.5", 36}};
+                    {"", 0},    {"255", 255},  {"256", 36},  {"-3", 36},   {"36.5", 36}};
     for (const auto& c : inaltimi) {
         ValoriOptiuni v = ValoriDinSetari(Setari{});
         v.HeightRowBorderou = QString::fromLatin1(c.tastat);
@@ -435,8 +465,8 @@ TEST(Optiuni, MostraFontului) {
         bool b, i, u;
         const char* text;
     } cazuri[] = {
-        {false, false, false, "Arial, 12"},    {true, false, false, "Arial, 12, B"},
-        {false, true, false, "Arial, 12, I"},  {false, false, true, "Arial, 12, U"},
+        {false, false, false, "Arial, 12"},       {true, false, false, "Arial, 12, B"},
+        {false, true, false, "Arial, 12, I"},     {false, false, true, "Arial, 12, U"},
         {true, true, true, "Arial, 12, B, I, U"}, {true, false, true, "Arial, 12, B, U"},
     };
     for (const auto& c : cazuri)
@@ -447,9 +477,8 @@ TEST(Optiuni, CuloareaCaNumarWindows) {
     const struct {
         QColor culoare;
         const char* text;
-    } cazuri[] = {{QColor(0, 0, 0), "0"},           {QColor(255, 0, 0), "255"},
-                  {QColor(0, 255, 0), "65280"},     {QColor(0, 0, 255), "16711680"},
-                  {QColor(1, 2, 3), "197121"},      {QColor(255, 255, 255), "16777215"}};
+    } cazuri[] = {{QColor(0, 0, 0), "0"},          {QColor(255, 0, 0), "255"},  {QColor(0, 255, 0), "65280"},
+                  {QColor(0, 0, 255), "16711680"}, {QColor(1, 2, 3), "197121"}, {QColor(255, 255, 255), "16777215"}};
     for (const auto& c : cazuri) {
         EXPECT_EQ(S(CuloareInText(c.culoare)), c.text);
         const std::optional<QColor> inapoi = CuloareDinText(QString::fromLatin1(c.text));

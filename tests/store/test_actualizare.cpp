@@ -14,8 +14,7 @@ class Actualizare : public TestBaza {
 protected:
     RezultatActualizare Ruleaza(QStringList* linii = nullptr) {
         return ActualizareBD(Bd(), Locatie().caleBD, mesaje, [linii](const QString& l) {
-            if (linii)
-                *linii << l;
+            if (linii) *linii << l;
         });
     }
 
@@ -25,18 +24,21 @@ protected:
     void UmpleBazaVeche() {
         BazaDate& db = BazaVeche();
         Tranzactie t(db);
-        db.Executa(QStringLiteral("INSERT INTO Familii (FamilieID, Localitate) VALUES (1, 'Brănești'), (2, 'Brănești')"));
+        db.Executa(
+            QStringLiteral("INSERT INTO Familii (FamilieID, Localitate) VALUES (1, 'Brănești'), (2, 'Brănești')"));
         db.Executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, CNP) VALUES (1, 'Popa', '2850315400123'), "
                                   "(2, 'Popa', '5150601400120'), (3, 'Ene', '1800101400121')"));
-        db.Executa(QStringLiteral(
-            "INSERT INTO Cereri (CerereID, FamilieID, NrCerere, MembruID1, Stare, VenitPermanent, VenitVanzari, VenitAlte) "
-            "VALUES (1, 1, 10, 1, 2, 1200.5, 99, 300.25), (2, 2, 11, 3, 1, NULL, NULL, 80)"));
+        db.Executa(QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, NrCerere, MembruID1, Stare, "
+                                  "VenitPermanent, VenitVanzari, VenitAlte) "
+                                  "VALUES (1, 1, 10, 1, 2, 1200.5, 99, 300.25), (2, 2, 11, 3, 1, NULL, NULL, 80)"));
         db.Executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, CodRudenie, CodOcupatie, VenitAlte) "
                                   "VALUES (1, 1, 1, 4, 10), (1, 2, 3, 8, 0), (2, 3, 1, 2, 0)"));
-        db.Executa(QStringLiteral("INSERT INTO DatePrimarie (Denumire, Tribunal) VALUES ('Primaria Branesti', 'Ilfov')"));
+        db.Executa(
+            QStringLiteral("INSERT INTO DatePrimarie (Denumire, Tribunal) VALUES ('Primaria Branesti', 'Ilfov')"));
         db.Executa(QStringLiteral(
             "INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES "
-            "('RUDENIE', 2, 2, 'SOT/SOTIE', 2), ('RUDENIE', 2, 3, 'FIU/FIICA', 3), ('GOSPODARIE', 26, 2, 'CU ALTII', 2), "
+            "('RUDENIE', 2, 2, 'SOT/SOTIE', 2), ('RUDENIE', 2, 3, 'FIU/FIICA', 3), ('GOSPODARIE', 26, 2, 'CU ALTII', "
+            "2), "
             "('GOSPODARIE', 26, 3, 'DE STERS', 3), ('ISR', 0, 1, '660', 0), ('TIPACT', 30, 1, 'Somaj', 1)"));
         t.Confirma();
     }
@@ -86,7 +88,9 @@ TEST_P(Actualizare, BazaVecheAjungeLaFormaDeAzi) {
     EXPECT_EQ(Continut(30, 1), QStringLiteral("Somaj")) << "a seed never overwrites a row that is there";
     EXPECT_EQ(Continut(30, 9), QStringLiteral("Declaratie notar"));
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM DateGen WHERE Denumire = 'ISR' AND Continut = '660'")), 1);
-    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM DateGen WHERE Denumire = 'PRAGURI_VENIT' AND Continut = '210.2|557.03'")), 1);
+    EXPECT_EQ(Numar(QStringLiteral(
+                  "SELECT COUNT(*) FROM DateGen WHERE Denumire = 'PRAGURI_VENIT' AND Continut = '210.2|557.03'")),
+              1);
 
     // Three scales of 16 rows; the older two closed the day before the next one.
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Barem")), 48);
@@ -99,7 +103,9 @@ TEST_P(Actualizare, BazaVecheAjungeLaFormaDeAzi) {
     EXPECT_EQ(perioade[0], std::make_pair(QDate(2012, 1, 1), QDate(2013, 6, 30)));
     EXPECT_EQ(perioade[1], std::make_pair(QDate(2013, 7, 1), QDate(2014, 10, 31)));
     EXPECT_EQ(perioade[2], std::make_pair(QDate(2014, 11, 1), QDate()));
-    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Barem WHERE Tip = 1 AND NrPers = 3 AND Suma = 1.06 AND Barem = 0.198")), 1);
+    EXPECT_EQ(Numar(QStringLiteral(
+                  "SELECT COUNT(*) FROM Barem WHERE Tip = 1 AND NrPers = 3 AND Suma = 1.06 AND Barem = 0.198")),
+              1);
 
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM ListaVenituri")), 78);
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM ListaBife")), 85);
@@ -153,15 +159,19 @@ TEST_P(Actualizare, AdeverintelePrimescDocumentulCurentOSingurDataSiFaraDateSeSt
         db.Executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (1)"));
         db.Executa(QStringLiteral("INSERT INTO Membrii (MembruID) VALUES (1), (2), (3), (9)"));
         db.Executa(QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, MembruID1) VALUES (1, 1, 1)"));
-        Interogare ins(db, QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataAdeverinta, "
-                                          "DataExpAdev, DataDepunerii, AdvCurenta) VALUES (?, 1, ?, ?, ?, ?, ?, 0)"));
+        Interogare ins(
+            db, QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataAdeverinta, "
+                               "DataExpAdev, DataDepunerii, AdvCurenta) VALUES (?, 1, ?, ?, ?, ?, ?, 0)"));
         struct R {
             int id, membru, tip;
             QDate emis, expira;
         } randuri[] = {
-            {1, 1, 3, QDate(2024, 1, 1), QDate(2024, 6, 30)},  {2, 1, 3, QDate(2024, 7, 1), QDate(2025, 6, 30)},
-            {3, 1, 3, QDate(2023, 1, 1), QDate()},             {4, 1, 5, QDate(2024, 1, 1), QDate(2024, 12, 31)},
-            {5, 2, 3, QDate(2024, 1, 1), QDate(2024, 9, 30)},  {6, 9, 3, QDate(2024, 1, 1), QDate(2024, 9, 30)},
+            {1, 1, 3, QDate(2024, 1, 1), QDate(2024, 6, 30)},
+            {2, 1, 3, QDate(2024, 7, 1), QDate(2025, 6, 30)},
+            {3, 1, 3, QDate(2023, 1, 1), QDate()},
+            {4, 1, 5, QDate(2024, 1, 1), QDate(2024, 12, 31)},
+            {5, 2, 3, QDate(2024, 1, 1), QDate(2024, 9, 30)},
+            {6, 9, 3, QDate(2024, 1, 1), QDate(2024, 9, 30)},
             {7, 3, 3, QDate(), QDate()},
         };
         for (const auto& r : randuri)

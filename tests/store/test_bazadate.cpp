@@ -10,7 +10,9 @@ namespace {
 
 class Baza : public TestBaza {
 protected:
-    void AdaugaMembru(qint64 id) { Interogare(Bd(), QStringLiteral("INSERT INTO Membrii (MembruID) VALUES (?)")).Leaga(id).Executa(); }
+    void AdaugaMembru(qint64 id) {
+        Interogare(Bd(), QStringLiteral("INSERT INTO Membrii (MembruID) VALUES (?)")).Leaga(id).Executa();
+    }
 };
 
 TEST_P(Baza, TranzactieNeconfirmataNuLasaNimic) {
@@ -59,12 +61,18 @@ TEST_P(Baza, StergereaCereriiStergeRandurileDependente) {
         for (int id : {1, 2}) {
             Interogare(db, QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (?)")).Leaga(id).Executa();
             Interogare(db, QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, MembruID1) VALUES (?, ?, ?)"))
-                .Leaga(id).Leaga(id).Leaga(id * 10).Executa();
+                .Leaga(id)
+                .Leaga(id)
+                .Leaga(id * 10)
+                .Executa();
         }
         for (int m : {10, 11, 20})
             AdaugaMembru(m);
         for (auto [c, m] : {std::pair{1, 10}, {1, 11}, {2, 20}, {2, 11}})
-            Interogare(db, QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID) VALUES (?, ?)")).Leaga(c).Leaga(m).Executa();
+            Interogare(db, QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID) VALUES (?, ?)"))
+                .Leaga(c)
+                .Leaga(m)
+                .Executa();
         for (int c : {1, 2}) {
             for (const char* sql : {"INSERT INTO Venituri (CerereID, CodVenit, Valoare) VALUES (?, 1, 100)",
                                     "INSERT INTO Locuinte (CerereID, Cod, NrCamere) VALUES (?, 1, 2)",
@@ -75,19 +83,21 @@ TEST_P(Baza, StergereaCereriiStergeRandurileDependente) {
                                     "INSERT INTO Anchete (AnchetaID, CerereID) VALUES (?, ?)"}) {
                 Interogare q(db, QString::fromLatin1(sql));
                 q.Leaga(c);
-                if (QString::fromLatin1(sql).contains(QLatin1String("?, ?")))
-                    q.Leaga(c);
+                if (QString::fromLatin1(sql).contains(QLatin1String("?, ?"))) q.Leaga(c);
                 q.Executa();
             }
             Interogare(db, QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID) VALUES (?, ?, 11)"))
-                .Leaga(c).Leaga(c).Executa();
+                .Leaga(c)
+                .Leaga(c)
+                .Executa();
         }
         t.Confirma();
     }
 
     auto ramase = [&](int cerere) {
         qint64 n = 0;
-        for (const char* t : {"Cereri", "CereriMembrii", "Venituri", "Locuinte", "BifeText", "IstoricCereri", "CMIesiti", "Adeverinte"}) {
+        for (const char* t : {"Cereri", "CereriMembrii", "Venituri", "Locuinte", "BifeText", "IstoricCereri",
+                              "CMIesiti", "Adeverinte"}) {
             Interogare q(db, QStringLiteral("SELECT COUNT(*) FROM %1 WHERE CerereID = ?").arg(QString::fromLatin1(t)));
             q.Leaga(cerere).Exista();
             n += q.Intreg(0);
@@ -121,13 +131,13 @@ TEST_P(Baza, VerificaBDSpuneCandBazaNuMaiEste) {
     BazaNoua();
     EXPECT_TRUE(VerificaBD(Bd(), mesaje));
     EXPECT_TRUE(mesaje.mesaje.empty());
-    if (GetParam() != Motor::SQLite)
-        return;
+    if (GetParam() != Motor::SQLite) return;
     const QString fisier = Locatie().FisierSQLite();
     ASSERT_TRUE(QFile::rename(fisier, fisier + QStringLiteral(".mutat")));
     EXPECT_FALSE(VerificaBD(Bd(), mesaje));
     ASSERT_TRUE(QFile::rename(fisier + QStringLiteral(".mutat"), fisier));
-    EXPECT_EQ(mesaje.Texte(), QStringList{QStringLiteral("Baza de date nu a fost gasita. Probabil nu functioneaza reteaua. Verificati!")});
+    EXPECT_EQ(mesaje.Texte(), QStringList{QStringLiteral(
+                                  "Baza de date nu a fost gasita. Probabil nu functioneaza reteaua. Verificati!")});
 }
 
 PE_AMBELE_MOTOARE(Baza);
@@ -139,7 +149,8 @@ TEST(BazaDeschisa, FisierStricatSauLipsaDaMesajClar) {
         BazaDate::Deschide(loc);
         FAIL();
     } catch (const Eroare& e) {
-        EXPECT_EQ(e.text(), QStringLiteral("Baza de date Ferolanta.db nu a fost gasita in locatia %1").arg(QDir::toNativeSeparators(dir.path())));
+        EXPECT_EQ(e.text(), QStringLiteral("Baza de date Ferolanta.db nu a fost gasita in locatia %1")
+                                .arg(QDir::toNativeSeparators(dir.path())));
     }
     QFile f(loc.FisierSQLite());
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
@@ -167,7 +178,8 @@ TEST(BazaDeschisa, ServerPostgreSQLDeNeatinsDaMesajClar) {
         BazaDate::Deschide(loc);
         FAIL();
     } catch (const Eroare& e) {
-        EXPECT_TRUE(e.text().startsWith(QStringLiteral("Nu se poate realiza conexiunea cu serverul PostgreSQL 127.0.0.1:1, baza ferolanta")))
+        EXPECT_TRUE(e.text().startsWith(
+            QStringLiteral("Nu se poate realiza conexiunea cu serverul PostgreSQL 127.0.0.1:1, baza ferolanta")))
             << e.text().toStdString();
     }
     EXPECT_THROW(BazaDate::Deschide(LocatieBD{QDir::tempPath(), QStringLiteral("mysql://x/y")}), Eroare);

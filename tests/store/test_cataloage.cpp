@@ -15,8 +15,7 @@ protected:
     void Scrie(const QString& nume, const QStringList& linii) {
         QFile f(Fisier(nume));
         ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        if (!linii.isEmpty())
-            f.write(linii.join(QLatin1Char('\n')).toUtf8() + '\n');
+        if (!linii.isEmpty()) f.write(linii.join(QLatin1Char('\n')).toUtf8() + '\n');
     }
 
     QStringList Linii(const QString& nume) { return Cataloage::CitesteLinii(QDir(FolderDate()).filePath(nume)); }
@@ -85,7 +84,10 @@ TEST_P(Catalog, FisierScurtSauStricatNuAtingeTabela) {
          QStringLiteral("randul 31")},
         {QStringLiteral("ListaBife"), QStringLiteral("NrBifa"), QStringLiteral("bife.txt"), bifeValoare,
          QStringLiteral("doua sute")},
-        {QStringLiteral("ListaVenituri"), QStringLiteral("CodVenit"), QStringLiteral("venituri.txt"), {},
+        {QStringLiteral("ListaVenituri"),
+         QStringLiteral("CodVenit"),
+         QStringLiteral("venituri.txt"),
+         {},
          QStringLiteral("are doar 0 randuri")},
     };
     for (const auto& c : cazuri) {

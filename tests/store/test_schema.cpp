@@ -10,10 +10,11 @@ namespace {
 // What an outside tool sees of a column: the declared type on SQLite, the data type on PostgreSQL.
 QMap<QString, QString> tipuriDeclarate(BazaDate& db, const QString& tabela) {
     QMap<QString, QString> r;
-    Interogare q(db, db.dialect().EsteSQLite()
-                         ? QStringLiteral("SELECT name, type FROM pragma_table_info(?)")
-                         : QStringLiteral("SELECT column_name AS name, data_type AS type FROM information_schema.columns "
-                                          "WHERE table_schema = current_schema() AND table_name = ?"));
+    Interogare q(db,
+                 db.dialect().EsteSQLite()
+                     ? QStringLiteral("SELECT name, type FROM pragma_table_info(?)")
+                     : QStringLiteral("SELECT column_name AS name, data_type AS type FROM information_schema.columns "
+                                      "WHERE table_schema = current_schema() AND table_name = ?"));
     q.Leaga(tabela.toLower()).Executa();
     while (q.Urmator())
         r.insert(q.Text(QStringLiteral("name")).toLower(), q.Text(QStringLiteral("type")).toLower());
@@ -71,17 +72,25 @@ TEST_P(Schema_, ValorileSeCitescInapoiExact) {
     {
         Tranzactie t(db);
         Interogare(db, QStringLiteral("INSERT INTO Familii (FamilieID, Strada) VALUES (1, ?)"))
-            .Leaga(QStringLiteral("Str. Mihai Viteazu'l")).Executa();
-        Interogare(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume) VALUES (1, ?)")).Leaga(QStringLiteral("Șerban")).Executa();
-        Interogare(db, QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, MembruID1, DataCerere, Cuantum, VenitTotal, Vmg) "
-                                      "VALUES (1, 1, 1, ?, ?, ?, ?)"))
-            .Leaga(QDate(2024, 2, 29)).Leaga(*Bani::DinText(QStringLiteral("1234567.8901")))
-            .Leaga(*Bani::DinText(QStringLiteral("0.0001"))).Leaga(true).Executa();
+            .Leaga(QStringLiteral("Str. Mihai Viteazu'l"))
+            .Executa();
+        Interogare(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume) VALUES (1, ?)"))
+            .Leaga(QStringLiteral("Șerban"))
+            .Executa();
+        Interogare(db, QStringLiteral(
+                           "INSERT INTO Cereri (CerereID, FamilieID, MembruID1, DataCerere, Cuantum, VenitTotal, Vmg) "
+                           "VALUES (1, 1, 1, ?, ?, ?, ?)"))
+            .Leaga(QDate(2024, 2, 29))
+            .Leaga(*Bani::DinText(QStringLiteral("1234567.8901")))
+            .Leaga(*Bani::DinText(QStringLiteral("0.0001")))
+            .Leaga(true)
+            .Executa();
         t.Confirma();
     }
-    Interogare q(db, QStringLiteral("SELECT C.DataCerere, C.Cuantum, C.VenitTotal, C.Vmg, C.DataStare, F.Strada, M.Nume "
-                                    "FROM Cereri C JOIN Familii F ON F.FamilieID = C.FamilieID "
-                                    "JOIN Membrii M ON M.MembruID = C.MembruID1"));
+    Interogare q(db,
+                 QStringLiteral("SELECT C.DataCerere, C.Cuantum, C.VenitTotal, C.Vmg, C.DataStare, F.Strada, M.Nume "
+                                "FROM Cereri C JOIN Familii F ON F.FamilieID = C.FamilieID "
+                                "JOIN Membrii M ON M.MembruID = C.MembruID1"));
     ASSERT_TRUE(q.Exista());
     EXPECT_EQ(q.Data(QStringLiteral("DataCerere")), QDate(2024, 2, 29));
     EXPECT_EQ(q.Suma(QStringLiteral("Cuantum")).Text(), QStringLiteral("1234567.8901"));
@@ -93,7 +102,9 @@ TEST_P(Schema_, ValorileSeCitescInapoiExact) {
 
     if (db.dialect().EsteSQLite()) {
         // What the sqlite3 shell shows: an ISO date and a plain decimal.
-        Interogare brut(db, QStringLiteral("SELECT typeof(DataCerere) AS t, DataCerere AS d, CAST(Cuantum AS TEXT) AS c FROM Cereri"));
+        Interogare brut(
+            db,
+            QStringLiteral("SELECT typeof(DataCerere) AS t, DataCerere AS d, CAST(Cuantum AS TEXT) AS c FROM Cereri"));
         ASSERT_TRUE(brut.Exista());
         EXPECT_EQ(brut.Text(QStringLiteral("t")), QStringLiteral("text"));
         EXPECT_EQ(brut.Text(QStringLiteral("d")), QStringLiteral("2024-02-29"));

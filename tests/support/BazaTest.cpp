@@ -11,15 +11,16 @@ QString NumeMotor(const ::testing::TestParamInfo<Motor>& info) {
     return info.param == Motor::SQLite ? QStringLiteral("SQLite") : QStringLiteral("PostgreSQL");
 }
 
-QString TestBaza::FolderDate() { return QStringLiteral(FEROLANTA_SURSA "/data"); }
+QString TestBaza::FolderDate() {
+    return QStringLiteral(FEROLANTA_SURSA "/data");
+}
 
 void TestBaza::SetUp() {
     ASSERT_TRUE(dir_.isValid());
     loc_.caleBD = dir_.path();
     if (GetParam() == Motor::PostgreSQL) {
         const QString url = qEnvironmentVariable("FEROLANTA_TEST_PG");
-        if (url.isEmpty())
-            GTEST_SKIP() << "FEROLANTA_TEST_PG nu este setata: ramura PostgreSQL sarita";
+        if (url.isEmpty()) GTEST_SKIP() << "FEROLANTA_TEST_PG nu este setata: ramura PostgreSQL sarita";
         schema_ = QStringLiteral("t_%1").arg(QRandomGenerator::global()->generate64(), 0, 16);
         QUrl u(url);
         QUrlQuery q(u);

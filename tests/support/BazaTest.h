@@ -39,7 +39,9 @@ private:
 };
 
 // Readable QString values in failure messages.
-inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
+inline void PrintTo(const QString& s, std::ostream* os) {
+    *os << '"' << s.toStdString() << '"';
+}
 
 QString NumeMotor(const ::testing::TestParamInfo<Motor>& info);
 

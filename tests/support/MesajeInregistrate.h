@@ -19,8 +19,7 @@ public:
     void Critic(const QString& text, const QString& = {}) override { mesaje.push_back({Fel::Critic, text}); }
     bool Intrebare(const QString& text, const QString& = {}, bool = true) override {
         mesaje.push_back({Fel::Intrebare, text});
-        if (raspunsuri.empty())
-            return true;
+        if (raspunsuri.empty()) return true;
         const bool r = raspunsuri.front();
         raspunsuri.pop_front();
         return r;
@@ -39,8 +38,7 @@ public:
     QStringList Texte(Fel fel) const {
         QStringList t;
         for (const auto& m : mesaje)
-            if (m.fel == fel)
-                t << m.text;
+            if (m.fel == fel) t << m.text;
         return t;
     }
 

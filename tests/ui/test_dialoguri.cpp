@@ -34,8 +34,7 @@ class Dialoguri : public TestBaza {
 protected:
     void SetUp() override {
         TestBaza::SetUp();
-        if (IsSkipped())
-            return;
+        if (IsSkipped()) return;
         BazaNoua();
         setari.CaleBD = Locatie().caleBD;
         program = std::make_unique<Program>(Program{Bd(), setari, dirProgram.path()});
@@ -56,8 +55,9 @@ TEST_P(Dialoguri, LunaDeLucruTrebuieSaFieInCalendar) {
         const char* an;
         const char* mesaj;
     } refuzuri[] = {
-        {"13", "abc", "Luna incorecta!"}, {"0", "2024", "Luna incorecta!"}, {"5", "2007", "An incorect!"},
-        {"5", "2501", "An incorect!"},    {"5", "2012", "An sau Luna incorecta!"}, {"1", "2100", "An sau Luna incorecta!"},
+        {"13", "abc", "Luna incorecta!"},        {"0", "2024", "Luna incorecta!"},
+        {"5", "2007", "An incorect!"},           {"5", "2501", "An incorect!"},
+        {"5", "2012", "An sau Luna incorecta!"}, {"1", "2100", "An sau Luna incorecta!"},
     };
     for (const auto& r : refuzuri) {
         mesaje.mesaje.clear();
@@ -73,8 +73,11 @@ TEST_P(Dialoguri, LunaDeLucruTrebuieSaFieInCalendar) {
     EXPECT_EQ(f.result(), QDialog::Accepted);
     EXPECT_EQ(setari.LunaSetata, 12);
     EXPECT_EQ(setari.AnSetat, 2013);
-    EXPECT_EQ(ServiciuFisiere::CitesteIni(program->FisierSetari(), QStringLiteral("Setari"), QStringLiteral("LunaSetata")), QStringLiteral("12"));
-    EXPECT_EQ(ServiciuFisiere::CitesteIni(program->FisierSetari(), QStringLiteral("Setari"), QStringLiteral("AnSetat")), QStringLiteral("2013"));
+    EXPECT_EQ(
+        ServiciuFisiere::CitesteIni(program->FisierSetari(), QStringLiteral("Setari"), QStringLiteral("LunaSetata")),
+        QStringLiteral("12"));
+    EXPECT_EQ(ServiciuFisiere::CitesteIni(program->FisierSetari(), QStringLiteral("Setari"), QStringLiteral("AnSetat")),
+              QStringLiteral("2013"));
 }
 
 TEST_P(Dialoguri, ParolaSeScrieLangaBazaDeDate) {
@@ -120,7 +123,8 @@ TEST(Locatie, OLocatieNouaSeScrieSiProgramulSeInchide) {
     frmGeneral f(ini, QStringLiteral("/vechi"), m);
     f.Txt->setText(QStringLiteral("/srv/date primarie"));
     f.cmdOK_Click();
-    EXPECT_EQ(ServiciuFisiere::CitesteIni(ini, QStringLiteral("Generale"), QStringLiteral("CaleBD")), QStringLiteral("/srv/date primarie"));
+    EXPECT_EQ(ServiciuFisiere::CitesteIni(ini, QStringLiteral("Generale"), QStringLiteral("CaleBD")),
+              QStringLiteral("/srv/date primarie"));
     const QString inchide = QStringLiteral("Programul se va inchide. Dati clic pe OK si reporniti-l din nou");
     EXPECT_EQ(m.Texte(), (QStringList{inchide, inchide}));
 }

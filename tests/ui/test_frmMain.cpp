@@ -24,8 +24,7 @@ class FereastraPrincipala : public TestBaza {
 protected:
     void SetUp() override {
         TestBaza::SetUp();
-        if (IsSkipped())
-            return;
+        if (IsSkipped()) return;
         BazaNoua();
         setari.LunaSetata = 11;
         setari.AnSetat = 2026;
@@ -39,8 +38,23 @@ protected:
     }
 
     void TreiCereri() {
-        AdaugaCerereTest(Bd(), {1, 0, 10, 2, 1, {}, {}, {{1, "Popescu", "Ion", "1800101400123", 1}, {2, "Popescu", "Ana", "6150101400127", 3}}});
-        AdaugaCerereTest(Bd(), {2, 1, 9, 3, 2, {}, {}, {{3, "Popa", "Maria", "2850315400128", 1}, {2, "Popescu", "Ana", "6150101400127", 3}}});
+        AdaugaCerereTest(Bd(),
+                         {1,
+                          0,
+                          10,
+                          2,
+                          1,
+                          {},
+                          {},
+                          {{1, "Popescu", "Ion", "1800101400123", 1}, {2, "Popescu", "Ana", "6150101400127", 3}}});
+        AdaugaCerereTest(Bd(), {2,
+                                1,
+                                9,
+                                3,
+                                2,
+                                {},
+                                {},
+                                {{3, "Popa", "Maria", "2850315400128", 1}, {2, "Popescu", "Ana", "6150101400127", 3}}});
         AdaugaCerereTest(Bd(), {3, 0, 100, 2, 1, {}, {}, {{5, "Anghel", "Vasile", "1790202400129", 1}}});
     }
 
@@ -64,7 +78,8 @@ TEST_P(FereastraPrincipala, BazaGoala) {
     mesaje.mesaje.clear();
     f->cmdDelete_Click();
     QTest::keyClick(f->lvwCereri, Qt::Key_Delete);
-    EXPECT_EQ(mesaje.Texte(), (QStringList{QStringLiteral("Selectati o cerere"), QStringLiteral("Selectati o cerere")}));
+    EXPECT_EQ(mesaje.Texte(),
+              (QStringList{QStringLiteral("Selectati o cerere"), QStringLiteral("Selectati o cerere")}));
     EXPECT_EQ(f->sbrMain[2]->text(), QStringLiteral(" LUNA ACTIVA: Noiembrie 2026 "));
 }
 
@@ -106,10 +121,12 @@ TEST_P(FereastraPrincipala, SortareaPeNrCerereEsteNumerica) {
     TreiCereri();
     auto f = Deschide();
     f->ColumnClick(ModelCereri::Solicitant);
-    EXPECT_EQ(Coloana(*f, ModelCereri::Solicitant),
-              (QStringList{QStringLiteral("Anghel Vasile"), QStringLiteral("Popa Maria"), QStringLiteral("Popescu Ion")}));
+    EXPECT_EQ(
+        Coloana(*f, ModelCereri::Solicitant),
+        (QStringList{QStringLiteral("Anghel Vasile"), QStringLiteral("Popa Maria"), QStringLiteral("Popescu Ion")}));
     f->lvwCereri->horizontalHeader()->sectionClicked(ModelCereri::NrCerere);
-    EXPECT_EQ(Coloana(*f, ModelCereri::NrCerere), (QStringList{QStringLiteral("9  "), QStringLiteral("10  "), QStringLiteral("100  ")}));
+    EXPECT_EQ(Coloana(*f, ModelCereri::NrCerere),
+              (QStringList{QStringLiteral("9  "), QStringLiteral("10  "), QStringLiteral("100  ")}));
     f->ColumnClick(ModelCereri::CNP);
     EXPECT_EQ(Coloana(*f, ModelCereri::CNP).first(), QStringLiteral("1790202400129"));
 }
@@ -130,7 +147,8 @@ TEST_P(FereastraPrincipala, StergereaCuConfirmare) {
     f->SelecteazaRand(1); // request 2, whose family and child are shared with request 1
     mesaje.raspunsuri = {false};
     f->cmdDelete_Click();
-    EXPECT_EQ(mesaje.Texte(MesajeInregistrate::Fel::Intrebare), QStringList{QStringLiteral("Sigur doriti sa stergeti cererea 9   ?")});
+    EXPECT_EQ(mesaje.Texte(MesajeInregistrate::Fel::Intrebare),
+              QStringList{QStringLiteral("Sigur doriti sa stergeti cererea 9   ?")});
     EXPECT_EQ(f->model()->rowCount(), 3) << "No keeps everything";
 
     mesaje.raspunsuri = {true};
@@ -153,16 +171,34 @@ TEST_P(FereastraPrincipala, StergereaCuConfirmare) {
 TEST_P(FereastraPrincipala, MeniurileAuToateIntrarile) {
     auto f = Deschide();
     const std::pair<const char*, const char*> intrari[] = {
-        {"mnuDatePrimarie", "Datele primariei..."}, {"mnuBarem", "Nivel venituri..."}, {"mnuJudete", "Judete..."},
-        {"mnuSate", "Sate/strazi..."}, {"mnuMotive", "Motive..."}, {"mnuSetLunaCurenta", "Setare luna curenta..."},
-        {"mnuISR", "Valoare ISR"}, {"mnuGenAnNou", "Generare An Nou..."}, {"mnuExit", "Iesire"},
-        {"mnuCerereGoala", "Listare Cerere Goala ..."}, {"mnucerereMod", "Listare Cerere modificare Goala"},
-        {"mnuAnchetaGoala", "Listare Ancheta Goala ..."}, {"mnuCerereSelectata", "Listare Cerere Selectata ..."},
-        {"mnuAdev", "Adeverinte scolarizare..."}, {"mnuMembrii", "Membrii..."}, {"mnuToateDisp", "Generare dispozitii ..."},
-        {"mnuAnexa2", "Tiparire toate dispozitiile ..."}, {"mnuFisa", "Fisa de calcul ..."}, {"mnuBorderou", "Borderou..."},
-        {"mnuRap", "Rapoarte ..."}, {"mnuRap2", "Rapoarte2 ..."}, {"mnuPassword", "Parola..."},
-        {"mnuMentenanta", "Mentenanta..."}, {"mnuOptiuni", "Optiuni..."}, {"mnuContinut", "Continut"}, {"mnuIndex", "Index"},
-        {"mnuAbout", "Despre program ..."}, {"mnuExit2", "Iesire"},
+        {"mnuDatePrimarie", "Datele primariei..."},
+        {"mnuBarem", "Nivel venituri..."},
+        {"mnuJudete", "Judete..."},
+        {"mnuSate", "Sate/strazi..."},
+        {"mnuMotive", "Motive..."},
+        {"mnuSetLunaCurenta", "Setare luna curenta..."},
+        {"mnuISR", "Valoare ISR"},
+        {"mnuGenAnNou", "Generare An Nou..."},
+        {"mnuExit", "Iesire"},
+        {"mnuCerereGoala", "Listare Cerere Goala ..."},
+        {"mnucerereMod", "Listare Cerere modificare Goala"},
+        {"mnuAnchetaGoala", "Listare Ancheta Goala ..."},
+        {"mnuCerereSelectata", "Listare Cerere Selectata ..."},
+        {"mnuAdev", "Adeverinte scolarizare..."},
+        {"mnuMembrii", "Membrii..."},
+        {"mnuToateDisp", "Generare dispozitii ..."},
+        {"mnuAnexa2", "Tiparire toate dispozitiile ..."},
+        {"mnuFisa", "Fisa de calcul ..."},
+        {"mnuBorderou", "Borderou..."},
+        {"mnuRap", "Rapoarte ..."},
+        {"mnuRap2", "Rapoarte2 ..."},
+        {"mnuPassword", "Parola..."},
+        {"mnuMentenanta", "Mentenanta..."},
+        {"mnuOptiuni", "Optiuni..."},
+        {"mnuContinut", "Continut"},
+        {"mnuIndex", "Index"},
+        {"mnuAbout", "Despre program ..."},
+        {"mnuExit2", "Iesire"},
     };
     for (const auto& [nume, text] : intrari) {
         auto* a = f->findChild<QAction*>(QString::fromLatin1(nume));
@@ -193,13 +229,14 @@ TEST_P(FereastraPrincipala, SeDeseneazaCuOMieDeCereri) {
         }
     EXPECT_TRUE(rosu);
     const QString capturi = qEnvironmentVariable("FEROLANTA_CAPTURI");
-    if (!capturi.isEmpty())
-        imagine.save(QStringLiteral("%1/frmMain_%2.png").arg(capturi, Bd().dialect().NumeEngine()));
+    if (!capturi.isEmpty()) imagine.save(QStringLiteral("%1/frmMain_%2.png").arg(capturi, Bd().dialect().NumeEngine()));
 }
 
 TEST_P(FereastraPrincipala, DispozitiileCereriiSelectateSiStergerea) {
     TreiCereri();
-    Interogare ins(Bd(), QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, Actiune) VALUES (?, ?, ?, ?, ?)"));
+    Interogare ins(
+        Bd(), QStringLiteral(
+                  "INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, Actiune) VALUES (?, ?, ?, ?, ?)"));
     ins.Leaga(1).Leaga(1).Leaga(7).Leaga(QDate(2024, 4, 1)).Leaga(1).Executa();
     ins.Leaga(2).Leaga(1).Leaga(8).Leaga(QDate(2024, 6, 1)).Leaga(2).Executa();
     auto f = Deschide();
@@ -209,7 +246,8 @@ TEST_P(FereastraPrincipala, DispozitiileCereriiSelectateSiStergerea) {
 
     mesaje.raspunsuri = {true};
     f->cmdDelDisp_Click();
-    EXPECT_EQ(mesaje.Texte(MesajeInregistrate::Fel::Intrebare), QStringList{QStringLiteral("Sigur doriti sa stergeti dispozitia 8 ?")});
+    EXPECT_EQ(mesaje.Texte(MesajeInregistrate::Fel::Intrebare),
+              QStringList{QStringLiteral("Sigur doriti sa stergeti dispozitia 8 ?")});
     EXPECT_EQ(f->lvwDispozitii->topLevelItemCount(), 1);
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii")), 1);
 
@@ -224,9 +262,11 @@ TEST_P(FereastraPrincipala, DispozitiileCereriiSelectateSiStergerea) {
 
 TEST_P(FereastraPrincipala, NotificareaApareDoarCandEsteCerutaSiSuntActe) {
     TreiCereri();
-    Interogare(Bd(), QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataExpAdev, AdvCurenta) "
-                                    "VALUES (1, 1, 1, 3, ?, 1)"))
-        .Leaga(QDate(Ceas::Azi().year(), Ceas::Azi().month(), 1)).Executa();
+    Interogare(Bd(), QStringLiteral(
+                         "INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataExpAdev, AdvCurenta) "
+                         "VALUES (1, 1, 1, 3, ?, 1)"))
+        .Leaga(QDate(Ceas::Azi().year(), Ceas::Azi().month(), 1))
+        .Executa();
     setari.NotificareActe = false;
     EXPECT_FALSE(Deschide()->picNotific->isVisible());
     setari.NotificareActe = true;

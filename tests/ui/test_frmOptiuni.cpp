@@ -17,7 +17,9 @@
 
 namespace {
 
-std::string S(const QString& q) { return q.toStdString(); }
+std::string S(const QString& q) {
+    return q.toStdString();
+}
 
 class DialogOptiuni : public ::testing::Test {
 protected:
@@ -59,12 +61,37 @@ TEST_F(DialogOptiuni, ControaleleArataSetarile) {
     Setari s = Pornire();
     frmOptiuni f(s, Ini(), m_);
     EXPECT_EQ(S(f.windowTitle()), "Optiuni");
-    for (const char* nume :
-         {"cboNrCerereAnexa3", "cboNrCerere", "cboAppWord", "cboDataCerere", "chkAfisCereri", "txtAnexa3", "txtAnexa4",
-          "txtStatPlata", "chkAnexa2ExportWord", "txtStrSat", "chkSerieStatPlata", "chkReteaSetat", "chkMotiv",
-          "txtHeightRowBorderou", "txtHeightRowRaport", "chkCerere13Pag", "chkAncheta14Pag", "chkNotifActe",
-          "chkAngPlata", "chkCertificare", "chkNrCerereInAncheta", "chkNrCerere", "txtServerCerere", "chk_update_off",
-          "lblFont", "cmdFont", "cmdCuloare", "lblFundal", "cmdDelColor", "cmdOK", "cmdCancel"})
+    for (const char* nume : {"cboNrCerereAnexa3",
+                             "cboNrCerere",
+                             "cboAppWord",
+                             "cboDataCerere",
+                             "chkAfisCereri",
+                             "txtAnexa3",
+                             "txtAnexa4",
+                             "txtStatPlata",
+                             "chkAnexa2ExportWord",
+                             "txtStrSat",
+                             "chkSerieStatPlata",
+                             "chkReteaSetat",
+                             "chkMotiv",
+                             "txtHeightRowBorderou",
+                             "txtHeightRowRaport",
+                             "chkCerere13Pag",
+                             "chkAncheta14Pag",
+                             "chkNotifActe",
+                             "chkAngPlata",
+                             "chkCertificare",
+                             "chkNrCerereInAncheta",
+                             "chkNrCerere",
+                             "txtServerCerere",
+                             "chk_update_off",
+                             "lblFont",
+                             "cmdFont",
+                             "cmdCuloare",
+                             "lblFundal",
+                             "cmdDelColor",
+                             "cmdOK",
+                             "cmdCancel"})
         Gaseste<QWidget>(f, nume);
 
     EXPECT_EQ(S(Gaseste<QComboBox>(f, "cboNrCerereAnexa3")->currentText()), "NrDispozitie");
