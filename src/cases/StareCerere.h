@@ -17,6 +17,8 @@ struct AdeverintaMembru {
     QDate DataDepunerii;
     QDate DataExpAdev;
     int AdvCurenta = 0;
+
+    friend bool operator==(const AdeverintaMembru&, const AdeverintaMembru&) = default;
 };
 
 // One person of the open request, with what belongs to that request.
@@ -60,11 +62,15 @@ struct MembruCerere {
 
     // Kinship 3 and 6 to 10 are the children.
     bool EsteCopil() const { return RudenieID == 3 || (RudenieID >= 6 && RudenieID <= 10); }
+
+    friend bool operator==(const MembruCerere&, const MembruCerere&) = default;
 };
 
 struct LocuintaSel {
     int NrCamere = 0; // the 16-bit value of the mark
     bool Bifat = false;
+
+    friend bool operator==(const LocuintaSel&, const LocuintaSel&) = default;
 };
 
 // Everything of a request that lives in memory while its editor is open. The editor owns one
@@ -82,4 +88,6 @@ struct StareCerere {
     bool Polita = false, AcoperaRiscuri = false;
     QString SocietatePolita, NrPolita;
     QDate DataStartPolita, DataStopPolita;
+
+    friend bool operator==(const StareCerere&, const StareCerere&) = default;
 };

@@ -1,8 +1,13 @@
 #include "operations/ComenziCli.h"
 
+#include "cases/CalculCuantum.h"
+#include "cases/DateCerere.h"
+#include "shell/Ceas.h"
 #include "shell/Eroare.h"
 #include "shell/Foldere.h"
 #include "shell/Mesaje.h"
+#include "shell/Setari.h"
+#include "shell/Val.h"
 #include "store/ActualizareBD.h"
 #include "store/BazaDate.h"
 #include "store/DateLivrate.h"
@@ -11,11 +16,14 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
+#include <limits>
 
 namespace {
 
 const QString Utilizare = QStringLiteral(
-    "utilizare: ferolanta-cli {init|upgrade|demo --cereri N [--seed S]} [--dir DIR] [--db postgresql://...]");
+    "utilizare: ferolanta-cli {init|upgrade|demo --cereri N [--seed S]|cuantum ID [--luna L --an A]} [--dir DIR] "
+    "[--db postgresql://...]");
 
 struct EroareArgumente {
     QString text;
@@ -93,6 +101,50 @@ int demo(const QCommandLineParser& p, QTextStream& out, QTextStream&) {
     return 0;
 }
 
+qint64 numarIntre(const QString& text, qint64 minim, qint64 maxim, const QString& ce) {
+    bool ok = false;
+    const qint64 v = text.toLongLong(&ok);
+    if (!ok || v < minim || v > maxim)
+        throw EroareArgumente{QStringLiteral("%1 cere un numar intreg intre %2 si %3").arg(ce).arg(minim).arg(maxim)};
+    return v;
+}
+
+// The amount of one stored request, read as the request editor reads it, in a working month:
+// the one given, else the settings' month, else the present month.
+int cuantum(const QCommandLineParser& p, const QString& idText, QTextStream& out, QTextStream& err) {
+    const qint64 id = numarIntre(idText, 1, std::numeric_limits<qint64>::max(), QStringLiteral("ID-ul cererii"));
+    const bool areLuna = p.isSet(QStringLiteral("luna")), areAn = p.isSet(QStringLiteral("an"));
+    if (areLuna != areAn) throw EroareArgumente{QStringLiteral("--luna si --an se dau impreuna")};
+    const LocatieBD loc = locatie(p);
+    int luna = 0, an = 0;
+    if (areLuna) {
+        luna = int(numarIntre(p.value(QStringLiteral("luna")), 1, 12, QStringLiteral("--luna")));
+        an = int(numarIntre(p.value(QStringLiteral("an")), 1900, 9999, QStringLiteral("--an")));
+    } else if (const QString ini = QDir(loc.caleBD).filePath(Foldere::FisierSetari); QFile::exists(ini)) {
+        const Setari s = IncarcaSetari(ini);
+        luna = s.LunaSetata;
+        an = s.AnSetat;
+    } else {
+        const QDate azi = Ceas::Azi();
+        luna = azi.month();
+        an = azi.year();
+    }
+
+    MesajeFlux m(err, err);
+    auto db = BazaDate::Deschide(loc);
+    const CerereIncarcata c = IncarcaCerere(*db, id, luna, an, m);
+    if (!c.Gasita) {
+        err << QStringLiteral("Cererea cu ID-ul %1 nu exista in baza de date.").arg(id) << Qt::endl;
+        return 1;
+    }
+    const IntrareCuantum intrare{c.Stare, int(c.Date.cboCerere[3].id), c.Date.dtpData[1], c.Date.txtCerere[13], luna, an};
+    const RezultatCuantum r = CalculCuantum(intrare, IncarcaParametri(*db), m);
+    // With no child counted the editor's box keeps the number it showed.
+    const int nrCopii = r.NrCopii ? *r.NrCopii : int(Val(c.Date.txtCerere[16]));
+    out << "NrCopii=" << nrCopii << " Cuantum=" << r.Cuantum.Text() << Qt::endl;
+    return 0;
+}
+
 } // namespace
 
 int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err) {
@@ -101,22 +153,33 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
     p.addOption({QStringLiteral("db"), QStringLiteral("conexiune PostgreSQL"), QStringLiteral("URL")});
     p.addOption({QStringLiteral("cereri"), QStringLiteral("numar de cereri"), QStringLiteral("N")});
     p.addOption({QStringLiteral("seed"), QStringLiteral("samanta"), QStringLiteral("S")});
-    p.addPositionalArgument(QStringLiteral("comanda"), QStringLiteral("init, upgrade, demo"));
+    p.addOption({QStringLiteral("luna"), QStringLiteral("luna de lucru"), QStringLiteral("L")});
+    p.addOption({QStringLiteral("an"), QStringLiteral("anul de lucru"), QStringLiteral("A")});
+    p.addPositionalArgument(QStringLiteral("comanda"), QStringLiteral("init, upgrade, demo, cuantum"));
     try {
         if (!p.parse(argumente))
             throw EroareArgumente{p.errorText()};
         const QStringList poz = p.positionalArguments();
-        if (poz.size() != 1)
-            throw EroareArgumente{poz.isEmpty() ? QStringLiteral("lipseste comanda") : QStringLiteral("prea multe argumente")};
+        if (poz.isEmpty())
+            throw EroareArgumente{QStringLiteral("lipseste comanda")};
         const QString comanda = poz.first();
+        const bool cuCerere = comanda == QLatin1String("cuantum");
+        if (cuCerere && poz.size() == 1)
+            throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
+        if (poz.size() != (cuCerere ? 2 : 1))
+            throw EroareArgumente{QStringLiteral("prea multe argumente")};
         if (comanda != QLatin1String("demo") && (p.isSet(QStringLiteral("cereri")) || p.isSet(QStringLiteral("seed"))))
             throw EroareArgumente{QStringLiteral("--cereri si --seed sunt doar pentru demo")};
+        if (!cuCerere && (p.isSet(QStringLiteral("luna")) || p.isSet(QStringLiteral("an"))))
+            throw EroareArgumente{QStringLiteral("--luna si --an sunt doar pentru cuantum")};
         if (comanda == QLatin1String("init"))
             return init(p, out, err);
         if (comanda == QLatin1String("upgrade"))
             return upgrade(p, out, err);
         if (comanda == QLatin1String("demo"))
             return demo(p, out, err);
+        if (cuCerere)
+            return cuantum(p, poz[1], out, err);
         throw EroareArgumente{QStringLiteral("comanda necunoscuta: %1").arg(comanda)};
     } catch (const EroareArgumente& e) {
         err << e.text << ". " << Utilizare << Qt::endl;

@@ -1,0 +1,594 @@
+#include "cases/SalvareCerere.h"
+
+#include "cases/CalculCuantum.h"
+#include "shell/BlocareFisier.h"
+#include "shell/Eroare.h"
+#include "shell/Functii.h"
+#include "shell/Mesaje.h"
+#include "shell/Pornire.h"
+#include "shell/Setari.h"
+#include "shell/Val.h"
+#include "store/BazaDate.h"
+#include "store/Schema.h"
+
+#include <QDir>
+#include <QSet>
+#include <cmath>
+#include <limits>
+#include <map>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace {
+
+using Randuri = std::vector<std::pair<const char*, QVariant>>;
+
+QString Semne(qsizetype n) {
+    QStringList s;
+    for (qsizetype i = 0; i < n; ++i)
+        s << QStringLiteral("?");
+    return s.join(QStringLiteral(", "));
+}
+
+QString SqlInsert(const char* tabela, const Randuri& r) {
+    QStringList campuri;
+    for (const auto& [camp, valoare] : r)
+        campuri << QLatin1String(camp);
+    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+        .arg(QLatin1String(tabela), campuri.join(QStringLiteral(", ")), Semne(campuri.size()));
+}
+
+QString SqlUpdate(const char* tabela, const Randuri& r, const char* cheie) {
+    QStringList campuri;
+    for (const auto& [camp, valoare] : r)
+        campuri << QLatin1String(camp) + QStringLiteral(" = ?");
+    return QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?")
+        .arg(QLatin1String(tabela), campuri.join(QStringLiteral(", ")), QLatin1String(cheie));
+}
+
+void Leaga(Interogare& q, const Randuri& r) {
+    for (const auto& [camp, valoare] : r)
+        q.Leaga(valoare);
+}
+
+// Rows of one table, built by the same code and so with the same fields: one statement for all.
+void ScrieToate(BazaDate& db, const char* tabela, const std::vector<Randuri>& randuri) {
+    if (randuri.empty()) return;
+    Interogare q(db, SqlInsert(tabela, randuri.front()));
+    for (const Randuri& r : randuri) {
+        Leaga(q, r);
+        q.Executa();
+    }
+}
+
+// A text for a field: NULL when empty, refused when longer than the field, so that both
+// engines take or refuse the same values.
+QVariant Text(const char* tabela, const char* camp, const QString& v) {
+    if (v.isEmpty()) return {};
+    const CampSchema* c = Schema::Camp(QLatin1String(tabela), QLatin1String(camp));
+    if (c && c->tip == TipCamp::Text && c->marime > 0 && v.size() > c->marime)
+        throw Eroare(QStringLiteral("Textul \"%1\" are %2 caractere, iar campul %3 din %4 primeste cel mult %5.")
+                         .arg(v)
+                         .arg(v.size())
+                         .arg(QLatin1String(camp), QLatin1String(tabela))
+                         .arg(c->marime));
+    return v;
+}
+QVariant Data(const QDate& d) { return d.isValid() ? QVariant(d) : QVariant(); }
+QVariant Cheie(qint64 id) { return id > 0 ? QVariant(id) : QVariant(); }
+
+// A whole number typed in a box, as the field takes it: the leading number, rounded half to even.
+qint64 Numar(const QString& text, qint64 maxim, const QString& eticheta) {
+    const double v = std::nearbyint(Val(text));
+    if (!(std::fabs(v) <= double(maxim)))
+        throw Eroare(QStringLiteral("%1 \"%2\" nu este un numar valid.").arg(eticheta, text.trimmed()));
+    return qint64(v);
+}
+
+Bani Suma(const QString& text) { return text.trimmed().isEmpty() ? Bani() : SumaText(text); }
+
+QString Cifra(bool b) { return b ? QStringLiteral("1") : QStringLiteral("0"); }
+
+// The names of one reference list that the case file uses and the list lacks are added, each
+// with the next key; the comparison ignores case, as the old LIKE did.
+void ExtindeLista(BazaDate& db, const char* tabela, const char* cheie, bool cuLocalitate, const QStringList& nume) {
+    QStringList noi;
+    for (const QString& n : nume)
+        if (!n.trimmed().isEmpty()) noi << n.trimmed();
+    if (noi.isEmpty()) return;
+    QSet<QString> cunoscute;
+    {
+        Interogare q(db, QStringLiteral("SELECT Denumire FROM %1").arg(QLatin1String(tabela)));
+        q.Executa();
+        while (q.Urmator())
+            cunoscute.insert(q.Valoare(0).toString().toCaseFolded());
+    }
+    std::optional<Interogare> ins;
+    qint64 urmatoarea = 0;
+    for (const QString& n : noi) {
+        if (cunoscute.contains(n.toCaseFolded())) continue;
+        if (!ins) {
+            urmatoarea = db.CheieNoua(QLatin1String(tabela), QLatin1String(cheie));
+            ins.emplace(db, cuLocalitate ? QStringLiteral("INSERT INTO %1 (%2, Denumire, LocalitateID) VALUES (?, ?, ?)")
+                                               .arg(QLatin1String(tabela), QLatin1String(cheie))
+                                         : QStringLiteral("INSERT INTO %1 (%2, Denumire) VALUES (?, ?)")
+                                               .arg(QLatin1String(tabela), QLatin1String(cheie)));
+        }
+        ins->Leaga(urmatoarea++).Leaga(Text(tabela, "Denumire", n));
+        if (cuLocalitate) ins->Leaga(1);
+        ins->Executa();
+        cunoscute.insert(n.toCaseFolded());
+    }
+}
+
+class Salvare {
+public:
+    Salvare(BazaDate& db, const DateCerere& d, const StareCerere& s, const std::vector<MembruIesit>& iesiti,
+            const OptiuniSalvare& o, Bani cuantum)
+        : db_(db), d_(d), s_(s), iesiti_(iesiti), o_(o), cuantum_(cuantum) {
+        if (s.MatriceMembri)
+            for (const MembruCerere& p : *s.MatriceMembri)
+                membri_.push_back(&p);
+    }
+
+    RezultatSalvare Scrie() {
+        Tranzactie t(db_);
+        ListeReferinta();
+        pas(PasSalvare::ListeReferinta);
+        Familii();
+        pas(PasSalvare::Familii);
+        Membrii();
+        pas(PasSalvare::Membrii);
+        Cereri();
+        pas(PasSalvare::Cereri);
+        CereriMembrii();
+        pas(PasSalvare::CereriMembrii);
+        Adeverinte();
+        pas(PasSalvare::Adeverinte);
+        Venituri();
+        pas(PasSalvare::Venituri);
+        Locuinte();
+        pas(PasSalvare::Locuinte);
+        BifeText();
+        pas(PasSalvare::BifeText);
+        CMIesiti();
+        pas(PasSalvare::CMIesiti);
+        t.Confirma();
+        RezultatSalvare r;
+        r.stare = RezultatSalvare::Stare::Salvata;
+        r.CerereID = cerereID_;
+        r.FamilieID = familieID_;
+        r.Cuantum = cuantum_;
+        return r;
+    }
+
+private:
+    void pas(PasSalvare p) {
+        if (o_.DupaPas) o_.DupaPas(p);
+    }
+    QVariant suma(const Bani& b) const {
+        // As Interogare binds an amount: a double keeps four decimals on SQLite, PostgreSQL takes the text.
+        return db_.dialect().EsteSQLite() ? QVariant(b.ToDouble()) : QVariant(b.Text());
+    }
+    void stergeAleCererii(const char* tabela) {
+        Interogare(db_, QStringLiteral("DELETE FROM %1 WHERE CerereID = ?").arg(QLatin1String(tabela)))
+            .Leaga(cerereID_)
+            .Executa();
+    }
+
+    void ListeReferinta() {
+        QStringList politii, scoli, locuri, motive{d_.cboCerere[5].text};
+        for (const MembruCerere* p : membri_) {
+            politii << p->Eliberat;
+            scoli << p->UScolara;
+            locuri << p->LocScoala;
+        }
+        for (const MembruCerere* p : membri_)
+            motive << p->MotivStare;
+        ExtindeLista(db_, "Strazi", "StradaID", true, {d_.cboCerere[0].text});
+        ExtindeLista(db_, "Politii", "PolitiaID", true, politii);
+        ExtindeLista(db_, "Scoli", "ScoalaID", true, scoli);
+        ExtindeLista(db_, "LocScolare", "LocScolaraID", false, locuri);
+        ExtindeLista(db_, "Motive", "MotivID", false, motive);
+    }
+
+    void Familii() {
+        const auto& t = d_.txtCerere;
+        auto text = [&](const char* camp, int i) { return Text("Familii", camp, t[size_t(i)].trimmed()); };
+        const Randuri r = {
+            {"NrDosar", Numar(t[0], std::numeric_limits<qint32>::max(), QStringLiteral("Numarul dosarului"))},
+            {"NrDosar2", Text("Familii", "NrDosar2", t[29])},
+            {"Judet", text("Judet", 6)},
+            {"Localitate", text("Localitate", 5)},
+            {"Strada", Text("Familii", "Strada", d_.cboCerere[0].text.trimmed())},
+            {"Nr", text("Nr", 2)},
+            {"Bloc", text("Bloc", 17)},
+            {"Sc", text("Sc", 3)},
+            {"Ap", text("Ap", 4)},
+            {"Telefon", text("Telefon", 7)},
+            {"Mobil", text("Mobil", 8)},
+            {"JudetR", text("JudetR", 24)},
+            {"LocalitateR", text("LocalitateR", 23)},
+            {"StradaR", Text("Familii", "StradaR", d_.cboCerere[6].text.trimmed())},
+            {"NrR", text("NrR", 20)},
+            {"BlocR", text("BlocR", 18)},
+            {"ScR", text("ScR", 19)},
+            {"ApR", text("ApR", 21)},
+        };
+        if (d_.Adaug == 1) {
+            // The request takes its family's number, so the number must be free in both tables.
+            familieID_ = std::max(db_.CheieNoua(QStringLiteral("Familii"), QStringLiteral("FamilieID")),
+                                  db_.CheieNoua(QStringLiteral("Cereri"), QStringLiteral("CerereID")));
+            cerereID_ = familieID_;
+            Randuri cuCheie{{"FamilieID", familieID_}};
+            cuCheie.insert(cuCheie.end(), r.begin(), r.end());
+            Interogare q(db_, SqlInsert("Familii", cuCheie));
+            Leaga(q, cuCheie);
+            q.Executa();
+            return;
+        }
+        familieID_ = d_.FamilieID;
+        cerereID_ = d_.CerereID;
+        Interogare q(db_, SqlUpdate("Familii", r, "FamilieID"));
+        Leaga(q, r);
+        q.Leaga(familieID_).Executa();
+        if (q.RanduriAfectate() == 0) throw Eroare(TextRandNegasit);
+    }
+
+    // Each person of the list is the Membrii row of its CNP, or a new one; a person without a
+    // CNP keeps its own row when it has one.
+    void Membrii() {
+        QStringList cnpuri;
+        QList<qint64> iduri;
+        for (const MembruCerere* p : membri_) {
+            if (!p->CNP.isEmpty())
+                cnpuri << p->CNP;
+            else if (p->MembruID > 0)
+                iduri << p->MembruID;
+        }
+        std::map<QString, qint64> dupaCnp;
+        std::unordered_set<qint64> existente;
+        if (!cnpuri.isEmpty() || !iduri.isEmpty()) {
+            QString sql = QStringLiteral("SELECT MembruID, CNP FROM Membrii WHERE ");
+            if (!cnpuri.isEmpty()) sql += QStringLiteral("CNP IN (%1)").arg(Semne(cnpuri.size()));
+            if (!iduri.isEmpty())
+                sql += (cnpuri.isEmpty() ? QString() : QStringLiteral(" OR ")) +
+                       QStringLiteral("MembruID IN (%1)").arg(Semne(iduri.size()));
+            Interogare q(db_, sql + QStringLiteral(" ORDER BY MembruID"));
+            for (const QString& c : cnpuri)
+                q.Leaga(c);
+            for (qint64 id : iduri)
+                q.Leaga(id);
+            q.Executa();
+            while (q.Urmator()) {
+                existente.insert(q.Intreg(0));
+                dupaCnp.try_emplace(q.Valoare(1).toString(), q.Intreg(0));
+            }
+        }
+
+        qint64 urmatoarea = 0;
+        std::unordered_map<qint64, const MembruCerere*> folosite;
+        std::optional<Interogare> actualizare, adaugare;
+        for (const MembruCerere* p : membri_) {
+            qint64 id = 0;
+            if (!p->CNP.isEmpty()) {
+                if (const auto i = dupaCnp.find(p->CNP); i != dupaCnp.end()) id = i->second;
+            } else if (p->MembruID > 0 && existente.contains(p->MembruID)) {
+                id = p->MembruID;
+            }
+            const Randuri r = {
+                {"Nume", Text("Membrii", "Nume", p->Nume)},
+                {"Prenume", Text("Membrii", "Prenume", p->Prenume)},
+                {"CNP", Text("Membrii", "CNP", p->CNP)},
+                {"TipAct", p->TipAct},
+                {"SerieBI", Text("Membrii", "SerieBI", p->SerieBI)},
+                {"NrBI", Text("Membrii", "NrBI", p->NrBI)},
+                {"Eliberat", Text("Membrii", "Eliberat", p->Eliberat)},
+                {"DataElib", Data(p->DataElib)},
+                {"Dizabilitate", p->Dizabilitate},
+            };
+            if (id > 0) {
+                if (!actualizare) actualizare.emplace(db_, SqlUpdate("Membrii", r, "MembruID"));
+                Leaga(*actualizare, r);
+                actualizare->Leaga(id).Executa();
+            } else {
+                if (urmatoarea == 0) urmatoarea = db_.CheieNoua(QStringLiteral("Membrii"), QStringLiteral("MembruID"));
+                id = urmatoarea++;
+                Randuri cuCheie{{"MembruID", id}};
+                cuCheie.insert(cuCheie.end(), r.begin(), r.end());
+                if (!adaugare) adaugare.emplace(db_, SqlInsert("Membrii", cuCheie));
+                Leaga(*adaugare, cuCheie);
+                adaugare->Executa();
+                if (!p->CNP.isEmpty()) dupaCnp.emplace(p->CNP, id);
+            }
+            if (const auto [alta, nou] = folosite.emplace(id, p); !nou)
+                throw Eroare(QStringLiteral("Persoana %1 %2 (CNP %3) apare de doua ori in lista persoanelor cererii. "
+                                            "Eliminati unul dintre randuri si salvati din nou.")
+                                 .arg(p->Nume, p->Prenume, p->CNP));
+            iduri_.push_back(id);
+            if (p->RudenieID == 1) titular_ = id;
+            if (p->RudenieID == 2) partener_ = id;
+        }
+    }
+
+    void Cereri() {
+        const auto& t = d_.txtCerere;
+        auto text = [&](const char* camp, const QString& v) { return Text("Cereri", camp, v); };
+        const Randuri r = {
+            {"NrCerere", Numar(t[1], std::numeric_limits<qint32>::max(), QStringLiteral("Numarul cererii"))},
+            {"NrCerere2", text("NrCerere2", t[30])},
+            {"DataCerere", Data(d_.dtpData[0])},
+            {"MembruID1", Cheie(titular_)},
+            {"MembruID2", Cheie(partener_)},
+            {"Stare", d_.cboCerere[4].id},
+            {"MotivStare", text("MotivStare", d_.cboCerere[5].text.trimmed())},
+            {"DataStare", Data(d_.dtpData[1])},
+            {"VenitTotal", suma(Suma(t[12]))},
+            {"VenitPeMembru", suma(Suma(t[13]))},
+            {"NrMembrii", qint64(membri_.size())},
+            {"NrCopii", Numar(t[16], std::numeric_limits<qint16>::max(), QStringLiteral("Numarul copiilor"))},
+            {"Cuantum", suma(cuantum_)},
+            {"TipCerere", d_.cboCerere[3].id},
+            {"ReprLegal", d_.cboCerere[1].id},
+            {"ModPlata", d_.cboCerere[2].id},
+            {"NumeTitularCont", text("NumeTitularCont", t[9].trimmed())},
+            {"Cont", text("Cont", t[10].trimmed())},
+            {"Banca", text("Banca", t[11].trimmed())},
+            {"Gospodarire", s_.Gospodarire},
+            {"LunaGospod", s_.LunaGospod},
+            {"GospodLoc", s_.GospodLoc},
+            {"NrCamere", s_.NrCamere},
+            {"TipDobandire", s_.TipDobandire},
+            {"RegimJuridLoc", s_.RegimJuridLoc},
+            {"TipIncalzire", s_.TipIncalzire},
+            {"TipLocuinta", s_.TipLocuinta},
+            {"Polita", s_.Polita},
+            {"SocietatePolita", text("SocietatePolita", s_.SocietatePolita)},
+            {"NrPolita", text("NrPolita", s_.NrPolita)},
+            {"DataStartPolita", Data(s_.DataStartPolita)},
+            {"DataStopPolita", Data(s_.DataStopPolita)},
+            {"AcoperaRiscuri", s_.AcoperaRiscuri},
+            {"Bife", text("Bife", s_.Bife)},
+            {"ActeBife", text("ActeBife", s_.ActeBife)},
+            {"LuniRetro", Numar(t[22], 255, QStringLiteral("Numarul lunilor retroactive"))},
+            {"Vmg", d_.chkVmg},
+            {"Inc", d_.chkIncalzire},
+            {"Supl", d_.chkSupl},
+            {"A1Solicita", Cifra(d_.chkVmg_s) + Cifra(d_.chkIncalzire_s) + Cifra(d_.chkSupl_s)},
+        };
+        if (d_.Adaug == 1) {
+            Randuri cuCheie{{"CerereID", cerereID_}, {"FamilieID", familieID_}};
+            cuCheie.insert(cuCheie.end(), r.begin(), r.end());
+            Interogare q(db_, SqlInsert("Cereri", cuCheie));
+            Leaga(q, cuCheie);
+            q.Executa();
+            return;
+        }
+        Interogare q(db_, SqlUpdate("Cereri", r, "CerereID"));
+        Leaga(q, r);
+        q.Leaga(cerereID_).Executa();
+        if (q.RanduriAfectate() == 0) throw Eroare(TextRandNegasit);
+    }
+
+    void CereriMembrii() {
+        stergeAleCererii("CereriMembrii");
+        std::vector<Randuri> randuri;
+        for (size_t i = 0; i < membri_.size(); ++i) {
+            const MembruCerere& p = *membri_[i];
+            auto text = [&](const char* camp, const QString& v) { return Text("CereriMembrii", camp, v); };
+            randuri.push_back({
+                {"CerereID", cerereID_},
+                {"MembruID", iduri_[i]},
+                {"RudenieID", p.RudenieID},
+                {"CetatenieID", p.CetatenieID},
+                {"TaraCetatenie", text("TaraCetatenie", p.TaraCetatenie)},
+                {"ResedintaID", p.ResedintaID},
+                {"LocResedinta", text("LocResedinta", p.LocResedinta)},
+                {"TaraResedinta", text("TaraResedinta", p.TaraResedinta)},
+                {"StCivila", p.StCivila},
+                {"Studii", p.Studii},
+                {"DrAsSociala", p.DrAsSociala},
+                {"OcupatieID", p.OcupatieID},
+                {"LucreazaAfara", p.LucreazaAfara != 0},
+                {"UScolara", text("UScolara", p.UScolara)},
+                {"Repetent", p.Repetent},
+                {"Abandon", p.Abandon},
+                {"Peste20abs", p.Peste20abs},
+                {"Diminuare20", p.Diminuare20},
+                {"Diminuare50", p.Diminuare50},
+                {"Data18Ani", Data(p.Data18Ani)},
+                {"Motiv", text("Motiv", p.Motiv)},
+                {"MotivID", p.MotivID},
+                {"StareMembru", p.StareMembru},
+                {"Suma", suma(p.Suma)},
+                {"TipValuta", p.TipValuta},
+                {"MotivStare", text("MotivStare", p.MotivStare)},
+                {"DataStare", Data(p.DataStare)},
+                {"Perioada1", text("Perioada1", p.Perioada1)},
+                {"TaraAfara1", text("TaraAfara1", p.TaraAfara1)},
+                {"Perioada2", text("Perioada2", p.Perioada2)},
+                {"TaraAfara2", text("TaraAfara2", p.TaraAfara2)},
+                {"LocuitAfara", p.LocuitAfara != 0},
+                {"Perioada11", text("Perioada11", p.Perioada11)},
+                {"TaraAfara11", text("TaraAfara11", p.TaraAfara11)},
+                {"Perioada22", text("Perioada22", p.Perioada22)},
+                {"TaraAfara22", text("TaraAfara22", p.TaraAfara22)},
+                {"Venit", suma(p.Venit)},
+                {"LocScoala", text("LocScoala", p.LocScoala)},
+                {"VMG", p.VMG},
+                {"Alocatie", p.Alocatie},
+                {"Incalzire", p.Incalzire},
+                {"TipIncalzTrecut", p.TipIncalzTrecut},
+            });
+        }
+        ScrieToate(db_, "CereriMembrii", randuri);
+    }
+
+    // The certificates of the listed persons are rewritten with their keys; a new certificate,
+    // or one whose key another row has taken, gets the next free key. Those of persons no longer
+    // listed stay.
+    void Adeverinte() {
+        if (iduri_.empty()) return;
+        {
+            Interogare q(db_, QStringLiteral("DELETE FROM Adeverinte WHERE CerereID = ? AND MembruID IN (%1)")
+                                  .arg(Semne(qsizetype(iduri_.size()))));
+            q.Leaga(cerereID_);
+            for (qint64 id : iduri_)
+                q.Leaga(id);
+            q.Executa();
+        }
+        std::vector<qint64> pastrate;
+        qint64 maxim = 0;
+        for (const MembruCerere* p : membri_)
+            for (const AdeverintaMembru& a : p->Adeverinte)
+                if (a.AdevID > 0) {
+                    pastrate.push_back(a.AdevID);
+                    maxim = std::max(maxim, a.AdevID);
+                }
+        std::unordered_set<qint64> ocupate;
+        if (!pastrate.empty()) {
+            Interogare q(db_, QStringLiteral("SELECT AdevID FROM Adeverinte WHERE AdevID IN (%1)")
+                                  .arg(Semne(qsizetype(pastrate.size()))));
+            for (qint64 id : pastrate)
+                q.Leaga(id);
+            q.Executa();
+            while (q.Urmator())
+                ocupate.insert(q.Intreg(0));
+        }
+        qint64 urmatoarea = 0;
+        std::vector<Randuri> randuri;
+        for (size_t i = 0; i < membri_.size(); ++i)
+            for (const AdeverintaMembru& a : membri_[i]->Adeverinte) {
+                qint64 id = a.AdevID;
+                if (id <= 0 || !ocupate.insert(id).second) {
+                    if (urmatoarea == 0)
+                        urmatoarea = std::max(db_.CheieNoua(QStringLiteral("Adeverinte"), QStringLiteral("AdevID")),
+                                              maxim + 1);
+                    id = urmatoarea++;
+                }
+                randuri.push_back({
+                    {"AdevID", id},
+                    {"CerereID", cerereID_},
+                    {"MembruID", iduri_[i]},
+                    {"TipAdeverinta", a.TipAdeverinta},
+                    {"NrAdev", Text("Adeverinte", "NrAdev", a.NrAdev)},
+                    {"DataAdeverinta", Data(a.DataAdeverinta)},
+                    {"DataExpAdev", Data(a.DataExpAdev)},
+                    {"DataDepunerii", Data(a.DataDepunerii)},
+                    {"AdvCurenta", a.AdvCurenta},
+                });
+            }
+        ScrieToate(db_, "Adeverinte", randuri);
+    }
+
+    void Venituri() {
+        stergeAleCererii("Venituri");
+        std::vector<Randuri> randuri;
+        for (size_t i = 0; i < s_.Venituri.size(); ++i)
+            if (s_.Venituri[i] > Bani())
+                randuri.push_back({{"CerereID", cerereID_}, {"CodVenit", qint64(i + 1)}, {"Valoare", suma(s_.Venituri[i])}});
+        ScrieToate(db_, "Venituri", randuri);
+    }
+
+    void Locuinte() {
+        stergeAleCererii("Locuinte");
+        std::vector<Randuri> randuri;
+        for (size_t i = 0; i < s_.LocuinteSel.size(); ++i)
+            if (s_.LocuinteSel[i].Bifat)
+                randuri.push_back({{"CerereID", cerereID_},
+                                   {"Cod", qint64(i + 1)},
+                                   {"NrCamere", s_.LocuinteSel[i].NrCamere}});
+        ScrieToate(db_, "Locuinte", randuri);
+    }
+
+    void BifeText() {
+        stergeAleCererii("BifeText");
+        std::vector<Randuri> randuri;
+        for (size_t i = 0; i < s_.Bunuri.size(); ++i)
+            if (s_.Bunuri[i] > Bani())
+                randuri.push_back({{"CerereID", cerereID_}, {"NrBifa", qint64(i + 9)}, {"Valoare", suma(s_.Bunuri[i])}});
+        ScrieToate(db_, "BifeText", randuri);
+    }
+
+    // A person who left before ever being stored has no row to point at and is not kept.
+    void CMIesiti() {
+        stergeAleCererii("CMIesiti");
+        std::vector<Randuri> randuri;
+        for (const MembruIesit& r : iesiti_)
+            if (r.MembruID > 0)
+                randuri.push_back({{"CerereID", cerereID_},
+                                   {"MembruID", r.MembruID},
+                                   {"RudenieID", r.RudenieID},
+                                   {"MotivID", r.MotivID},
+                                   {"Suma", suma(r.Suma)},
+                                   {"TipValuta", r.TipValuta}});
+        ScrieToate(db_, "CMIesiti", randuri);
+    }
+
+    BazaDate& db_;
+    const DateCerere& d_;
+    const StareCerere& s_;
+    const std::vector<MembruIesit>& iesiti_;
+    const OptiuniSalvare& o_;
+    const Bani cuantum_;
+    std::vector<const MembruCerere*> membri_;
+    std::vector<qint64> iduri_; // MembruID of each person, in the order of the list
+    qint64 cerereID_ = 0, familieID_ = 0, titular_ = 0, partener_ = 0;
+};
+
+} // namespace
+
+OptiuniSalvare OptiuniDinSetari(const Setari& s) {
+    OptiuniSalvare o;
+    o.ReteaSetat = s.ReteaSetat;
+    o.CaleBD = s.CaleBD;
+    o.LunaSetata = s.LunaSetata;
+    o.AnSetat = s.AnSetat;
+    return o;
+}
+
+RezultatSalvare SalveazaCerere(BazaDate& db, const DateCerere& d, const StareCerere& s,
+                               const std::vector<MembruIesit>& iesiti, const OptiuniSalvare& o, Mesaje& m) {
+    RezultatSalvare oprita;
+    if (!VerificaBD(db, m)) return oprita;
+    const int nrMembri = s.MatriceMembri ? int(s.MatriceMembri->size()) : 0;
+    const int nrRanduri = o.NrRanduriLista < 0 ? nrMembri : o.NrRanduriLista;
+    if (const auto esec = VerificaControale(db, d, s, nrRanduri, m)) {
+        m.Informatie(esec->Mesaj);
+        oprita.Control = esec->Control;
+        if (esec->InchideDialogul) oprita.stare = RezultatSalvare::Stare::InchideEditor;
+        return oprita;
+    }
+
+    std::optional<BlocareFisier> blocare;
+    if (o.ReteaSetat) {
+        blocare.emplace(QDir(o.CaleBD).filePath(QStringLiteral("snet.txt")));
+        if (!blocare->Obtine()) {
+            m.Informatie(TextSalvareInCurs);
+            return oprita;
+        }
+        if (!m.Intrebare(QStringLiteral("Salvati?"))) return oprita;
+    }
+
+    if (nrRanduri != nrMembri)
+        m.Avertisment(QStringLiteral("Exceptie Tarn in Calcule: Nr Membrii din lista este diferite de cel din matrice. "
+                                     "Sunati la 0700-111222"));
+    const IntrareCuantum intrare{s, int(d.cboCerere[3].id), d.dtpData[1], d.txtCerere[13], o.LunaSetata, o.AnSetat};
+    const Bani cuantum = CalculCuantum(intrare, IncarcaParametri(db), m).Cuantum;
+
+    RezultatSalvare r;
+    try {
+        r = Salvare(db, d, s, iesiti, o, cuantum).Scrie();
+    } catch (const Eroare& e) {
+        throw Eroare(QStringLiteral("Cererea nu a fost salvata: ") + e.text());
+    } catch (const std::exception& e) {
+        throw Eroare(QStringLiteral("Cererea nu a fost salvata: ") + QString::fromLocal8Bit(e.what()));
+    }
+    blocare.reset();
+
+    const QDate& dataStare = d.dtpData[1];
+    if (dataStare.day() > 1)
+        m.Informatie(QStringLiteral("Data aprobarii este diferita  de : 01-") + LuniAn()[dataStare.month() - 1] +
+                     QLatin1Char('-') + QString::number(dataStare.year()));
+    return r;
+}
