@@ -1,0 +1,330 @@
+#include "cases/Anchete.h"
+
+#include "shell/Eroare.h"
+#include "shell/Functii.h"
+#include "shell/Mesaje.h"
+#include "shell/Pornire.h"
+#include "shell/Val.h"
+#include "store/BazaDate.h"
+
+#include <QVariant>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+const QString Stearsa = QStringLiteral("Aceasta Ancheta a fost stearsa de alt utilizator. Modificarile dvs. nu pot avea "
+                                       "loc. Aceasta fereastra se va inchide!");
+const QString RandNegasit = QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cerere!");
+
+QVariant textSauNul(const QString& s) { return s.isEmpty() ? QVariant() : QVariant(s); }
+QVariant dataSauNul(const QDate& d) { return d.isValid() ? QVariant(d) : QVariant(); }
+QVariant optionalSauNul(const std::optional<int>& v) { return v ? QVariant(qint64(*v)) : QVariant(); }
+
+// The typed number as its field holds it: NrCamere is a whole number (the nearest, halves to even,
+// as the old run-time stored a number in an Integer field), SuprUtila a single-precision one.
+QVariant numarCamere(const QString& text) {
+    const double v = std::nearbyint(Val(text));
+    if (!(std::fabs(v) <= double(std::numeric_limits<qint32>::max())))
+        throw Eroare(QStringLiteral("Numarul de camere este prea mare: %1").arg(text));
+    return QVariant(qint64(v));
+}
+
+QVariant suprafata(const QString& text) {
+    const double v = Val(text);
+    if (!(std::fabs(v) <= double(std::numeric_limits<float>::max())))
+        throw Eroare(QStringLiteral("Suprafata este prea mare: %1").arg(text));
+    return QVariant(v);
+}
+
+std::optional<int> optionalDin(const QVariant& v) {
+    return v.isNull() ? std::nullopt : std::optional<int>(v.toInt());
+}
+
+QString textDin(const QVariant& v) { return v.isNull() ? QString() : v.toString(); }
+
+bool exista(BazaDate& db, const QString& sql, qint64 cheie) {
+    Interogare q(db, sql);
+    q.Leaga(cheie);
+    return q.Exista();
+}
+
+} // namespace
+
+QDate Anchete::SaseLuni(const QDate& d) {
+    if (!d.isValid())
+        return {};
+    return QDate(d.year(), d.month(), 1).addMonths(6).addDays(d.day() - 1);
+}
+
+Expirare Anchete::CalculExpirare(BazaDate& db, qint64 cerereID, const QDate& d, Mesaje& m) {
+    Expirare r;
+    if (!d.isValid())
+        return r;
+    const QDate l = SaseLuni(d);
+    // The earliest coming of age was meant to end the term when no child stays a minor through it.
+    // The running value starts at the empty date (30.12.1899) and is only ever replaced by an
+    // earlier date, so it never moves, and such a family is treated as ended: that is the result
+    // the office relies on.
+    const QDate dataZero(1899, 12, 30);
+    QDate primulMajorat = dataZero;
+    bool copilTotTermenul = false;
+
+    Interogare q(db, QStringLiteral("SELECT M.MembruID, M.CNP FROM Membrii AS M INNER JOIN CereriMembrii AS CM "
+                                    "ON M.MembruID = CM.MembruID WHERE CM.CerereID = ? ORDER BY M.MembruID"));
+    q.Leaga(cerereID).Executa();
+    while (q.Urmator()) {
+        ++r.NrMembrii;
+        const QDate majorat = DataNasterii(q.Text(QStringLiteral("CNP")), true, &m);
+        if (!majorat.isValid())
+            continue;
+        if (majorat > l) {
+            copilTotTermenul = true;
+            ++r.NrCopii;
+        } else if (majorat > d) {
+            ++r.NrCopii;
+            if (primulMajorat > majorat)
+                primulMajorat = majorat;
+        }
+    }
+
+    if (copilTotTermenul) {
+        r.DataExpirarii = l;
+        r.Motiv = QStringLiteral("valabilitate 6 luni");
+    } else if (primulMajorat != dataZero) {
+        r.DataExpirarii = primulMajorat;
+        r.Motiv = QStringLiteral("implinirea varstei de 18 ani");
+    } else {
+        r.Motiv = QStringLiteral("Cererea este INCETATA!");
+        m.Informatie(QStringLiteral("La aceasta data nu mai exista nici un copil, deci Ancheta e lipsita de sens!"));
+    }
+    return r;
+}
+
+VerificareAncheta Anchete::VerificaControale(BazaDate& db, Mesaje& m, const Ancheta& a, ModAncheta mod,
+                                             int nrCopiiCerere) {
+    VerificareAncheta r;
+    if (!VerificaBD(db, m))
+        return r;
+    if (mod == ModAncheta::Modificare) {
+        qint64 n = 0;
+        try {
+            Interogare q(db, QStringLiteral("SELECT COUNT(AnchetaID) FROM Anchete WHERE AnchetaID = ?"));
+            q.Leaga(a.AnchetaID);
+            if (q.Exista())
+                n = q.Intreg(0);
+        } catch (const Eroare&) {
+            n = 0;
+        }
+        if (n == 0) {
+            m.Informatie(Stearsa);
+            r.inchide = true;
+            return r;
+        }
+        if (n > 1) {
+            m.Critic(QStringLiteral("Exceptie: AnchetaID multiplu in AddAncheta -> Verifica Controale"));
+            return r;
+        }
+    }
+    if (a.NrCopii != nrCopiiCerere)
+        m.Avertisment(QStringLiteral("Numarul de copii din Ancheta nu coincide cu numarul de copii din Cerere. "
+                                     "Verificati cauza in Cerere!"));
+
+    auto refuz = [&](const QString& text, const char* control) {
+        m.Informatie(text);
+        r.control = QString::fromLatin1(control);
+        return r;
+    };
+    if (!a.DataAncheta.isValid())
+        return refuz(QStringLiteral("Nu puteti salva datele inainte de a Data Ancheta"), "dtpData");
+    if (a.NrCopii == 0)
+        return refuz(QStringLiteral("Pentru Data Selectata nu mai sunt copii, asa ca ancheta nu are sens! Fie "
+                                    "schimbati Data Anchetei, fie Renuntati"),
+                     "dtpData");
+    if (a.Intocmitor.trimmed().isEmpty())
+        return refuz(QStringLiteral("Nu puteti salva datele inainte de a introduce Numele Intocmitorului"),
+                     "txtCerere_0");
+    if (Val(a.NrCamere) == 0)
+        return refuz(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul de camere"), "txtCerere_1");
+    if (Val(a.SuprUtila) == 0)
+        return refuz(QStringLiteral("Nu puteti salva datele inainte de a introduce Suprafata"), "txtCerere_2");
+    if (!a.TipLocuinta)
+        return refuz(QStringLiteral("Tipul locuintei incorect. Selectati din lista!"), "cboCerere_0");
+    if (!a.RegimJuridic)
+        return refuz(QStringLiteral("Regim juridic incorect. Selectati un Regim juridic din lista!"), "cboCerere_1");
+    if (!a.TipDetinere)
+        return refuz(QStringLiteral("Detine in proprietate incorect. Selectati din lista: 'in proprietate' sau 'in "
+                                    "folosinta'!"),
+                     "cboCerere_3");
+    r.ok = true;
+    return r;
+}
+
+qint64 Anchete::Salveaza(BazaDate& db, Mesaje& m, Ancheta a, ModAncheta mod) {
+    // Computed before the transaction: its message must not wait on the clerk while the write lock is held.
+    const Expirare e = CalculExpirare(db, a.CerereID, a.DataAncheta, m);
+    a.DataExpirarii = e.DataExpirarii;
+    a.Motiv = e.Motiv;
+    const QVariant camere = numarCamere(a.NrCamere);
+    const QVariant supr = suprafata(a.SuprUtila);
+
+    Tranzactie t(db);
+    const bool nou = mod == ModAncheta::Adaugare;
+    if (nou)
+        a.AnchetaID = db.CheieNoua(QStringLiteral("Anchete"), QStringLiteral("AnchetaID"));
+    Interogare q(db, nou ? QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, Intocmitor, "
+                                          "DataExpirarii, Motiv, NrMembrii, NrCopii, TipLocuinta, RegimJuridic, "
+                                          "NrCamere, SuprUtila, Bunuri, Igiena, TipLocuire, TipDetinere, Teren, "
+                                          "Cladiri, Spatii, AlteBunuri, StareSanatate, Nevoi, Aspecte) "
+                                          "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")
+                         : QStringLiteral("UPDATE Anchete SET DataAncheta = ?, Intocmitor = ?, DataExpirarii = ?, "
+                                          "Motiv = ?, NrMembrii = ?, NrCopii = ?, TipLocuinta = ?, RegimJuridic = ?, "
+                                          "NrCamere = ?, SuprUtila = ?, Bunuri = ?, Igiena = ?, TipLocuire = ?, "
+                                          "TipDetinere = ?, Teren = ?, Cladiri = ?, Spatii = ?, AlteBunuri = ?, "
+                                          "StareSanatate = ?, Nevoi = ?, Aspecte = ? WHERE AnchetaID = ?"));
+    if (nou)
+        q.Leaga(a.AnchetaID).Leaga(a.CerereID);
+    q.Leaga(dataSauNul(a.DataAncheta))
+        .Leaga(textSauNul(a.Intocmitor))
+        .Leaga(dataSauNul(a.DataExpirarii))
+        .Leaga(textSauNul(a.Motiv))
+        .Leaga(a.NrMembrii)
+        .Leaga(a.NrCopii)
+        .Leaga(optionalSauNul(a.TipLocuinta))
+        .Leaga(optionalSauNul(a.RegimJuridic))
+        .Leaga(camere)
+        .Leaga(supr)
+        .Leaga(textSauNul(a.Bunuri))
+        .Leaga(textSauNul(a.Igiena))
+        .Leaga(optionalSauNul(a.TipLocuire))
+        .Leaga(optionalSauNul(a.TipDetinere))
+        .Leaga(textSauNul(a.Teren))
+        .Leaga(textSauNul(a.Cladiri))
+        .Leaga(textSauNul(a.Spatii))
+        .Leaga(textSauNul(a.AlteBunuri))
+        .Leaga(textSauNul(a.StareSanatate))
+        .Leaga(textSauNul(a.Nevoi))
+        .Leaga(textSauNul(a.Aspecte));
+    if (!nou)
+        q.Leaga(a.AnchetaID);
+    q.Executa();
+    if (q.RanduriAfectate() != 1)
+        throw Eroare(Stearsa);
+    t.Confirma();
+    return a.AnchetaID;
+}
+
+std::optional<Ancheta> Anchete::Citeste(BazaDate& db, qint64 anchetaID) {
+    Interogare q(db, QStringLiteral("SELECT * FROM Anchete WHERE AnchetaID = ?"));
+    q.Leaga(anchetaID);
+    if (!q.Exista())
+        return std::nullopt;
+    auto v = [&](const char* camp) { return q.Valoare(QString::fromLatin1(camp)); };
+    Ancheta a;
+    a.AnchetaID = q.Intreg(QStringLiteral("AnchetaID"));
+    a.CerereID = q.Intreg(QStringLiteral("CerereID"));
+    a.DataAncheta = q.Data(QStringLiteral("DataAncheta"));
+    a.Intocmitor = textDin(v("Intocmitor"));
+    a.DataExpirarii = q.Data(QStringLiteral("DataExpirarii"));
+    a.Motiv = textDin(v("Motiv"));
+    a.NrMembrii = v("NrMembrii").toInt();
+    a.NrCopii = v("NrCopii").toInt();
+    a.TipLocuinta = optionalDin(v("TipLocuinta"));
+    a.RegimJuridic = optionalDin(v("RegimJuridic"));
+    a.NrCamere = v("NrCamere").isNull() ? QString() : QString::number(v("NrCamere").toLongLong());
+    // A single-precision field: seven significant digits give back what was typed.
+    a.SuprUtila = v("SuprUtila").isNull() ? QString() : QString::number(v("SuprUtila").toDouble(), 'g', 7);
+    a.Bunuri = textDin(v("Bunuri"));
+    a.Igiena = textDin(v("Igiena"));
+    a.TipLocuire = optionalDin(v("TipLocuire"));
+    a.TipDetinere = optionalDin(v("TipDetinere"));
+    a.Teren = textDin(v("Teren"));
+    a.Cladiri = textDin(v("Cladiri"));
+    a.Spatii = textDin(v("Spatii"));
+    a.AlteBunuri = textDin(v("AlteBunuri"));
+    a.StareSanatate = textDin(v("StareSanatate"));
+    a.Nevoi = textDin(v("Nevoi"));
+    a.Aspecte = textDin(v("Aspecte"));
+    return a;
+}
+
+std::vector<ElementDateGen> Anchete::ListaDateGen(BazaDate& db, int tip) {
+    Interogare q(db, QStringLiteral("SELECT DataID, Continut FROM DateGen WHERE Tip = ? ORDER BY Ordine, DataID"));
+    q.Leaga(tip).Executa();
+    std::vector<ElementDateGen> r;
+    while (q.Urmator())
+        r.push_back({int(q.Intreg(0)), textDin(q.Valoare(1)).toLower()});
+    return r;
+}
+
+std::vector<RandAncheta> Anchete::ListaAnchete(BazaDate& db, qint64 cerereID) {
+    // The two engines put NULL at opposite ends of a descending order; an inquiry without a date
+    // goes last on both.
+    Interogare q(db, QStringLiteral("SELECT AnchetaID, DataAncheta, NrMembrii, NrCopii, DataExpirarii, Motiv "
+                                    "FROM Anchete WHERE CerereID = ? "
+                                    "ORDER BY CASE WHEN DataAncheta IS NULL THEN 1 ELSE 0 END, DataAncheta DESC, "
+                                    "AnchetaID DESC"));
+    q.Leaga(cerereID).Executa();
+    std::vector<RandAncheta> r;
+    while (q.Urmator())
+        r.push_back({q.Intreg(QStringLiteral("AnchetaID")), FormatData(q.Data(QStringLiteral("DataAncheta"))),
+                     textDin(q.Valoare(QStringLiteral("NrMembrii"))), textDin(q.Valoare(QStringLiteral("NrCopii"))),
+                     FormatData(q.Data(QStringLiteral("DataExpirarii"))), textDin(q.Valoare(QStringLiteral("Motiv")))});
+    return r;
+}
+
+QString Anchete::TitluAnchete(const QString& solicitant, size_t randuri) {
+    return randuri == 0 ? QString() : QStringLiteral("Anchetele lui ") + solicitant + QLatin1Char('.');
+}
+
+bool Anchete::PoateAdauga(BazaDate& db, Mesaje& m, qint64 cerereID) {
+    if (!VerificaBD(db, m))
+        return false;
+    if (cerereID == 0) {
+        m.Informatie(QStringLiteral("Selectati o cerere"));
+        return false;
+    }
+    if (!exista(db, QStringLiteral("SELECT 1 FROM Cereri WHERE CerereID = ?"), cerereID)) {
+        m.Informatie(QStringLiteral("Cererea selectata a fost stearsa de alt utilizator! Dati clic pe Cauta"));
+        return false;
+    }
+    return true;
+}
+
+bool Anchete::PoateModifica(BazaDate& db, Mesaje& m, qint64 anchetaID) {
+    if (!VerificaBD(db, m))
+        return false;
+    if (anchetaID == 0) {
+        m.Informatie(QStringLiteral("Selectati o ancheta"));
+        return false;
+    }
+    if (!exista(db, QStringLiteral("SELECT 1 FROM Anchete WHERE AnchetaID = ?"), anchetaID)) {
+        m.Informatie(RandNegasit);
+        return false;
+    }
+    return true;
+}
+
+QString Anchete::IntrebareStergere(const QString& textRand) {
+    return QStringLiteral("Sigur doriti sa stergeti ancheta ") + textRand + QStringLiteral(" ?");
+}
+
+bool Anchete::Sterge(BazaDate& db, Mesaje& m, qint64 anchetaID, const QString& textRand) {
+    if (!VerificaBD(db, m))
+        return false;
+    if (anchetaID == 0) {
+        m.Informatie(QStringLiteral("Selectati o ancheta!"));
+        return false;
+    }
+    if (!exista(db, QStringLiteral("SELECT 1 FROM Anchete WHERE AnchetaID = ?"), anchetaID)) {
+        m.Informatie(RandNegasit);
+        return false;
+    }
+    if (!m.Intrebare(IntrebareStergere(textRand)))
+        return false;
+    Tranzactie t(db);
+    Interogare d(db, QStringLiteral("DELETE FROM Anchete WHERE AnchetaID = ?"));
+    d.Leaga(anchetaID).Executa();
+    t.Confirma();
+    return d.RanduriAfectate() > 0;
+}
