@@ -13,13 +13,20 @@
 
 namespace {
 
-const QString Stearsa = QStringLiteral("Aceasta Ancheta a fost stearsa de alt utilizator. Modificarile dvs. nu pot avea "
-                                       "loc. Aceasta fereastra se va inchide!");
+const QString Stearsa =
+    QStringLiteral("Aceasta Ancheta a fost stearsa de alt utilizator. Modificarile dvs. nu pot avea "
+                   "loc. Aceasta fereastra se va inchide!");
 const QString RandNegasit = QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cerere!");
 
-QVariant textSauNul(const QString& s) { return s.isEmpty() ? QVariant() : QVariant(s); }
-QVariant dataSauNul(const QDate& d) { return d.isValid() ? QVariant(d) : QVariant(); }
-QVariant optionalSauNul(const std::optional<int>& v) { return v ? QVariant(qint64(*v)) : QVariant(); }
+QVariant textSauNul(const QString& s) {
+    return s.isEmpty() ? QVariant() : QVariant(s);
+}
+QVariant dataSauNul(const QDate& d) {
+    return d.isValid() ? QVariant(d) : QVariant();
+}
+QVariant optionalSauNul(const std::optional<int>& v) {
+    return v ? QVariant(qint64(*v)) : QVariant();
+}
 
 // The typed number as its field holds it: NrCamere is a whole number (the nearest, halves to even,
 // as the old run-time stored a number in an Integer field), SuprUtila a single-precision one.
@@ -41,7 +48,9 @@ std::optional<int> optionalDin(const QVariant& v) {
     return v.isNull() ? std::nullopt : std::optional<int>(v.toInt());
 }
 
-QString textDin(const QVariant& v) { return v.isNull() ? QString() : v.toString(); }
+QString textDin(const QVariant& v) {
+    return v.isNull() ? QString() : v.toString();
+}
 
 bool exista(BazaDate& db, const QString& sql, qint64 cheie) {
     Interogare q(db, sql);
@@ -52,15 +61,13 @@ bool exista(BazaDate& db, const QString& sql, qint64 cheie) {
 } // namespace
 
 QDate Anchete::SaseLuni(const QDate& d) {
-    if (!d.isValid())
-        return {};
+    if (!d.isValid()) return {};
     return QDate(d.year(), d.month(), 1).addMonths(6).addDays(d.day() - 1);
 }
 
 Expirare Anchete::CalculExpirare(BazaDate& db, qint64 cerereID, const QDate& d, Mesaje& m) {
     Expirare r;
-    if (!d.isValid())
-        return r;
+    if (!d.isValid()) return r;
     const QDate l = SaseLuni(d);
     // The earliest coming of age was meant to end the term when no child stays a minor through it.
     // The running value starts at the empty date (30.12.1899) and is only ever replaced by an
@@ -76,15 +83,13 @@ Expirare Anchete::CalculExpirare(BazaDate& db, qint64 cerereID, const QDate& d, 
     while (q.Urmator()) {
         ++r.NrMembrii;
         const QDate majorat = DataNasterii(q.Text(QStringLiteral("CNP")), true, &m);
-        if (!majorat.isValid())
-            continue;
+        if (!majorat.isValid()) continue;
         if (majorat > l) {
             copilTotTermenul = true;
             ++r.NrCopii;
         } else if (majorat > d) {
             ++r.NrCopii;
-            if (primulMajorat > majorat)
-                primulMajorat = majorat;
+            if (primulMajorat > majorat) primulMajorat = majorat;
         }
     }
 
@@ -104,15 +109,13 @@ Expirare Anchete::CalculExpirare(BazaDate& db, qint64 cerereID, const QDate& d, 
 VerificareAncheta Anchete::VerificaControale(BazaDate& db, Mesaje& m, const Ancheta& a, ModAncheta mod,
                                              int nrCopiiCerere) {
     VerificareAncheta r;
-    if (!VerificaBD(db, m))
-        return r;
+    if (!VerificaBD(db, m)) return r;
     if (mod == ModAncheta::Modificare) {
         qint64 n = 0;
         try {
             Interogare q(db, QStringLiteral("SELECT COUNT(AnchetaID) FROM Anchete WHERE AnchetaID = ?"));
             q.Leaga(a.AnchetaID);
-            if (q.Exista())
-                n = q.Intreg(0);
+            if (q.Exista()) n = q.Intreg(0);
         } catch (const Eroare&) {
             n = 0;
         }
@@ -148,8 +151,7 @@ VerificareAncheta Anchete::VerificaControale(BazaDate& db, Mesaje& m, const Anch
         return refuz(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul de camere"), "txtCerere_1");
     if (Val(a.SuprUtila) == 0)
         return refuz(QStringLiteral("Nu puteti salva datele inainte de a introduce Suprafata"), "txtCerere_2");
-    if (!a.TipLocuinta)
-        return refuz(QStringLiteral("Tipul locuintei incorect. Selectati din lista!"), "cboCerere_0");
+    if (!a.TipLocuinta) return refuz(QStringLiteral("Tipul locuintei incorect. Selectati din lista!"), "cboCerere_0");
     if (!a.RegimJuridic)
         return refuz(QStringLiteral("Regim juridic incorect. Selectati un Regim juridic din lista!"), "cboCerere_1");
     if (!a.TipDetinere)
@@ -170,20 +172,19 @@ qint64 Anchete::Salveaza(BazaDate& db, Mesaje& m, Ancheta a, ModAncheta mod) {
 
     Tranzactie t(db);
     const bool nou = mod == ModAncheta::Adaugare;
-    if (nou)
-        a.AnchetaID = db.CheieNoua(QStringLiteral("Anchete"), QStringLiteral("AnchetaID"));
-    Interogare q(db, nou ? QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, Intocmitor, "
-                                          "DataExpirarii, Motiv, NrMembrii, NrCopii, TipLocuinta, RegimJuridic, "
-                                          "NrCamere, SuprUtila, Bunuri, Igiena, TipLocuire, TipDetinere, Teren, "
-                                          "Cladiri, Spatii, AlteBunuri, StareSanatate, Nevoi, Aspecte) "
-                                          "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")
-                         : QStringLiteral("UPDATE Anchete SET DataAncheta = ?, Intocmitor = ?, DataExpirarii = ?, "
-                                          "Motiv = ?, NrMembrii = ?, NrCopii = ?, TipLocuinta = ?, RegimJuridic = ?, "
-                                          "NrCamere = ?, SuprUtila = ?, Bunuri = ?, Igiena = ?, TipLocuire = ?, "
-                                          "TipDetinere = ?, Teren = ?, Cladiri = ?, Spatii = ?, AlteBunuri = ?, "
-                                          "StareSanatate = ?, Nevoi = ?, Aspecte = ? WHERE AnchetaID = ?"));
-    if (nou)
-        q.Leaga(a.AnchetaID).Leaga(a.CerereID);
+    if (nou) a.AnchetaID = db.CheieNoua(QStringLiteral("Anchete"), QStringLiteral("AnchetaID"));
+    Interogare q(db,
+                 nou ? QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, Intocmitor, "
+                                      "DataExpirarii, Motiv, NrMembrii, NrCopii, TipLocuinta, RegimJuridic, "
+                                      "NrCamere, SuprUtila, Bunuri, Igiena, TipLocuire, TipDetinere, Teren, "
+                                      "Cladiri, Spatii, AlteBunuri, StareSanatate, Nevoi, Aspecte) "
+                                      "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")
+                     : QStringLiteral("UPDATE Anchete SET DataAncheta = ?, Intocmitor = ?, DataExpirarii = ?, "
+                                      "Motiv = ?, NrMembrii = ?, NrCopii = ?, TipLocuinta = ?, RegimJuridic = ?, "
+                                      "NrCamere = ?, SuprUtila = ?, Bunuri = ?, Igiena = ?, TipLocuire = ?, "
+                                      "TipDetinere = ?, Teren = ?, Cladiri = ?, Spatii = ?, AlteBunuri = ?, "
+                                      "StareSanatate = ?, Nevoi = ?, Aspecte = ? WHERE AnchetaID = ?"));
+    if (nou) q.Leaga(a.AnchetaID).Leaga(a.CerereID);
     q.Leaga(dataSauNul(a.DataAncheta))
         .Leaga(textSauNul(a.Intocmitor))
         .Leaga(dataSauNul(a.DataExpirarii))
@@ -205,11 +206,9 @@ qint64 Anchete::Salveaza(BazaDate& db, Mesaje& m, Ancheta a, ModAncheta mod) {
         .Leaga(textSauNul(a.StareSanatate))
         .Leaga(textSauNul(a.Nevoi))
         .Leaga(textSauNul(a.Aspecte));
-    if (!nou)
-        q.Leaga(a.AnchetaID);
+    if (!nou) q.Leaga(a.AnchetaID);
     q.Executa();
-    if (q.RanduriAfectate() != 1)
-        throw Eroare(Stearsa);
+    if (q.RanduriAfectate() != 1) throw Eroare(Stearsa);
     t.Confirma();
     return a.AnchetaID;
 }
@@ -217,8 +216,7 @@ qint64 Anchete::Salveaza(BazaDate& db, Mesaje& m, Ancheta a, ModAncheta mod) {
 std::optional<Ancheta> Anchete::Citeste(BazaDate& db, qint64 anchetaID) {
     Interogare q(db, QStringLiteral("SELECT * FROM Anchete WHERE AnchetaID = ?"));
     q.Leaga(anchetaID);
-    if (!q.Exista())
-        return std::nullopt;
+    if (!q.Exista()) return std::nullopt;
     auto v = [&](const char* camp) { return q.Valoare(QString::fromLatin1(camp)); };
     Ancheta a;
     a.AnchetaID = q.Intreg(QStringLiteral("AnchetaID"));
@@ -278,8 +276,7 @@ QString Anchete::TitluAnchete(const QString& solicitant, size_t randuri) {
 }
 
 bool Anchete::PoateAdauga(BazaDate& db, Mesaje& m, qint64 cerereID) {
-    if (!VerificaBD(db, m))
-        return false;
+    if (!VerificaBD(db, m)) return false;
     if (cerereID == 0) {
         m.Informatie(QStringLiteral("Selectati o cerere"));
         return false;
@@ -292,8 +289,7 @@ bool Anchete::PoateAdauga(BazaDate& db, Mesaje& m, qint64 cerereID) {
 }
 
 bool Anchete::PoateModifica(BazaDate& db, Mesaje& m, qint64 anchetaID) {
-    if (!VerificaBD(db, m))
-        return false;
+    if (!VerificaBD(db, m)) return false;
     if (anchetaID == 0) {
         m.Informatie(QStringLiteral("Selectati o ancheta"));
         return false;
@@ -310,8 +306,7 @@ QString Anchete::IntrebareStergere(const QString& textRand) {
 }
 
 bool Anchete::Sterge(BazaDate& db, Mesaje& m, qint64 anchetaID, const QString& textRand) {
-    if (!VerificaBD(db, m))
-        return false;
+    if (!VerificaBD(db, m)) return false;
     if (anchetaID == 0) {
         m.Informatie(QStringLiteral("Selectati o ancheta!"));
         return false;
@@ -320,8 +315,7 @@ bool Anchete::Sterge(BazaDate& db, Mesaje& m, qint64 anchetaID, const QString& t
         m.Informatie(RandNegasit);
         return false;
     }
-    if (!m.Intrebare(IntrebareStergere(textRand)))
-        return false;
+    if (!m.Intrebare(IntrebareStergere(textRand))) return false;
     Tranzactie t(db);
     Interogare d(db, QStringLiteral("DELETE FROM Anchete WHERE AnchetaID = ?"));
     d.Leaga(anchetaID).Executa();

@@ -18,7 +18,8 @@ using Fel = Mesaje::Fel;
 
 const QString Valabil = QStringLiteral("valabilitate 6 luni");
 const QString Incetata = QStringLiteral("Cererea este INCETATA!");
-const QString FaraCopii = QStringLiteral("La aceasta data nu mai exista nici un copil, deci Ancheta e lipsita de sens!");
+const QString FaraCopii =
+    QStringLiteral("La aceasta data nu mai exista nici un copil, deci Ancheta e lipsita de sens!");
 const QString NepotrivireCopii = QStringLiteral(
     "Numarul de copii din Ancheta nu coincide cu numarul de copii din Cerere. Verificati cauza in Cerere!");
 const QString Stearsa = QStringLiteral(
@@ -37,14 +38,14 @@ TEST(SaseLuni, ZiuaPesteSfarsitulLuniiTreceInLunaUrmatoare) {
     const struct {
         QDate d, asteptat;
     } cazuri[] = {
-        {QDate(2024, 1, 15), QDate(2024, 7, 15)},  // an ordinary day
-        {QDate(2022, 8, 31), QDate(2023, 3, 3)},   // 31 February of a common year
-        {QDate(2023, 8, 31), QDate(2024, 3, 2)},   // 31 February of a leap year
-        {QDate(2023, 8, 29), QDate(2024, 2, 29)},  // the leap day itself
-        {QDate(2022, 8, 29), QDate(2023, 3, 1)},   // 29 February of a common year
-        {QDate(2023, 12, 31), QDate(2024, 7, 1)},  // into the next year, 31 June
-        {QDate(2024, 3, 31), QDate(2024, 10, 1)},  // 31 September
-        {QDate(2024, 7, 31), QDate(2025, 1, 31)},  // January has 31 days
+        {QDate(2024, 1, 15), QDate(2024, 7, 15)}, // an ordinary day
+        {QDate(2022, 8, 31), QDate(2023, 3, 3)},  // 31 February of a common year
+        {QDate(2023, 8, 31), QDate(2024, 3, 2)},  // 31 February of a leap year
+        {QDate(2023, 8, 29), QDate(2024, 2, 29)}, // the leap day itself
+        {QDate(2022, 8, 29), QDate(2023, 3, 1)},  // 29 February of a common year
+        {QDate(2023, 12, 31), QDate(2024, 7, 1)}, // into the next year, 31 June
+        {QDate(2024, 3, 31), QDate(2024, 10, 1)}, // 31 September
+        {QDate(2024, 7, 31), QDate(2025, 1, 31)}, // January has 31 days
     };
     for (const auto& c : cazuri)
         EXPECT_EQ(Anchete::SaseLuni(c.d), c.asteptat) << c.d.toString(Qt::ISODate).toStdString();
@@ -55,8 +56,7 @@ class AncheteBaza : public TestBaza {
 protected:
     void SetUp() override {
         TestBaza::SetUp();
-        if (IsSkipped())
-            return;
+        if (IsSkipped()) return;
         BazaNoua();
         // A neighbour whose child must never be counted for the requests under test.
         Cerere(900, {Cnp(QDate(1980, 1, 1), 1), Cnp(QDate(2015, 6, 1), 2)});
@@ -69,8 +69,8 @@ protected:
         c.nrCerere = id;
         for (const QString& cnp : cnpuri) {
             const qint64 membru = id * 100 + c.persoane.size() + 1;
-            c.persoane.push_back({membru, QStringLiteral("Popa"), QStringLiteral("P%1").arg(membru), cnp,
-                                  c.persoane.isEmpty() ? 1 : 3});
+            c.persoane.push_back(
+                {membru, QStringLiteral("Popa"), QStringLiteral("P%1").arg(membru), cnp, c.persoane.isEmpty() ? 1 : 3});
         }
         AdaugaCerereTest(Bd(), c);
         return id;
@@ -108,25 +108,79 @@ TEST_P(AncheteBaza, CalculExpirareDupaVarstaCopiilor) {
         QStringList mesaje;
     } cazuri[] = {
         {"un copil de 10 ani", d, {Cnp(adult, 1), Cnp(QDate(2014, 2, 3), 2)}, 2, 1, l, Valabil, {}},
-        {"singurul copil implineste 18 ani in trei luni", d, {Cnp(adult, 1), Cnp(QDate(2006, 8, 10), 2)}, 2, 1, {},
-         Incetata, {FaraCopii}},
-        {"fara minori", d, {Cnp(adult, 1), Cnp(QDate(2001, 1, 1), 2)}, 2, 0, {}, Incetata, {FaraCopii}},
-        {"doi copii si un adult", d,
-         {Cnp(adult, 1), Cnp(QDate(2012, 6, 1), 2), Cnp(QDate(2006, 7, 1), 3)}, 3, 2, l, Valabil, {}},
-        {"majoratul chiar la sfarsitul termenului", d, {Cnp(adult, 1), Cnp(QDate(2006, 11, 10), 2)}, 2, 1, {},
-         Incetata, {FaraCopii}},
-        {"majoratul a doua zi dupa termen", d, {Cnp(adult, 1), Cnp(QDate(2006, 11, 11), 2)}, 2, 1, l, Valabil, {}},
-        {"majoratul chiar in ziua anchetei", d, {Cnp(adult, 1), Cnp(QDate(2006, 5, 10), 2)}, 2, 0, {}, Incetata,
+        {"singurul copil implineste 18 ani in trei luni",
+         d,
+         {Cnp(adult, 1), Cnp(QDate(2006, 8, 10), 2)},
+         2,
+         1,
+         {},
+         Incetata,
          {FaraCopii}},
-        {"31 august intr-un an comun", QDate(2022, 8, 31), {Cnp(adult, 1), Cnp(QDate(2015, 1, 1), 2)}, 2, 1,
-         QDate(2023, 3, 3), Valabil, {}},
-        {"31 august inaintea unui an bisect", QDate(2023, 8, 31), {Cnp(adult, 1), Cnp(QDate(2015, 1, 1), 2)}, 2, 1,
-         QDate(2024, 3, 2), Valabil, {}},
-        {"31 decembrie", QDate(2023, 12, 31), {Cnp(adult, 1), Cnp(QDate(2015, 1, 1), 2)}, 2, 1, QDate(2024, 7, 1),
-         Valabil, {}},
-        {"luna de nastere necitita", d, {QStringLiteral("1851310400017"), Cnp(QDate(2014, 2, 3), 2)}, 2, 1, l,
-         Valabil, {QStringLiteral("Luna incorecta")}},
-        {"ziua de nastere necitita", d, {Cnp(adult, 1), QStringLiteral("5140232400027")}, 2, 0, {}, Incetata,
+        {"fara minori", d, {Cnp(adult, 1), Cnp(QDate(2001, 1, 1), 2)}, 2, 0, {}, Incetata, {FaraCopii}},
+        {"doi copii si un adult",
+         d,
+         {Cnp(adult, 1), Cnp(QDate(2012, 6, 1), 2), Cnp(QDate(2006, 7, 1), 3)},
+         3,
+         2,
+         l,
+         Valabil,
+         {}},
+        {"majoratul chiar la sfarsitul termenului",
+         d,
+         {Cnp(adult, 1), Cnp(QDate(2006, 11, 10), 2)},
+         2,
+         1,
+         {},
+         Incetata,
+         {FaraCopii}},
+        {"majoratul a doua zi dupa termen", d, {Cnp(adult, 1), Cnp(QDate(2006, 11, 11), 2)}, 2, 1, l, Valabil, {}},
+        {"majoratul chiar in ziua anchetei",
+         d,
+         {Cnp(adult, 1), Cnp(QDate(2006, 5, 10), 2)},
+         2,
+         0,
+         {},
+         Incetata,
+         {FaraCopii}},
+        {"31 august intr-un an comun",
+         QDate(2022, 8, 31),
+         {Cnp(adult, 1), Cnp(QDate(2015, 1, 1), 2)},
+         2,
+         1,
+         QDate(2023, 3, 3),
+         Valabil,
+         {}},
+        {"31 august inaintea unui an bisect",
+         QDate(2023, 8, 31),
+         {Cnp(adult, 1), Cnp(QDate(2015, 1, 1), 2)},
+         2,
+         1,
+         QDate(2024, 3, 2),
+         Valabil,
+         {}},
+        {"31 decembrie",
+         QDate(2023, 12, 31),
+         {Cnp(adult, 1), Cnp(QDate(2015, 1, 1), 2)},
+         2,
+         1,
+         QDate(2024, 7, 1),
+         Valabil,
+         {}},
+        {"luna de nastere necitita",
+         d,
+         {QStringLiteral("1851310400017"), Cnp(QDate(2014, 2, 3), 2)},
+         2,
+         1,
+         l,
+         Valabil,
+         {QStringLiteral("Luna incorecta")}},
+        {"ziua de nastere necitita",
+         d,
+         {Cnp(adult, 1), QStringLiteral("5140232400027")},
+         2,
+         0,
+         {},
+         Incetata,
          {QStringLiteral("Zi incorecta"), FaraCopii}},
         {"CNP prea scurt", d, {QStringLiteral("123"), Cnp(QDate(2014, 2, 3), 2)}, 2, 1, l, Valabil, {}},
         {"data goala nu calculeaza nimic", QDate(), {Cnp(adult, 1), Cnp(QDate(2014, 2, 3), 2)}, 0, 0, {}, {}, {}},
@@ -266,13 +320,29 @@ TEST_P(AncheteBaza, SalvareaAdaugaSiModifica) {
     asteptat.DataExpirarii = QDate(2024, 11, 10);
     asteptat.Motiv = Valabil;
     const auto campuri = [](const Ancheta& x) {
-        return QStringList{QString::number(x.AnchetaID), QString::number(x.CerereID),
-                           x.DataAncheta.toString(Qt::ISODate), x.Intocmitor, x.DataExpirarii.toString(Qt::ISODate),
-                           x.Motiv, QString::number(x.NrMembrii), QString::number(x.NrCopii),
-                           QString::number(x.TipLocuinta.value_or(-1)), QString::number(x.RegimJuridic.value_or(-1)),
-                           x.NrCamere, x.SuprUtila, x.Bunuri, x.Igiena, QString::number(x.TipLocuire.value_or(-1)),
-                           QString::number(x.TipDetinere.value_or(-1)), x.Teren, x.Cladiri, x.Spatii, x.AlteBunuri,
-                           x.StareSanatate, x.Nevoi, x.Aspecte};
+        return QStringList{QString::number(x.AnchetaID),
+                           QString::number(x.CerereID),
+                           x.DataAncheta.toString(Qt::ISODate),
+                           x.Intocmitor,
+                           x.DataExpirarii.toString(Qt::ISODate),
+                           x.Motiv,
+                           QString::number(x.NrMembrii),
+                           QString::number(x.NrCopii),
+                           QString::number(x.TipLocuinta.value_or(-1)),
+                           QString::number(x.RegimJuridic.value_or(-1)),
+                           x.NrCamere,
+                           x.SuprUtila,
+                           x.Bunuri,
+                           x.Igiena,
+                           QString::number(x.TipLocuire.value_or(-1)),
+                           QString::number(x.TipDetinere.value_or(-1)),
+                           x.Teren,
+                           x.Cladiri,
+                           x.Spatii,
+                           x.AlteBunuri,
+                           x.StareSanatate,
+                           x.Nevoi,
+                           x.Aspecte};
     };
     EXPECT_EQ(campuri(*citita), campuri(asteptat));
     EXPECT_TRUE(mesaje.Texte().isEmpty());
@@ -294,7 +364,7 @@ TEST_P(AncheteBaza, SalvareaAdaugaSiModifica) {
     asteptat = b;
     asteptat.DataExpirarii = QDate();
     asteptat.Motiv = Incetata;
-    asteptat.NrCamere = QStringLiteral("2"); // Val, then the nearest whole number, halves to even
+    asteptat.NrCamere = QStringLiteral("2");   // Val, then the nearest whole number, halves to even
     asteptat.SuprUtila = QStringLiteral("61"); // Val stops at the comma
     EXPECT_EQ(campuri(*citita), campuri(asteptat));
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Anchete WHERE Teren IS NULL AND TipLocuire IS NULL "
@@ -312,11 +382,8 @@ TEST_P(AncheteBaza, NumereleTastateIncapInCampuri) {
         const char* camereCitite; // empty: refused
         const char* suprafataCitita;
     } cazuri[] = {
-        {"3 camere", "48.25", "3", "48.25"},
-        {"3.5", "1 2 0", "4", "120"},
-        {"-2", "0.5", "-2", "0.5"},
-        {"99999999999", "50", "", ""},
-        {"3", "1e40", "", ""},
+        {"3 camere", "48.25", "3", "48.25"}, {"3.5", "1 2 0", "4", "120"}, {"-2", "0.5", "-2", "0.5"},
+        {"99999999999", "50", "", ""},       {"3", "1e40", "", ""},
     };
     for (const auto& c : cazuri) {
         SCOPED_TRACE(c.camere);
@@ -339,7 +406,11 @@ TEST_P(AncheteBaza, NumereleTastateIncapInCampuri) {
 TEST_P(AncheteBaza, CheiaNouaEsteMaximulPlusUnu) {
     const qint64 cerere = Cerere(1, {Cnp(QDate(1985, 3, 2), 1), Cnp(QDate(2014, 2, 3), 2)});
     Interogare(Bd(), QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID) VALUES (?, ?), (?, ?)"))
-        .Leaga(41).Leaga(900).Leaga(7).Leaga(900).Executa();
+        .Leaga(41)
+        .Leaga(900)
+        .Leaga(7)
+        .Leaga(900)
+        .Executa();
     const Ancheta a = Completa(cerere, QDate(2024, 5, 10), 1);
     EXPECT_EQ(Anchete::Salveaza(Bd(), mesaje, a, ModAncheta::Adaugare), 42);
     EXPECT_EQ(Anchete::Salveaza(Bd(), mesaje, a, ModAncheta::Adaugare), 43);
@@ -351,24 +422,38 @@ TEST_P(AncheteBaza, ListaAnchetelorCereriiCeleMaiNoiIntai) {
     EXPECT_TRUE(Anchete::ListaAnchete(Bd(), cerere).empty());
     Interogare ins(Bd(), QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, NrMembrii, NrCopii, "
                                         "DataExpirarii, Motiv) VALUES (?, ?, ?, ?, ?, ?, ?)"));
-    ins.Leaga(5).Leaga(cerere).Leaga(QDate(2023, 2, 3)).Leaga(4).Leaga(2).Leaga(QDate(2023, 8, 3)).Leaga(Valabil).Executa();
-    ins.Leaga(6).Leaga(cerere).Leaga(QVariant()).Leaga(QVariant()).Leaga(QVariant()).Leaga(QVariant()).Leaga(QVariant())
+    ins.Leaga(5)
+        .Leaga(cerere)
+        .Leaga(QDate(2023, 2, 3))
+        .Leaga(4)
+        .Leaga(2)
+        .Leaga(QDate(2023, 8, 3))
+        .Leaga(Valabil)
+        .Executa();
+    ins.Leaga(6)
+        .Leaga(cerere)
+        .Leaga(QVariant())
+        .Leaga(QVariant())
+        .Leaga(QVariant())
+        .Leaga(QVariant())
+        .Leaga(QVariant())
         .Executa();
     ins.Leaga(7).Leaga(cerere).Leaga(QDate(2024, 11, 28)).Leaga(3).Leaga(0).Leaga(QVariant()).Leaga(Incetata).Executa();
     ins.Leaga(8).Leaga(900).Leaga(QDate(2024, 12, 1)).Leaga(2).Leaga(1).Leaga(QVariant()).Leaga(QVariant()).Executa();
 
     const auto randuri = Anchete::ListaAnchete(Bd(), cerere);
     const auto text = [](const RandAncheta& r) {
-        return QStringList{QString::number(r.AnchetaID), r.Data, r.NrMembrii, r.NrCopii, r.DataExpirarii, r.Motiv}
-            .join(QLatin1Char('|'));
+        return QStringList{QString::number(r.AnchetaID), r.Data, r.NrMembrii, r.NrCopii, r.DataExpirarii, r.Motiv}.join(
+            QLatin1Char('|'));
     };
     QStringList obtinut;
     for (const auto& r : randuri)
         obtinut << text(r);
-    EXPECT_EQ(obtinut, (QStringList{QStringLiteral("7|28.11.2024|3|0||") + Incetata,
-                                    QStringLiteral("5|03.02.2023|4|2|03.08.2023|") + Valabil,
-                                    QStringLiteral("6|||||")}));
-    EXPECT_EQ(Anchete::TitluAnchete(QStringLiteral("Popa Ion"), randuri.size()), QStringLiteral("Anchetele lui Popa Ion."));
+    EXPECT_EQ(obtinut,
+              (QStringList{QStringLiteral("7|28.11.2024|3|0||") + Incetata,
+                           QStringLiteral("5|03.02.2023|4|2|03.08.2023|") + Valabil, QStringLiteral("6|||||")}));
+    EXPECT_EQ(Anchete::TitluAnchete(QStringLiteral("Popa Ion"), randuri.size()),
+              QStringLiteral("Anchetele lui Popa Ion."));
     EXPECT_EQ(Anchete::TitluAnchete(QStringLiteral("Popa Ion"), 0), QString());
 }
 
@@ -383,7 +468,8 @@ TEST_P(AncheteBaza, ListeleDateGenInOrdineaLorCuLitereMici) {
               (QStringList{QStringLiteral("1 in proprietate"), QStringLiteral("2 in folosinta")}));
     for (int tip : {4, 5, 7})
         EXPECT_FALSE(Anchete::ListaDateGen(Bd(), tip).empty()) << tip;
-    Interogare ins(Bd(), QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, ?, ?, ?, ?)"));
+    Interogare ins(
+        Bd(), QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, ?, ?, ?, ?)"));
     ins.Leaga("PROBA").Leaga(98).Leaga(1).Leaga(QStringLiteral("ÎNTÂI")).Leaga(3).Executa();
     ins.Leaga("PROBA").Leaga(98).Leaga(2).Leaga(QStringLiteral("Al Doilea")).Leaga(1).Executa();
     ins.Leaga("PROBA").Leaga(98).Leaga(3).Leaga(QVariant()).Leaga(2).Executa();
@@ -401,27 +487,42 @@ TEST_P(AncheteBaza, ComenzileCautaRandulInainte) {
         bool rezultat;
         QStringList mesaje;
     } cazuri[] = {
-        {"adaugare fara cerere", [&] { return Anchete::PoateAdauga(Bd(), mesaje, 0); }, false,
+        {"adaugare fara cerere",
+         [&] { return Anchete::PoateAdauga(Bd(), mesaje, 0); },
+         false,
          {QStringLiteral("Selectati o cerere")}},
-        {"adaugare la o cerere stearsa", [&] { return Anchete::PoateAdauga(Bd(), mesaje, 55); }, false,
+        {"adaugare la o cerere stearsa",
+         [&] { return Anchete::PoateAdauga(Bd(), mesaje, 55); },
+         false,
          {QStringLiteral("Cererea selectata a fost stearsa de alt utilizator! Dati clic pe Cauta")}},
         {"adaugare", [&] { return Anchete::PoateAdauga(Bd(), mesaje, cerere); }, true, {}},
-        {"modificare fara ancheta", [&] { return Anchete::PoateModifica(Bd(), mesaje, 0); }, false,
+        {"modificare fara ancheta",
+         [&] { return Anchete::PoateModifica(Bd(), mesaje, 0); },
+         false,
          {QStringLiteral("Selectati o ancheta")}},
-        {"modificarea unei anchete sterse", [&] { return Anchete::PoateModifica(Bd(), mesaje, 77); }, false,
+        {"modificarea unei anchete sterse",
+         [&] { return Anchete::PoateModifica(Bd(), mesaje, 77); },
+         false,
          {RandNegasit}},
         {"modificare", [&] { return Anchete::PoateModifica(Bd(), mesaje, prima); }, true, {}},
-        {"stergere fara ancheta", [&] { return Anchete::Sterge(Bd(), mesaje, 0, QString()); }, false,
+        {"stergere fara ancheta",
+         [&] { return Anchete::Sterge(Bd(), mesaje, 0, QString()); },
+         false,
          {QStringLiteral("Selectati o ancheta!")}},
-        {"stergerea unei anchete sterse", [&] { return Anchete::Sterge(Bd(), mesaje, 77, QStringLiteral("77")); },
-         false, {RandNegasit}},
+        {"stergerea unei anchete sterse",
+         [&] { return Anchete::Sterge(Bd(), mesaje, 77, QStringLiteral("77")); },
+         false,
+         {RandNegasit}},
         {"stergere la care se raspunde Nu",
          [&] {
              mesaje.raspunsuri = {false};
              return Anchete::Sterge(Bd(), mesaje, aDoua, QString::number(aDoua));
          },
-         false, {QStringLiteral("Sigur doriti sa stergeti ancheta %1 ?").arg(aDoua)}},
-        {"stergere", [&] { return Anchete::Sterge(Bd(), mesaje, aDoua, QString::number(aDoua)); }, true,
+         false,
+         {QStringLiteral("Sigur doriti sa stergeti ancheta %1 ?").arg(aDoua)}},
+        {"stergere",
+         [&] { return Anchete::Sterge(Bd(), mesaje, aDoua, QString::number(aDoua)); },
+         true,
          {QStringLiteral("Sigur doriti sa stergeti ancheta %1 ?").arg(aDoua)}},
     };
     for (const auto& c : cazuri) {
