@@ -1,0 +1,140 @@
+#include "Comun.h"
+
+#include "cases/DateCerere.h"
+#include "cases/SalvareCerere.h"
+#include "store/BazaDate.h"
+
+#include <benchmark/benchmark.h>
+
+// The request editor on the demo database of 100,000 requests (SQLite): opening a stored
+// request, and saving a case file of eight persons with their certificates, as a new request
+// and as a change of a stored one. Budgets: 50 ms for each.
+//   ferolanta_bench --benchmark_filter=Cerere
+
+namespace {
+
+constexpr int Cereri = 100000;
+
+void DeschideCerere(benchmark::State& st) {
+    auto db = BazaDate::Deschide(BazaDemoSQLite(Cereri, false));
+    MesajeTacute m;
+    qint64 pas = 0, persoane = 0;
+    for (auto _ : st) {
+        // Spread over the whole table, so that no page stays warm by accident.
+        const qint64 id = 1 + (pas++ * 7919) % Cereri;
+        const CerereIncarcata c = IncarcaCerere(*db, id, 6, 2025, m);
+        if (!c.Gasita) {
+            st.SkipWithError("cererea lipseste din baza demonstrativa");
+            return;
+        }
+        persoane += c.Stare.MatriceMembri ? qint64(c.Stare.MatriceMembri->size()) : 0;
+    }
+    st.counters["persoane/cerere"] = double(persoane) / double(std::max<qint64>(pas, 1));
+}
+
+QString Cnp(int prima, qint64 numar) {
+    return QStringLiteral("%1%2").arg(prima).arg(numar, 12, 10, QLatin1Char('0'));
+}
+
+AdeverintaMembru Adeverinta(int tip, int luni) {
+    AdeverintaMembru a;
+    a.TipAdeverinta = tip;
+    a.NrAdev = QStringLiteral("B-%1").arg(tip);
+    a.DataAdeverinta = QDate(2025, 5, 2);
+    a.DataDepunerii = QDate(2025, 5, 6);
+    a.DataExpAdev = QDate(2025, 5, 31).addMonths(luni);
+    a.AdvCurenta = 1;
+    return a;
+}
+
+// Two adults and six children, two certificates each, incomes, goods and housing; `serie`
+// makes the CNPs new.
+void FamilieDeOpt(DateCerere& d, StareCerere& s, qint64 serie) {
+    d = {};
+    d.Adaug = 1;
+    d.txtCerere[0] = QString::number(900000 + serie);
+    d.txtCerere[1] = QString::number(900000 + serie);
+    d.txtCerere[5] = QStringLiteral("Branesti");
+    d.txtCerere[6] = QStringLiteral("Ilfov");
+    d.txtCerere[12] = QStringLiteral("1200");
+    d.txtCerere[13] = QStringLiteral("150");
+    d.txtCerere[16] = QStringLiteral("6");
+    d.cboCerere[0] = {0, QStringLiteral("Strada Morii")};
+    d.cboCerere[1] = {3, QStringLiteral("IN NUME PROPRIU")};
+    d.cboCerere[2] = {1, QStringLiteral("NUMERAR / MANDAT POSTAL")};
+    d.cboCerere[3] = {1, TextTipCerere(1)};
+    d.cboCerere[4] = {2, QStringLiteral("ACORDATA")};
+    d.dtpData = {QDate(2025, 5, 12), QDate(2025, 6, 1)};
+
+    s = {};
+    std::vector<MembruCerere> membri(8);
+    for (int i = 0; i < 8; ++i) {
+        MembruCerere& p = membri[size_t(i)];
+        p.RudenieID = i == 0 ? 1 : i == 1 ? 2 : 3;
+        p.Nume = QStringLiteral("Popescu");
+        p.Prenume = QStringLiteral("Persoana %1").arg(i);
+        p.CNP = Cnp(i < 2 ? 1 : 5, serie * 8 + i);
+        p.Eliberat = QStringLiteral("SPCLEP Branesti");
+        if (i >= 2) {
+            p.Data18Ani = QDate(2030 + i, 3, 1);
+            p.UScolara = QStringLiteral("Scoala Gimnaziala nr. 1");
+            p.LocScoala = QStringLiteral("Branesti");
+        }
+        p.Adeverinte = {Adeverinta(i >= 2 ? 3 : 6, 6), Adeverinta(2, 12)};
+    }
+    s.MatriceMembri = std::move(membri);
+    s.Venituri[0] = Bani::DinLei(900);
+    s.Venituri[5] = Bani::DinLei(300);
+    s.Bunuri[1] = Bani::DinLei(2);
+    s.LocuinteSel[0] = {3, true};
+    s.Bife = QStringLiteral("0000000000");
+}
+
+void SalveazaCerereNoua(benchmark::State& st) {
+    auto db = BazaDate::Deschide(BazaDemoSQLite(Cereri, true));
+    MesajeTacute m;
+    OptiuniSalvare o;
+    o.LunaSetata = 6;
+    o.AnSetat = 2025;
+    DateCerere d;
+    StareCerere s;
+    qint64 serie = 0;
+    for (auto _ : st) {
+        FamilieDeOpt(d, s, ++serie);
+        if (SalveazaCerere(*db, d, s, {}, o, m).stare != RezultatSalvare::Stare::Salvata) {
+            st.SkipWithError("salvarea s-a oprit");
+            return;
+        }
+    }
+}
+
+void SalveazaCerereModificata(benchmark::State& st) {
+    auto db = BazaDate::Deschide(BazaDemoSQLite(Cereri, true));
+    MesajeTacute m;
+    OptiuniSalvare o;
+    o.LunaSetata = 6;
+    o.AnSetat = 2025;
+    DateCerere d;
+    StareCerere s;
+    FamilieDeOpt(d, s, 777777);
+    const RezultatSalvare r = SalveazaCerere(*db, d, s, {}, o, m);
+    CerereIncarcata c = IncarcaCerere(*db, r.CerereID, 6, 2025, m);
+    if (!c.Gasita) {
+        st.SkipWithError("cererea salvata nu se gaseste");
+        return;
+    }
+    int runda = 0;
+    for (auto _ : st) {
+        (*c.Stare.MatriceMembri)[0].Venit = Bani::DinLei(++runda % 1000);
+        if (SalveazaCerere(*db, c.Date, c.Stare, c.Iesiti, o, m).stare != RezultatSalvare::Stare::Salvata) {
+            st.SkipWithError("salvarea s-a oprit");
+            return;
+        }
+    }
+}
+
+} // namespace
+
+BENCHMARK(DeschideCerere)->Unit(benchmark::kMillisecond);
+BENCHMARK(SalveazaCerereNoua)->Unit(benchmark::kMillisecond);
+BENCHMARK(SalveazaCerereModificata)->Unit(benchmark::kMillisecond);
