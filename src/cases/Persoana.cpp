@@ -120,7 +120,7 @@ DatePersoana DinMembru(const MembruCerere& m) {
     d.cboMembru[cboUScolara] = {0, m.UScolara};
     d.cboMembru[cboLocScoala] = {0, m.LocScoala};
     // The 1 that a person without a school situation carries is not a mark the clerk set.
-    d.chkMembru[chkRepetent] = m.Repetent != 0 && !d.cboMembru[cboSituatieScolara].Gol();
+    d.chkMembru[chkRepetent] = m.Repetent != 0 && !d.cboMembru[cboSituatieScolara].text.isEmpty();
     d.chkMembru[chkAbandon] = m.Abandon != 0;
     d.chkMembru[chkPeste20abs] = m.Peste20abs != 0;
     d.chkMembru[chkDiminuare20] = m.Diminuare20 != 0;
@@ -137,8 +137,8 @@ DatePersoana DinMembru(const MembruCerere& m) {
     return d;
 }
 
-int RepetentStocat(bool chkRepetent, const Alegere& situatieScolara) {
-    return chkRepetent || situatieScolara.Gol() ? 1 : 0;
+int RepetentStocat(bool chkRepetent, const AlegereCombo& situatieScolara) {
+    return chkRepetent || situatieScolara.text.isEmpty() ? 1 : 0;
 }
 
 MembruCerere InMembru(const DatePersoana& d, const MembruCerere& inainte) {
@@ -151,30 +151,30 @@ MembruCerere InMembru(const DatePersoana& d, const MembruCerere& inainte) {
     m.CNP = d.cboCNP.trimmed();
     m.Nume = d.txtMembru[txtNume];
     m.Prenume = d.txtMembru[txtPrenume];
-    m.RudenieID = d.cboMembru[cboRudenie].Valoare;
-    m.Rudenie = d.cboMembru[cboRudenie].Text;
-    m.TipAct = d.cboMembru[cboTipAct].Valoare;
+    m.RudenieID = int(d.cboMembru[cboRudenie].id);
+    m.Rudenie = d.cboMembru[cboRudenie].text;
+    m.TipAct = int(d.cboMembru[cboTipAct].id);
     m.SerieBI = d.txtMembru[txtSerieBI];
     m.NrBI = d.txtMembru[txtNrBI];
-    m.Eliberat = d.cboMembru[cboEliberat].Text;
+    m.Eliberat = d.cboMembru[cboEliberat].text;
     m.DataElib = d.dtpData[dtpDataElib];
-    m.CetatenieID = d.cboMembru[cboCetatenie].Valoare;
+    m.CetatenieID = int(d.cboMembru[cboCetatenie].id);
     m.TaraCetatenie = d.txtMembru[txtTaraCetatenie];
-    m.ResedintaID = d.cboMembru[cboResedinta].Valoare;
+    m.ResedintaID = int(d.cboMembru[cboResedinta].id);
     m.LocResedinta = d.txtMembru[txtLocResedinta];
     m.TaraResedinta = d.txtMembru[txtTaraResedinta];
-    m.StCivila = d.cboMembru[cboStCivila].Valoare;
+    m.StCivila = int(d.cboMembru[cboStCivila].id);
     if (EsteAdult(m.RudenieID)) {
-        m.Studii = d.cboMembru[cboStudii].Valoare;
-        m.OcupatieID = d.cboMembru[cboOcupatie].Valoare;
-        m.Ocupatie = d.cboMembru[cboOcupatie].Text;
+        m.Studii = int(d.cboMembru[cboStudii].id);
+        m.OcupatieID = int(d.cboMembru[cboOcupatie].id);
+        m.Ocupatie = d.cboMembru[cboOcupatie].text;
     } else {
-        const Alegere& situatie = d.cboMembru[cboSituatieScolara];
-        m.Studii = situatie.Valoare;
-        m.OcupatieID = situatie.Valoare;
-        m.Ocupatie = situatie.Text;
+        const AlegereCombo& situatie = d.cboMembru[cboSituatieScolara];
+        m.Studii = int(situatie.id);
+        m.OcupatieID = int(situatie.id);
+        m.Ocupatie = situatie.text;
     }
-    m.DrAsSociala = d.cboMembru[cboDrAsSociala].Valoare;
+    m.DrAsSociala = int(d.cboMembru[cboDrAsSociala].id);
     m.LocuitAfara = bifa(d.chkMembru[chkLocuitAfara]);
     m.Perioada11 = d.txtMembru[txtPerioada11];
     m.TaraAfara11 = d.txtMembru[txtTaraAfara11];
@@ -188,22 +188,22 @@ MembruCerere InMembru(const DatePersoana& d, const MembruCerere& inainte) {
     m.VMG = bifa(d.chkMembru[chkVMG]);
     m.Alocatie = bifa(d.chkMembru[chkAlocatie]);
     m.Incalzire = bifa(d.chkMembru[chkIncalzire]);
-    m.TipIncalzTrecut = d.cboMembru[cboTipIncalzTrecut].Valoare;
+    m.TipIncalzTrecut = int(d.cboMembru[cboTipIncalzTrecut].id);
     m.Dizabilitate = bifa(d.chkMembru[chkDizabilitate]);
-    m.UScolara = d.cboMembru[cboUScolara].Text;
-    m.LocScoala = d.cboMembru[cboLocScoala].Text;
+    m.UScolara = d.cboMembru[cboUScolara].text;
+    m.LocScoala = d.cboMembru[cboLocScoala].text;
     m.Repetent = RepetentStocat(d.chkMembru[chkRepetent], d.cboMembru[cboSituatieScolara]);
     m.Abandon = bifa(d.chkMembru[chkAbandon]);
     m.Peste20abs = bifa(d.chkMembru[chkPeste20abs]);
     m.Diminuare20 = bifa(d.chkMembru[chkDiminuare20]);
     m.Diminuare50 = bifa(d.chkMembru[chkDiminuare50]);
     m.Data18Ani = d.dtpData[dtpData18Ani];
-    m.Motiv = d.cboMembru[cboMotiv].Text;
-    m.MotivID = d.cboMembru[cboMotivID].Valoare;
-    m.TipValuta = d.cboMembru[cboTipValuta].Valoare;
+    m.Motiv = d.cboMembru[cboMotiv].text;
+    m.MotivID = int(d.cboMembru[cboMotivID].id);
+    m.TipValuta = int(d.cboMembru[cboTipValuta].id);
     m.DataStare = d.dtpData[dtpDataStare];
     m.ModificatLaSalvare = 1;
-    m.StareMembru = d.cboMembru[cboStareMembru].Valoare;
+    m.StareMembru = int(d.cboMembru[cboStareMembru].id);
     const NastereCNP nastere = NastereDinCNP(m.CNP);
     m.DataNastere = nastere.DataNastere;
     m.DataNast = nastere.lblDataNast;
@@ -230,7 +230,7 @@ QString VerificaPersoana(const DatePersoana& d, const ContextPersoana& c, const 
     if (d.txtMembru[txtPrenume].trimmed().isEmpty())
         return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Prenumele"),
                     numeControl("txtMembru", txtPrenume));
-    if (d.cboMembru[cboRudenie].Valoare == 0)
+    if (d.cboMembru[cboRudenie].id == 0)
         return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Gradul de rudenie"),
                     numeControl("cboMembru", cboRudenie));
     return {};
@@ -367,7 +367,7 @@ RezultatPlecareCNP PlecareCNP(DatePersoana& d, const ContextPersoana& c, const S
 
 ControaleDependente StareControale(const DatePersoana& d) {
     ControaleDependente s;
-    const int rudenie = d.cboMembru[cboRudenie].Valoare;
+    const int rudenie = int(d.cboMembru[cboRudenie].id);
     if (EsteAdult(rudenie))
         s.Adult = true;
     else if (rudenie == 3 || (rudenie >= 6 && rudenie <= 10))
@@ -375,7 +375,7 @@ ControaleDependente StareControale(const DatePersoana& d) {
     s.picLucreaza = d.chkMembru[chkLucreazaAfara];
     s.picLocuieste = d.chkMembru[chkLocuitAfara];
     s.cboTipIncalzTrecut = d.chkMembru[chkIncalzire];
-    s.RepetentAplicabil = d.cboMembru[cboSituatieScolara].Text.startsWith(QLatin1String("elev"), Qt::CaseInsensitive);
+    s.RepetentAplicabil = d.cboMembru[cboSituatieScolara].text.startsWith(QLatin1String("elev"), Qt::CaseInsensitive);
     s.SumaVenitActiva = d.chkVenit[chkVenitDa];
     return s;
 }
@@ -383,8 +383,8 @@ ControaleDependente StareControale(const DatePersoana& d) {
 void ClickGrupElev(DatePersoana& d, int element, Mesaje& m) {
     static constexpr int grup[] = {chkRepetent, chkAbandon, chkPeste20abs, chkDiminuare20, chkDiminuare50, chkNiciUna};
     if (element == chkRepetent) {
-        const Alegere& situatie = d.cboMembru[cboSituatieScolara];
-        if (d.chkMembru[chkRepetent] && (situatie.Gol() || situatie.Valoare < 3)) {
+        const AlegereCombo& situatie = d.cboMembru[cboSituatieScolara];
+        if (d.chkMembru[chkRepetent] && (situatie.text.isEmpty() || situatie.id < 3)) {
             m.Avertisment(QStringLiteral("Pentru a putea fi repetent copilul trebuie sa fie elev."));
             d.chkMembru[chkRepetent] = false;
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cases/DateCerere.h"
 #include "cases/StareCerere.h"
 
 #include <QDate>
@@ -70,21 +71,14 @@ enum Dtp : int { dtpDataElib = 0, dtpDataStare = 1, dtpData18Ani = 2 };
 enum Venit : int { chkVenitDa = 0, chkVenitNu = 1 };
 } // namespace ElemPersoana
 
-// A combo with a hidden id column: the id of the chosen row (0 when none) and the text shown.
-// Combos that hold only a text (issuer, school, its town, reason of expiry) leave the id at 0.
-struct Alegere {
-    int Valoare = 0;
-    QString Text;
-    bool Gol() const { return Text.isEmpty(); }
-};
-
 // What the controls of frmAddMembru hold about one person. The form reads its widgets into this,
-// calls the functions below, and writes the result back.
+// calls the functions below, and writes the result back. A combo that holds only a text (issuer,
+// school, its town, reason of expiry) leaves its id at 0; a list combo is empty when its text is.
 struct DatePersoana {
     qint64 MembruID = 0; // the person's Membrii row, 0 for a new one
     QString cboCNP;
     std::array<QString, 20> txtMembru{};
-    std::array<Alegere, 17> cboMembru{};
+    std::array<AlegereCombo, 17> cboMembru{};
     std::array<bool, 14> chkMembru{};
     std::array<bool, 2> chkVenit{};
     std::array<QDate, 3> dtpData{};
@@ -107,7 +101,7 @@ DatePersoana DinMembru(const MembruCerere& m);
 MembruCerere InMembru(const DatePersoana& d, const MembruCerere& inainte);
 // Repeating is 1 when the box is checked and also when no school situation is chosen: a child
 // without one drops out of the count of children, and every adult carries 1.
-int RepetentStocat(bool chkRepetent, const Alegere& situatieScolara);
+int RepetentStocat(bool chkRepetent, const AlegereCombo& situatieScolara);
 
 // The checks of OK, stopping at the first failure: shows its message and returns the objectName
 // of the control to focus; an empty text when all passed.

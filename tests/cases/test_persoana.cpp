@@ -378,10 +378,10 @@ TEST(InMembru, RepetentStocat) {
         const char* nume;
         int rudenie;
         bool bifat;
-        Alegere situatie;
+        AlegereCombo situatie;
         int repetent;
     };
-    const Alegere elev{3, T("ELEV CL I-VIII")}, prescolar{1, T("PRESCOLAR")};
+    const AlegereCombo elev{3, T("ELEV CL I-VIII")}, prescolar{1, T("PRESCOLAR")};
     const Caz cazuri[] = {
         {"copil elev nebifat", 3, false, elev, 0},
         {"copil elev bifat", 3, true, elev, 1},
@@ -494,10 +494,10 @@ TEST(PersoanaNoua, PrimaPersoanaEsteTitularul) {
     goala.MatriceMembri.emplace();
     for (const StareCerere* s : {&nedimensionata, &goala}) {
         const DatePersoana d = PersoanaNoua(*s);
-        EXPECT_EQ(d.cboMembru[cboRudenie].Valoare, 1);
-        EXPECT_EQ(d.cboMembru[cboRudenie].Text, T("TITULARUL"));
+        EXPECT_EQ(d.cboMembru[cboRudenie].id, 1);
+        EXPECT_EQ(d.cboMembru[cboRudenie].text, T("TITULARUL"));
     }
-    EXPECT_EQ(PersoanaNoua(DouaPersoane()).cboMembru[cboRudenie].Valoare, 0);
+    EXPECT_EQ(PersoanaNoua(DouaPersoane()).cboMembru[cboRudenie].id, 0);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -617,11 +617,11 @@ TEST(GrupElev, UnClicLasaCelMultOStare) {
         const char* nume;
         std::vector<int> bifate; // after the click, the clicked box included when checked
         int element;
-        Alegere situatie;
+        AlegereCombo situatie;
         std::vector<int> rezultat;
         QStringList mesaje = {};
     };
-    const Alegere elev{3, T("ELEV CL I-VIII")}, liceu{4, T("ELEV CL IX-XII")}, faraStudii{2, T("FARA STUDII")};
+    const AlegereCombo elev{3, T("ELEV CL I-VIII")}, liceu{4, T("ELEV CL IX-XII")}, faraStudii{2, T("FARA STUDII")};
     const QString nuEsteElev = T("Pentru a putea fi repetent copilul trebuie sa fie elev.");
     const Caz cazuri[] = {
         {"abandon sterge restul", {chkRepetent, chkAbandon, chkPeste20abs, chkDiminuare20, chkDiminuare50}, chkAbandon,
@@ -735,7 +735,7 @@ TEST_P(PlecareCNPBaza, CNPNecunoscutCompleteazaDatele) {
     EXPECT_EQ(r.Date->Nastere.lblDataNast, T("15 Martie 2010"));
     EXPECT_EQ(r.Date->lblVarsta, T("Varsta: 14"));
     EXPECT_EQ(d.dtpData[dtpData18Ani], QDate(2028, 3, 15));
-    EXPECT_EQ(d.cboMembru[cboMotiv].Text, T("implinirea varstei de 18 ani"));
+    EXPECT_EQ(d.cboMembru[cboMotiv].text, T("implinirea varstei de 18 ani"));
     EXPECT_EQ(d.MembruID, 0);
     EXPECT_EQ(d.txtMembru[txtNume], T("IONESCU"));
 
@@ -743,7 +743,7 @@ TEST_P(PlecareCNPBaza, CNPNecunoscutCompleteazaDatele) {
     d.cboCNP = CnpTitular;
     Pleaca(d, 1, 0, StareCerere{});
     EXPECT_FALSE(d.dtpData[dtpData18Ani].isValid());
-    EXPECT_TRUE(d.cboMembru[cboMotiv].Gol());
+    EXPECT_TRUE(d.cboMembru[cboMotiv].text.isEmpty());
 }
 
 TEST_P(PlecareCNPBaza, PersoanaCunoscutaEsteReluataCuAnunt) {
@@ -759,14 +759,14 @@ TEST_P(PlecareCNPBaza, PersoanaCunoscutaEsteReluataCuAnunt) {
     EXPECT_EQ(d.MembruID, 11);
     EXPECT_EQ(d.txtMembru[txtNume], T("POPESCU"));
     EXPECT_EQ(d.txtMembru[txtPrenume], T("ION"));
-    EXPECT_EQ(d.cboMembru[cboTipAct].Valoare, 2);
+    EXPECT_EQ(d.cboMembru[cboTipAct].id, 2);
     EXPECT_EQ(d.txtMembru[txtSerieBI], T("XZ"));
     EXPECT_EQ(d.txtMembru[txtNrBI], T("123456"));
-    EXPECT_EQ(d.cboMembru[cboEliberat].Text, T("SPCLEP Branesti"));
+    EXPECT_EQ(d.cboMembru[cboEliberat].text, T("SPCLEP Branesti"));
     EXPECT_EQ(d.dtpData[dtpDataElib], QDate(2019, 4, 2));
     EXPECT_TRUE(d.chkMembru[chkDizabilitate]);
     // What belongs to the request is left to be entered anew.
-    EXPECT_EQ(d.cboMembru[cboRudenie].Valoare, 2);
+    EXPECT_EQ(d.cboMembru[cboRudenie].id, 2);
     ASSERT_TRUE(r.Date);
     EXPECT_EQ(r.Date->Nastere.DataNastere, QDate(1977, 2, 3));
 }
@@ -799,7 +799,7 @@ TEST_P(PlecareCNPBaza, PersoanaFaraCerereEsteReluataFaraAnunt) {
     EXPECT_TRUE(r.PersoanaReluata);
     EXPECT_EQ(d.MembruID, 12);
     EXPECT_EQ(d.txtMembru[txtNume], T("VASILE"));
-    EXPECT_EQ(d.cboMembru[cboTipAct].Valoare, 0);
+    EXPECT_EQ(d.cboMembru[cboTipAct].id, 0);
     EXPECT_FALSE(d.dtpData[dtpDataElib].isValid());
 }
 
