@@ -20,7 +20,11 @@ public:
     explicit TexteDateGen(BazaDate& db) {
         Interogare q(db, QStringLiteral("SELECT Tip, DataID, Continut FROM DateGen WHERE Tip IN (?, ?, ?, ?, ?, ?) "
                                         "ORDER BY Tip, DataID, Ordine"));
-        q.Leaga(TipStare).Leaga(TipRudenie).Leaga(TipOcupatie).Leaga(TipModPlata).Leaga(TipReprLegal)
+        q.Leaga(TipStare)
+            .Leaga(TipRudenie)
+            .Leaga(TipOcupatie)
+            .Leaga(TipModPlata)
+            .Leaga(TipReprLegal)
             .Leaga(TipSituatieScolara)
             .Executa();
         while (q.Urmator())
@@ -44,10 +48,18 @@ private:
     std::map<std::pair<int, qint64>, QString> texte_;
 };
 
-QString NumarText(const QVariant& v) { return v.isNull() ? QString() : QString::number(v.toLongLong()); }
-QString SumaText(const QVariant& v) { return v.isNull() ? QString() : TextSuma(Bani::DinVariant(v)); }
-int Octet(const Interogare& q, const QString& camp) { return int(q.Intreg(camp)); }
-bool Fanion(const Interogare& q, const QString& camp) { return q.Intreg(camp) != 0; }
+QString NumarText(const QVariant& v) {
+    return v.isNull() ? QString() : QString::number(v.toLongLong());
+}
+QString SumaText(const QVariant& v) {
+    return v.isNull() ? QString() : TextSuma(Bani::DinVariant(v));
+}
+int Octet(const Interogare& q, const QString& camp) {
+    return int(q.Intreg(camp));
+}
+bool Fanion(const Interogare& q, const QString& camp) {
+    return q.Intreg(camp) != 0;
+}
 
 // The birth fields of the list from the CNP, with the notices of a wrong code.
 void DateNastere(MembruCerere& p, const QVariant& cnp, Mesaje& m) {
@@ -74,17 +86,20 @@ void DateNastere(MembruCerere& p, const QVariant& cnp, Mesaje& m) {
 
 std::vector<MembruCerere> IncarcaMembri(BazaDate& db, qint64 cerereID, const TexteDateGen& dg, Mesaje& m) {
     std::vector<MembruCerere> membri;
-    Interogare q(db, QStringLiteral(
-        "SELECT M.MembruID, M.Nume, M.Prenume, M.CNP, M.TipAct, M.SerieBI, M.NrBI, M.Eliberat, M.DataElib, "
-        "M.Dizabilitate, CM.RudenieID, CM.CetatenieID, CM.TaraCetatenie, CM.ResedintaID, CM.LocResedinta, "
-        "CM.TaraResedinta, CM.StCivila, CM.Studii, CM.OcupatieID, CM.DrAsSociala, CM.Data18Ani, CM.Motiv, "
-        "CM.MotivStare, CM.DataStare, CM.LocuitAfara, CM.Perioada11, CM.TaraAfara11, CM.Perioada22, CM.TaraAfara22, "
-        "CM.LucreazaAfara, CM.Perioada1, CM.TaraAfara1, CM.Perioada2, CM.TaraAfara2, CM.UScolara, CM.LocScoala, "
-        "CM.VMG, CM.Alocatie, CM.Incalzire, CM.TipIncalzTrecut, CM.Venit, CM.Repetent, CM.Abandon, CM.Peste20abs, "
-        "CM.MotivID, CM.Suma, CM.TipValuta, CM.StareMembru, CM.Diminuare20, CM.Diminuare50 "
-        "FROM Membrii M INNER JOIN CereriMembrii CM ON M.MembruID = CM.MembruID WHERE CM.CerereID = ? "
-        // The titular first, the partner second; a missing kinship sorts first on both engines.
-        "ORDER BY CASE WHEN CM.RudenieID IS NULL THEN 0 ELSE 1 END, CM.RudenieID, CM.MembruID"));
+    Interogare q(
+        db,
+        QStringLiteral(
+            "SELECT M.MembruID, M.Nume, M.Prenume, M.CNP, M.TipAct, M.SerieBI, M.NrBI, M.Eliberat, M.DataElib, "
+            "M.Dizabilitate, CM.RudenieID, CM.CetatenieID, CM.TaraCetatenie, CM.ResedintaID, CM.LocResedinta, "
+            "CM.TaraResedinta, CM.StCivila, CM.Studii, CM.OcupatieID, CM.DrAsSociala, CM.Data18Ani, CM.Motiv, "
+            "CM.MotivStare, CM.DataStare, CM.LocuitAfara, CM.Perioada11, CM.TaraAfara11, CM.Perioada22, "
+            "CM.TaraAfara22, "
+            "CM.LucreazaAfara, CM.Perioada1, CM.TaraAfara1, CM.Perioada2, CM.TaraAfara2, CM.UScolara, CM.LocScoala, "
+            "CM.VMG, CM.Alocatie, CM.Incalzire, CM.TipIncalzTrecut, CM.Venit, CM.Repetent, CM.Abandon, CM.Peste20abs, "
+            "CM.MotivID, CM.Suma, CM.TipValuta, CM.StareMembru, CM.Diminuare20, CM.Diminuare50 "
+            "FROM Membrii M INNER JOIN CereriMembrii CM ON M.MembruID = CM.MembruID WHERE CM.CerereID = ? "
+            // The titular first, the partner second; a missing kinship sorts first on both engines.
+            "ORDER BY CASE WHEN CM.RudenieID IS NULL THEN 0 ELSE 1 END, CM.RudenieID, CM.MembruID"));
     q.Leaga(cerereID).Executa();
     while (q.Urmator()) {
         MembruCerere p;
@@ -109,7 +124,7 @@ std::vector<MembruCerere> IncarcaMembri(BazaDate& db, qint64 cerereID, const Tex
         p.OcupatieID = Octet(q, QStringLiteral("OcupatieID"));
         // A child's occupation is its school situation, kept in Studii.
         p.Ocupatie = p.Rudenie.contains(QStringLiteral("COPIL")) ? dg.TextSauGol(TipSituatieScolara, p.Studii)
-                                                                  : dg.TextSauGol(TipOcupatie, p.OcupatieID);
+                                                                 : dg.TextSauGol(TipOcupatie, p.OcupatieID);
         p.DrAsSociala = Octet(q, QStringLiteral("DrAsSociala"));
         p.Data18Ani = q.Data(QStringLiteral("Data18Ani"));
         p.Motiv = q.Text(QStringLiteral("Motiv"));
@@ -153,10 +168,12 @@ void IncarcaAdeverinte(BazaDate& db, qint64 cerereID, std::vector<MembruCerere>&
     std::unordered_map<qint64, MembruCerere*> dupaID;
     for (MembruCerere& p : membri)
         dupaID.try_emplace(p.MembruID, &p);
-    Interogare q(db, QStringLiteral(
-        "SELECT AdevID, MembruID, TipAdeverinta, NrAdev, DataAdeverinta, DataDepunerii, DataExpAdev, AdvCurenta "
-        "FROM Adeverinte WHERE CerereID = ? "
-        "ORDER BY MembruID, CASE WHEN DataExpAdev IS NULL THEN 1 ELSE 0 END, DataExpAdev DESC, AdevID"));
+    Interogare q(
+        db,
+        QStringLiteral(
+            "SELECT AdevID, MembruID, TipAdeverinta, NrAdev, DataAdeverinta, DataDepunerii, DataExpAdev, AdvCurenta "
+            "FROM Adeverinte WHERE CerereID = ? "
+            "ORDER BY MembruID, CASE WHEN DataExpAdev IS NULL THEN 1 ELSE 0 END, DataExpAdev DESC, AdevID"));
     q.Leaga(cerereID).Executa();
     while (q.Urmator()) {
         const auto p = dupaID.find(q.Intreg(QStringLiteral("MembruID")));
@@ -174,8 +191,7 @@ void IncarcaAdeverinte(BazaDate& db, qint64 cerereID, std::vector<MembruCerere>&
 }
 
 // Rows of (code, value) of a child table of the request; a code seen twice keeps its first value.
-template <typename F>
-void CitesteCoduri(BazaDate& db, const QString& sql, qint64 cerereID, F&& pune) {
+template <typename F> void CitesteCoduri(BazaDate& db, const QString& sql, qint64 cerereID, F&& pune) {
     Interogare q(db, sql);
     q.Leaga(cerereID).Executa();
     while (q.Urmator())
@@ -183,10 +199,11 @@ void CitesteCoduri(BazaDate& db, const QString& sql, qint64 cerereID, F&& pune) 
 }
 
 void IncarcaIesiti(BazaDate& db, qint64 cerereID, const TexteDateGen& dg, std::vector<MembruIesit>& iesiti) {
-    Interogare q(db, QStringLiteral(
-        "SELECT X.MembruID, X.RudenieID, X.MotivID, X.Suma, X.TipValuta, M.Nume, M.Prenume, M.CNP, M.SerieBI, M.NrBI "
-        "FROM CMIesiti X LEFT JOIN Membrii M ON M.MembruID = X.MembruID WHERE X.CerereID = ? "
-        "ORDER BY X.MembruID, X.RudenieID"));
+    Interogare q(db,
+                 QStringLiteral("SELECT X.MembruID, X.RudenieID, X.MotivID, X.Suma, X.TipValuta, M.Nume, M.Prenume, "
+                                "M.CNP, M.SerieBI, M.NrBI "
+                                "FROM CMIesiti X LEFT JOIN Membrii M ON M.MembruID = X.MembruID WHERE X.CerereID = ? "
+                                "ORDER BY X.MembruID, X.RudenieID"));
     q.Leaga(cerereID).Executa();
     while (q.Urmator()) {
         MembruIesit r;
@@ -259,8 +276,8 @@ void AfisDate(const Interogare& q, const TexteDateGen& dg, DateCerere& d, StareC
 
     s.Gospodarire = Octet(q, QStringLiteral("Gospodarire"));
     s.LunaGospod = Octet(q, QStringLiteral("LunaGospod"));
-    s.GospodLoc = q.EsteNul(QStringLiteral("GospodLoc")) ? (s.Gospodarire != 0 ? 2 : 0)
-                                                          : Octet(q, QStringLiteral("GospodLoc"));
+    s.GospodLoc =
+        q.EsteNul(QStringLiteral("GospodLoc")) ? (s.Gospodarire != 0 ? 2 : 0) : Octet(q, QStringLiteral("GospodLoc"));
     s.NrCamere = Octet(q, QStringLiteral("NrCamere"));
     s.TipDobandire = Octet(q, QStringLiteral("TipDobandire"));
     s.RegimJuridLoc = Octet(q, QStringLiteral("RegimJuridLoc"));
@@ -281,16 +298,20 @@ CerereIncarcata Incarca(BazaDate& db, qint64 cerereID, int lunaSetata, int anSet
     const TexteDateGen dg(db);
     qint64 nrCopiiSalvat = 0;
     {
-        Interogare q(db, QStringLiteral(
-            "SELECT C.CerereID, C.FamilieID, C.NrCerere, C.NrCerere2, C.DataCerere, C.Stare, C.MotivStare, "
-            "C.DataStare, C.VenitTotal, C.VenitPeMembru, C.Cuantum, C.NrMembrii, C.NrCopii, C.TipCerere, C.ReprLegal, "
-            "C.ModPlata, C.NumeTitularCont, C.Cont, C.Banca, C.LuniRetro, C.Vmg, C.Inc, C.Supl, C.A1Solicita, "
-            "C.Gospodarire, C.LunaGospod, C.GospodLoc, C.NrCamere, C.TipDobandire, C.RegimJuridLoc, C.TipIncalzire, "
-            "C.TipLocuinta, C.Polita, C.SocietatePolita, C.NrPolita, C.DataStartPolita, C.DataStopPolita, "
-            "C.AcoperaRiscuri, C.Bife, C.ActeBife, F.FamilieID AS FamiliaGasita, F.NrDosar, F.NrDosar2, F.Judet, "
-            "F.Localitate, F.Strada, F.Nr, F.Bloc, F.Sc, F.Ap, F.Telefon, F.Mobil, F.JudetR, F.LocalitateR, "
-            "F.StradaR, F.NrR, F.BlocR, F.ScR, F.ApR "
-            "FROM Cereri C LEFT JOIN Familii F ON F.FamilieID = C.FamilieID WHERE C.CerereID = ?"));
+        Interogare q(
+            db,
+            QStringLiteral(
+                "SELECT C.CerereID, C.FamilieID, C.NrCerere, C.NrCerere2, C.DataCerere, C.Stare, C.MotivStare, "
+                "C.DataStare, C.VenitTotal, C.VenitPeMembru, C.Cuantum, C.NrMembrii, C.NrCopii, C.TipCerere, "
+                "C.ReprLegal, "
+                "C.ModPlata, C.NumeTitularCont, C.Cont, C.Banca, C.LuniRetro, C.Vmg, C.Inc, C.Supl, C.A1Solicita, "
+                "C.Gospodarire, C.LunaGospod, C.GospodLoc, C.NrCamere, C.TipDobandire, C.RegimJuridLoc, "
+                "C.TipIncalzire, "
+                "C.TipLocuinta, C.Polita, C.SocietatePolita, C.NrPolita, C.DataStartPolita, C.DataStopPolita, "
+                "C.AcoperaRiscuri, C.Bife, C.ActeBife, F.FamilieID AS FamiliaGasita, F.NrDosar, F.NrDosar2, F.Judet, "
+                "F.Localitate, F.Strada, F.Nr, F.Bloc, F.Sc, F.Ap, F.Telefon, F.Mobil, F.JudetR, F.LocalitateR, "
+                "F.StradaR, F.NrR, F.BlocR, F.ScR, F.ApR "
+                "FROM Cereri C LEFT JOIN Familii F ON F.FamilieID = C.FamilieID WHERE C.CerereID = ?"));
         q.Leaga(cerereID);
         if (!q.Exista() || q.EsteNul(QStringLiteral("FamiliaGasita"))) {
             r.Mesaj = TextRandNegasit;

@@ -74,8 +74,12 @@ QVariant Text(const char* tabela, const char* camp, const QString& v) {
                          .arg(c->marime));
     return v;
 }
-QVariant Data(const QDate& d) { return d.isValid() ? QVariant(d) : QVariant(); }
-QVariant Cheie(qint64 id) { return id > 0 ? QVariant(id) : QVariant(); }
+QVariant Data(const QDate& d) {
+    return d.isValid() ? QVariant(d) : QVariant();
+}
+QVariant Cheie(qint64 id) {
+    return id > 0 ? QVariant(id) : QVariant();
+}
 
 // A whole number typed in a box, as the field takes it: the leading number, rounded half to even.
 qint64 Numar(const QString& text, qint64 maxim, const QString& eticheta) {
@@ -85,9 +89,13 @@ qint64 Numar(const QString& text, qint64 maxim, const QString& eticheta) {
     return qint64(v);
 }
 
-Bani Suma(const QString& text) { return text.trimmed().isEmpty() ? Bani() : SumaText(text); }
+Bani Suma(const QString& text) {
+    return text.trimmed().isEmpty() ? Bani() : SumaText(text);
+}
 
-QString Cifra(bool b) { return b ? QStringLiteral("1") : QStringLiteral("0"); }
+QString Cifra(bool b) {
+    return b ? QStringLiteral("1") : QStringLiteral("0");
+}
 
 // The names of one reference list that the case file uses and the list lacks are added, each
 // with the next key; the comparison ignores case, as the old LIKE did.
@@ -109,10 +117,11 @@ void ExtindeLista(BazaDate& db, const char* tabela, const char* cheie, bool cuLo
         if (cunoscute.contains(n.toCaseFolded())) continue;
         if (!ins) {
             urmatoarea = db.CheieNoua(QLatin1String(tabela), QLatin1String(cheie));
-            ins.emplace(db, cuLocalitate ? QStringLiteral("INSERT INTO %1 (%2, Denumire, LocalitateID) VALUES (?, ?, ?)")
-                                               .arg(QLatin1String(tabela), QLatin1String(cheie))
-                                         : QStringLiteral("INSERT INTO %1 (%2, Denumire) VALUES (?, ?)")
-                                               .arg(QLatin1String(tabela), QLatin1String(cheie)));
+            ins.emplace(db, cuLocalitate
+                                ? QStringLiteral("INSERT INTO %1 (%2, Denumire, LocalitateID) VALUES (?, ?, ?)")
+                                      .arg(QLatin1String(tabela), QLatin1String(cheie))
+                                : QStringLiteral("INSERT INTO %1 (%2, Denumire) VALUES (?, ?)")
+                                      .arg(QLatin1String(tabela), QLatin1String(cheie)));
         }
         ins->Leaga(urmatoarea++).Leaga(Text(tabela, "Denumire", n));
         if (cuLocalitate) ins->Leaga(1);
@@ -462,8 +471,8 @@ private:
                 qint64 id = a.AdevID;
                 if (id <= 0 || !ocupate.insert(id).second) {
                     if (urmatoarea == 0)
-                        urmatoarea = std::max(db_.CheieNoua(QStringLiteral("Adeverinte"), QStringLiteral("AdevID")),
-                                              maxim + 1);
+                        urmatoarea =
+                            std::max(db_.CheieNoua(QStringLiteral("Adeverinte"), QStringLiteral("AdevID")), maxim + 1);
                     id = urmatoarea++;
                 }
                 randuri.push_back({
@@ -486,7 +495,8 @@ private:
         std::vector<Randuri> randuri;
         for (size_t i = 0; i < s_.Venituri.size(); ++i)
             if (s_.Venituri[i] > Bani())
-                randuri.push_back({{"CerereID", cerereID_}, {"CodVenit", qint64(i + 1)}, {"Valoare", suma(s_.Venituri[i])}});
+                randuri.push_back(
+                    {{"CerereID", cerereID_}, {"CodVenit", qint64(i + 1)}, {"Valoare", suma(s_.Venituri[i])}});
         ScrieToate(db_, "Venituri", randuri);
     }
 
@@ -495,9 +505,8 @@ private:
         std::vector<Randuri> randuri;
         for (size_t i = 0; i < s_.LocuinteSel.size(); ++i)
             if (s_.LocuinteSel[i].Bifat)
-                randuri.push_back({{"CerereID", cerereID_},
-                                   {"Cod", qint64(i + 1)},
-                                   {"NrCamere", s_.LocuinteSel[i].NrCamere}});
+                randuri.push_back(
+                    {{"CerereID", cerereID_}, {"Cod", qint64(i + 1)}, {"NrCamere", s_.LocuinteSel[i].NrCamere}});
         ScrieToate(db_, "Locuinte", randuri);
     }
 
@@ -506,7 +515,8 @@ private:
         std::vector<Randuri> randuri;
         for (size_t i = 0; i < s_.Bunuri.size(); ++i)
             if (s_.Bunuri[i] > Bani())
-                randuri.push_back({{"CerereID", cerereID_}, {"NrBifa", qint64(i + 9)}, {"Valoare", suma(s_.Bunuri[i])}});
+                randuri.push_back(
+                    {{"CerereID", cerereID_}, {"NrBifa", qint64(i + 9)}, {"Valoare", suma(s_.Bunuri[i])}});
         ScrieToate(db_, "BifeText", randuri);
     }
 

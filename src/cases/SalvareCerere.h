@@ -42,8 +42,18 @@ AvertizareNumar VerificaNrDosar(BazaDate& db, const DateCerere& d, int mod, Mesa
 AvertizareNumar VerificaNrCerere(BazaDate& db, const DateCerere& d, int mod, Mesaje& m);
 
 // The steps of the write, in their order, all inside one transaction.
-enum class PasSalvare { ListeReferinta, Familii, Membrii, Cereri, CereriMembrii, Adeverinte, Venituri, Locuinte,
-                        BifeText, CMIesiti };
+enum class PasSalvare {
+    ListeReferinta,
+    Familii,
+    Membrii,
+    Cereri,
+    CereriMembrii,
+    Adeverinte,
+    Venituri,
+    Locuinte,
+    BifeText,
+    CMIesiti
+};
 
 struct OptiuniSalvare {
     bool ReteaSetat = false;

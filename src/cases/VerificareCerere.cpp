@@ -9,7 +9,9 @@
 
 namespace {
 
-QString Control(const char* nume, int index) { return QStringLiteral("%1_%2").arg(QLatin1String(nume)).arg(index); }
+QString Control(const char* nume, int index) {
+    return QStringLiteral("%1_%2").arg(QLatin1String(nume)).arg(index);
+}
 
 // The number of a box as the query compares it: a whole number, or nothing that can match.
 std::optional<qint64> NumarCautat(const QString& text) {
@@ -65,10 +67,11 @@ std::optional<EsecVerificare> VerificaControale(BazaDate& db, const DateCerere& 
         q.Leaga(d.CerereID);
         const qint64 n = q.Exista() ? q.Intreg(0) : 0;
         if (n == 0)
-            return EsecVerificare{QStringLiteral("Aceasta cerere a fost stearsa de alt utilizator. Modificarile dvs. nu "
-                                                 "pot avea loc. Aceasta fereastra se va inchide!"),
-                                  {},
-                                  true};
+            return EsecVerificare{
+                QStringLiteral("Aceasta cerere a fost stearsa de alt utilizator. Modificarile dvs. nu "
+                               "pot avea loc. Aceasta fereastra se va inchide!"),
+                {},
+                true};
         if (n > 1) m.Avertisment(QStringLiteral("ID multiplu in Verifica Controale"));
     }
     if (d.txtCerere[0].trimmed().isEmpty())
@@ -77,16 +80,13 @@ std::optional<EsecVerificare> VerificaControale(BazaDate& db, const DateCerere& 
         return esec("Nu puteti salva datele inainte de a introduce Numarul Cererii", Control("txtCerere", 1));
     VerificaNrDosar(db, d, 1, m);
     VerificaNrCerere(db, d, 1, m);
-    if (!d.dtpData[0].isValid())
-        return esec("Nu puteti salva datele inainte de a Data cererea", Control("dtpData", 0));
+    if (!d.dtpData[0].isValid()) return esec("Nu puteti salva datele inainte de a Data cererea", Control("dtpData", 0));
     if (d.txtCerere[5].trimmed().isEmpty())
         return esec("Nu puteti salva datele inainte de a introduce Localitatea", Control("txtCerere", 5));
     if (d.txtCerere[6].trimmed().isEmpty())
         return esec("Nu puteti salva datele inainte de a introduce Judetul", Control("txtCerere", 6));
-    if (d.cboCerere[1].id == 0)
-        return esec("Selectati din lista: Reprezentant legal!", Control("cboCerere", 1));
-    if (d.cboCerere[2].id == 0)
-        return esec("Selectati din lista: Modalitati de plata!", Control("cboCerere", 2));
+    if (d.cboCerere[1].id == 0) return esec("Selectati din lista: Reprezentant legal!", Control("cboCerere", 1));
+    if (d.cboCerere[2].id == 0) return esec("Selectati din lista: Modalitati de plata!", Control("cboCerere", 2));
     if (d.cboCerere[3].id == 0)
         return esec("Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile monoparentala!",
                     Control("cboCerere", 3));
@@ -94,8 +94,7 @@ std::optional<EsecVerificare> VerificaControale(BazaDate& db, const DateCerere& 
         return esec("Statut incorect. Selectati din lista un statut corect", Control("cboCerere", 4));
     if (!d.dtpData[1].isValid())
         return esec("Nu puteti salva datele inainte de a scrie Data Aprobarii/Repunerii/etc", Control("dtpData", 1));
-    if (nrRanduriLista == 0)
-        return esec("Este obligatorie adaugarea titularului cererii", QStringLiteral("cmdAdd"));
+    if (nrRanduriLista == 0) return esec("Este obligatorie adaugarea titularului cererii", QStringLiteral("cmdAdd"));
 
     int titulari = 0, parteneri = 0, copii = 0, altii = 0;
     const qsizetype nrMembri = s.MatriceMembri ? qsizetype(s.MatriceMembri->size()) : 0;
@@ -110,8 +109,7 @@ std::optional<EsecVerificare> VerificaControale(BazaDate& db, const DateCerere& 
             else if (p.RudenieID == 4 || p.RudenieID == 5)
                 ++altii;
         }
-    if (titulari != 1)
-        return esec("Cererea trebuie sa aiba exact un titular. Corectati", QStringLiteral("lvw"));
+    if (titulari != 1) return esec("Cererea trebuie sa aiba exact un titular. Corectati", QStringLiteral("lvw"));
     if (nrMembri > 1 && parteneri > 1)
         return esec("Cererea nu poate sa aiba mai mult de un partener. Corectati", QStringLiteral("lvw"));
     if (titulari + parteneri + copii + altii != nrRanduriLista)

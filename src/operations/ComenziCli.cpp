@@ -52,21 +52,20 @@ private:
 
 LocatieBD locatie(const QCommandLineParser& p) {
     LocatieBD loc;
-    loc.caleBD = QDir(p.isSet(QStringLiteral("dir")) ? p.value(QStringLiteral("dir")) : QDir::currentPath()).absolutePath();
+    loc.caleBD =
+        QDir(p.isSet(QStringLiteral("dir")) ? p.value(QStringLiteral("dir")) : QDir::currentPath()).absolutePath();
     loc.url = p.value(QStringLiteral("db"));
     return loc;
 }
 
 qint64 numarPozitiv(const QCommandLineParser& p, const QString& optiune, bool obligatoriu, qint64 implicit) {
     if (!p.isSet(optiune)) {
-        if (obligatoriu)
-            throw EroareArgumente{QStringLiteral("lipseste --%1").arg(optiune)};
+        if (obligatoriu) throw EroareArgumente{QStringLiteral("lipseste --%1").arg(optiune)};
         return implicit;
     }
     bool ok = false;
     const qint64 v = p.value(optiune).toLongLong(&ok);
-    if (!ok || v < 0)
-        throw EroareArgumente{QStringLiteral("--%1 cere un numar intreg pozitiv").arg(optiune)};
+    if (!ok || v < 0) throw EroareArgumente{QStringLiteral("--%1 cere un numar intreg pozitiv").arg(optiune)};
     return v;
 }
 
@@ -82,7 +81,8 @@ int upgrade(const QCommandLineParser& p, QTextStream& out, QTextStream& err) {
     MesajeFlux m(out, err);
     const LocatieBD loc = locatie(p);
     auto db = BazaDate::Deschide(loc);
-    const RezultatActualizare r = ActualizareBD(*db, loc.caleBD, m, [&](const QString& linie) { out << linie << Qt::endl; });
+    const RezultatActualizare r =
+        ActualizareBD(*db, loc.caleBD, m, [&](const QString& linie) { out << linie << Qt::endl; });
     return r.Reusit() ? 0 : 1;
 }
 
@@ -137,7 +137,8 @@ int cuantum(const QCommandLineParser& p, const QString& idText, QTextStream& out
         err << QStringLiteral("Cererea cu ID-ul %1 nu exista in baza de date.").arg(id) << Qt::endl;
         return 1;
     }
-    const IntrareCuantum intrare{c.Stare, int(c.Date.cboCerere[3].id), c.Date.dtpData[1], c.Date.txtCerere[13], luna, an};
+    const IntrareCuantum intrare{c.Stare, int(c.Date.cboCerere[3].id), c.Date.dtpData[1], c.Date.txtCerere[13], luna,
+                                 an};
     const RezultatCuantum r = CalculCuantum(intrare, IncarcaParametri(*db), m);
     // With no child counted the editor's box keeps the number it showed.
     const int nrCopii = r.NrCopii ? *r.NrCopii : int(Val(c.Date.txtCerere[16]));
@@ -157,29 +158,21 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
     p.addOption({QStringLiteral("an"), QStringLiteral("anul de lucru"), QStringLiteral("A")});
     p.addPositionalArgument(QStringLiteral("comanda"), QStringLiteral("init, upgrade, demo, cuantum"));
     try {
-        if (!p.parse(argumente))
-            throw EroareArgumente{p.errorText()};
+        if (!p.parse(argumente)) throw EroareArgumente{p.errorText()};
         const QStringList poz = p.positionalArguments();
-        if (poz.isEmpty())
-            throw EroareArgumente{QStringLiteral("lipseste comanda")};
+        if (poz.isEmpty()) throw EroareArgumente{QStringLiteral("lipseste comanda")};
         const QString comanda = poz.first();
         const bool cuCerere = comanda == QLatin1String("cuantum");
-        if (cuCerere && poz.size() == 1)
-            throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
-        if (poz.size() != (cuCerere ? 2 : 1))
-            throw EroareArgumente{QStringLiteral("prea multe argumente")};
+        if (cuCerere && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
+        if (poz.size() != (cuCerere ? 2 : 1)) throw EroareArgumente{QStringLiteral("prea multe argumente")};
         if (comanda != QLatin1String("demo") && (p.isSet(QStringLiteral("cereri")) || p.isSet(QStringLiteral("seed"))))
             throw EroareArgumente{QStringLiteral("--cereri si --seed sunt doar pentru demo")};
         if (!cuCerere && (p.isSet(QStringLiteral("luna")) || p.isSet(QStringLiteral("an"))))
             throw EroareArgumente{QStringLiteral("--luna si --an sunt doar pentru cuantum")};
-        if (comanda == QLatin1String("init"))
-            return init(p, out, err);
-        if (comanda == QLatin1String("upgrade"))
-            return upgrade(p, out, err);
-        if (comanda == QLatin1String("demo"))
-            return demo(p, out, err);
-        if (cuCerere)
-            return cuantum(p, poz[1], out, err);
+        if (comanda == QLatin1String("init")) return init(p, out, err);
+        if (comanda == QLatin1String("upgrade")) return upgrade(p, out, err);
+        if (comanda == QLatin1String("demo")) return demo(p, out, err);
+        if (cuCerere) return cuantum(p, poz[1], out, err);
         throw EroareArgumente{QStringLiteral("comanda necunoscuta: %1").arg(comanda)};
     } catch (const EroareArgumente& e) {
         err << e.text << ". " << Utilizare << Qt::endl;

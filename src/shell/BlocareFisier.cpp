@@ -14,7 +14,9 @@
 
 BlocareFisier::BlocareFisier(QString cale) : cale_(std::move(cale)) {}
 
-BlocareFisier::~BlocareFisier() { Elibereaza(); }
+BlocareFisier::~BlocareFisier() {
+    Elibereaza();
+}
 
 #ifdef Q_OS_WIN
 

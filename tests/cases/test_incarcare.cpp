@@ -11,10 +11,10 @@ TEST(DataStareDupaCerere, PrimaZiALuniiUrmatoare) {
     const struct {
         QDate cerere, stare;
     } cazuri[] = {
-        {{2015, 1, 31}, {2015, 2, 1}},   {{2012, 2, 29}, {2012, 3, 1}}, {{2014, 12, 31}, {2015, 1, 1}},
-        {{2013, 2, 28}, {2013, 3, 1}},   {{2012, 2, 28}, {2012, 3, 1}}, {{2000, 2, 29}, {2000, 3, 1}},
-        {{2100, 2, 28}, {2100, 3, 1}},   {{2015, 4, 30}, {2015, 5, 1}}, {{2015, 4, 1}, {2015, 5, 1}},
-        {{2015, 7, 31}, {2015, 8, 1}},   {{2015, 8, 31}, {2015, 9, 1}}, {{2015, 11, 15}, {2015, 12, 1}},
+        {{2015, 1, 31}, {2015, 2, 1}}, {{2012, 2, 29}, {2012, 3, 1}}, {{2014, 12, 31}, {2015, 1, 1}},
+        {{2013, 2, 28}, {2013, 3, 1}}, {{2012, 2, 28}, {2012, 3, 1}}, {{2000, 2, 29}, {2000, 3, 1}},
+        {{2100, 2, 28}, {2100, 3, 1}}, {{2015, 4, 30}, {2015, 5, 1}}, {{2015, 4, 1}, {2015, 5, 1}},
+        {{2015, 7, 31}, {2015, 8, 1}}, {{2015, 8, 31}, {2015, 9, 1}}, {{2015, 11, 15}, {2015, 12, 1}},
         {{2015, 12, 1}, {2016, 1, 1}},
     };
     for (const auto& c : cazuri)
@@ -44,8 +44,10 @@ TEST_P(Incarcare, CerereNouaPrimesteValorileImplicite) {
 
     {
         Tranzactie t(Bd());
-        Executa(QStringLiteral("INSERT INTO Localitati (LocalitateID, Denumire) VALUES (?, ?)"), {2, QStringLiteral("Buftea")});
-        Executa(QStringLiteral("INSERT INTO Localitati (LocalitateID, Denumire) VALUES (?, ?)"), {1, QStringLiteral("Branesti")});
+        Executa(QStringLiteral("INSERT INTO Localitati (LocalitateID, Denumire) VALUES (?, ?)"),
+                {2, QStringLiteral("Buftea")});
+        Executa(QStringLiteral("INSERT INTO Localitati (LocalitateID, Denumire) VALUES (?, ?)"),
+                {1, QStringLiteral("Branesti")});
         Executa(QStringLiteral("DELETE FROM Judete"), {});
         t.Confirma();
     }
@@ -94,16 +96,17 @@ TEST_P(Incarcare, NumarulDeCopiiSchimbatEsteSemnalat) {
     ASSERT_EQ(SalveazaCerere(Bd(), d.date, d.stare, d.iesiti, OptiuniDosar(), mesaje).stare,
               RezultatSalvare::Stare::Salvata);
 
-    const QString avertisment = QStringLiteral("Numarul de copii salvati in baza de date este diferit\nsi se va recalcula.");
+    const QString avertisment =
+        QStringLiteral("Numarul de copii salvati in baza de date este diferit\nsi se va recalcula.");
     const struct {
         int luna, an;
         const char* caseta;
         bool avertizat;
     } cazuri[] = {
-        {3, 2024, "1", true},   // February is one month back: out
-        {2, 2024, "2", false},  // the same month still counts
-        {5, 2024, "2", false},  // three months back counts again, by this rule
-        {1, 2031, "1", true},   // the second child's month before
+        {3, 2024, "1", true},  // February is one month back: out
+        {2, 2024, "2", false}, // the same month still counts
+        {5, 2024, "2", false}, // three months back counts again, by this rule
+        {1, 2031, "1", true},  // the second child's month before
         {12, 2013, "2", false},
     };
     for (const auto& c : cazuri) {
@@ -132,13 +135,29 @@ TEST_P(Incarcare, ValorileDinTabeleAjungLaLocullor) {
         Executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP, SerieBI, NrBI) VALUES "
                                "(?, ?, ?, ?, ?, ?), (?, ?, ?, ?, NULL, NULL), (?, ?, ?, ?, NULL, NULL), "
                                "(?, ?, ?, NULL, NULL, NULL), (?, ?, ?, ?, ?, ?)"),
-                {9,  QStringLiteral("Pop"), QStringLiteral("Ion"),  QStringLiteral("1850305400011"), QStringLiteral("RX"),
+                {9,
+                 QStringLiteral("Pop"),
+                 QStringLiteral("Ion"),
+                 QStringLiteral("1850305400011"),
+                 QStringLiteral("RX"),
                  QStringLiteral("11"),
-                 2,  QStringLiteral("Pop"), QStringLiteral("Ana"),  QStringLiteral("612345678901"),
-                 5,  QStringLiteral("Pop"), QStringLiteral("Dan"),  QStringLiteral("5101340400022"),
-                 3,  QStringLiteral("Pop"), QStringLiteral("Eva"),
-                 12, QStringLiteral("Iesit"), QStringLiteral("Ion"), QStringLiteral("1700101400099"),
-                 QStringLiteral("RT"), QStringLiteral("22")});
+                 2,
+                 QStringLiteral("Pop"),
+                 QStringLiteral("Ana"),
+                 QStringLiteral("612345678901"),
+                 5,
+                 QStringLiteral("Pop"),
+                 QStringLiteral("Dan"),
+                 QStringLiteral("5101340400022"),
+                 3,
+                 QStringLiteral("Pop"),
+                 QStringLiteral("Eva"),
+                 12,
+                 QStringLiteral("Iesit"),
+                 QStringLiteral("Ion"),
+                 QStringLiteral("1700101400099"),
+                 QStringLiteral("RT"),
+                 QStringLiteral("22")});
         Executa(QStringLiteral(
                     "INSERT INTO Cereri (CerereID, FamilieID, NrCerere, Stare, TipCerere, ModPlata, ReprLegal, "
                     "VenitTotal, VenitPeMembru, Cuantum, NrMembrii, NrCopii, Gospodarire, GospodLoc, Bife, "
@@ -156,7 +175,8 @@ TEST_P(Incarcare, ValorileDinTabeleAjungLaLocullor) {
         for (const auto& [cod, v] : std::vector<std::pair<int, double>>{{1, 10}, {79, 20.5}, {80, 99}})
             Executa(QStringLiteral("INSERT INTO Venituri (CerereID, CodVenit, Valoare) VALUES (?, ?, ?)"), {7, cod, v});
         for (const auto& [cod, camere] : std::vector<std::pair<int, int>>{{1, 2}, {8, 0}, {9, 1}})
-            Executa(QStringLiteral("INSERT INTO Locuinte (CerereID, Cod, NrCamere) VALUES (?, ?, ?)"), {7, cod, camere});
+            Executa(QStringLiteral("INSERT INTO Locuinte (CerereID, Cod, NrCamere) VALUES (?, ?, ?)"),
+                    {7, cod, camere});
         Executa(QStringLiteral("INSERT INTO CMIesiti (CerereID, MembruID, RudenieID, MotivID, Suma, TipValuta) VALUES "
                                "(?, ?, ?, ?, ?, ?)"),
                 {7, 12, 6, 2, 75.5, 1});
@@ -224,10 +244,10 @@ TEST_P(Incarcare, ValorileDinTabeleAjungLaLocullor) {
     EXPECT_EQ(m[2].Ocupatie, ContinutDateGen(Bd(), 33, 3)) << "a child's occupation is its school situation";
     EXPECT_EQ(m[3].Rudenie, QStringLiteral("COPIL IN TUTELA"));
     EXPECT_EQ(m[3].DataNast, QString()) << "no CNP, no message";
-    EXPECT_EQ(mesaje.Texte(), (QStringList{QStringLiteral("CNP gresit!"),
-                                           QStringLiteral("CNP este gresit. Va rog sa corectati!"),
-                                           QStringLiteral("Numarul de copii salvati in baza de date este diferit\n"
-                                                          "si se va recalcula.")}));
+    EXPECT_EQ(mesaje.Texte(),
+              (QStringList{QStringLiteral("CNP gresit!"), QStringLiteral("CNP este gresit. Va rog sa corectati!"),
+                           QStringLiteral("Numarul de copii salvati in baza de date este diferit\n"
+                                          "si se va recalcula.")}));
     EXPECT_EQ(d.txtCerere[16], QStringLiteral("0")) << "no child has a Data18Ani";
     ASSERT_EQ(m[0].Adeverinte.size(), 1u);
     EXPECT_EQ(m[0].Adeverinte[0].AdevID, 41);

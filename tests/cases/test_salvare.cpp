@@ -80,8 +80,8 @@ TEST_P(Salvare, DosarulSalvatSeCitesteInapoiCamp_cuCamp) {
     EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM BifeText WHERE CerereID = ?"), 1), 3);
     EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM BifeText WHERE CerereID = ? AND NrBifa = 83"), 1),
               1);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Venituri WHERE CerereID = ? AND CodVenit = 79"), 1),
-              1);
+    EXPECT_EQ(
+        NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Venituri WHERE CerereID = ? AND CodVenit = 79"), 1), 1);
     EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Locuinte WHERE CerereID = ? AND Cod = 8"), 1), 1);
     {
         Interogare q(Bd(), QStringLiteral("SELECT A1Solicita FROM Cereri WHERE CerereID = ?"));
@@ -129,7 +129,8 @@ TEST_P(Salvare, DosarulSalvatSeCitesteInapoiCamp_cuCamp) {
     ASSERT_EQ(c2.Iesiti.size(), 1u);
     EXPECT_EQ(c2.Iesiti[0], elena);
     EXPECT_EQ(c2.Iesiti[0].Rudenie, ContinutDateGen(Bd(), 2, 3));
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Adeverinte WHERE MembruID = ?"), elena.MembruID), 1)
+    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Adeverinte WHERE MembruID = ?"), elena.MembruID),
+              1)
         << "the certificates of a person who left stay";
     EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM BifeText WHERE CerereID = ?"), 1), 2);
     EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Membrii WHERE MembruID = ?"), elena.MembruID), 1);
@@ -151,7 +152,8 @@ TEST_P(Salvare, ListeleDeReferintaCrescCuNumeleNoi) {
     ASSERT_EQ(Salveaza(d).stare, RezultatSalvare::Stare::Salvata);
     EXPECT_EQ(Denumiri("Strazi"), QStringList{QStringLiteral("Strada Morii")});
     EXPECT_EQ(Denumiri("Politii"), QStringList{QStringLiteral("SPCLEP Branesti")});
-    EXPECT_EQ(Denumiri("Scoli"), (QStringList{QStringLiteral("LICEUL TEORETIC"), QStringLiteral("Scoala Gimnaziala nr. 1")}));
+    EXPECT_EQ(Denumiri("Scoli"),
+              (QStringList{QStringLiteral("LICEUL TEORETIC"), QStringLiteral("Scoala Gimnaziala nr. 1")}));
     EXPECT_EQ(Denumiri("LocScolare"), (QStringList{QStringLiteral("Branesti"), QStringLiteral("Buftea")}));
     EXPECT_EQ(Denumiri("Motive"),
               (QStringList{QStringLiteral("Indeplineste conditiile"), QStringLiteral("Schimbare domiciliu")}));
@@ -258,9 +260,9 @@ TEST_P(Salvare, EsecLaOricePasNuLasaNimicScris) {
     (*nou.stare.MatriceMembri)[5].CNP = QStringLiteral("6100228400099");
     (*nou.stare.MatriceMembri)[5].Eliberat = QStringLiteral("Politia Noua");
 
-    const PasSalvare pasi[] = {PasSalvare::ListeReferinta, PasSalvare::Familii,   PasSalvare::Membrii,
+    const PasSalvare pasi[] = {PasSalvare::ListeReferinta, PasSalvare::Familii,       PasSalvare::Membrii,
                                PasSalvare::Cereri,         PasSalvare::CereriMembrii, PasSalvare::Adeverinte,
-                               PasSalvare::Venituri,       PasSalvare::Locuinte,  PasSalvare::BifeText,
+                               PasSalvare::Venituri,       PasSalvare::Locuinte,      PasSalvare::BifeText,
                                PasSalvare::CMIesiti};
     for (const Dosar* d : {&nou, &schimbat})
         for (const PasSalvare pas : pasi) {
@@ -313,8 +315,7 @@ TEST_P(Salvare, DateCareNuIncapSauSeRepetaSuntRefuzate) {
          QStringLiteral("Nume")},
         {"strada prea lunga", [](Dosar& d) { d.date.cboCerere[0].text = QString(51, u'S'); },
          QStringLiteral("Denumire")},
-        {"acelasi CNP de doua ori",
-         [](Dosar& d) { (*d.stare.MatriceMembri)[5].CNP = (*d.stare.MatriceMembri)[2].CNP; },
+        {"acelasi CNP de doua ori", [](Dosar& d) { (*d.stare.MatriceMembri)[5].CNP = (*d.stare.MatriceMembri)[2].CNP; },
          QStringLiteral("apare de doua ori")},
         {"numar de dosar prea mare", [](Dosar& d) { d.date.txtCerere[0] = QStringLiteral("9e99"); },
          QStringLiteral("Numarul dosarului")},
@@ -396,7 +397,13 @@ TEST_P(Salvare, CheileNoiNuSeCiocnesc) {
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Adeverinte")), 12);
 
     // A request numbered above the families (its family has another number).
-    AdaugaCerereTest(Bd(), {40, 1, 9, 2, 1, QStringLiteral("Branesti"), {},
+    AdaugaCerereTest(Bd(), {40,
+                            1,
+                            9,
+                            2,
+                            1,
+                            QStringLiteral("Branesti"),
+                            {},
                             {{100, QStringLiteral("Dan"), QStringLiteral("Ion"), QStringLiteral("1700101400012"), 1}}});
     const RezultatSalvare c = Salveaza(d);
     EXPECT_EQ(c.CerereID, 41);
@@ -418,8 +425,9 @@ TEST_P(Salvare, CheileNoiNuSeCiocnesc) {
     const RezultatSalvare e = Salveaza(strain);
     ASSERT_EQ(e.stare, RezultatSalvare::Stare::Salvata);
     EXPECT_EQ(e.CerereID, maxCerere + 1);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT MIN(MembruID) FROM CereriMembrii WHERE CerereID = ?"), e.CerereID),
-              maxMembru + 1);
+    EXPECT_EQ(
+        NumarRanduri(Bd(), QStringLiteral("SELECT MIN(MembruID) FROM CereriMembrii WHERE CerereID = ?"), e.CerereID),
+        maxMembru + 1);
     EXPECT_EQ(Numar(QStringLiteral("SELECT MAX(AdevID) FROM Adeverinte")), maxAdev + 6);
 }
 
@@ -450,8 +458,9 @@ TEST_P(Salvare, MesajeleDinJurulSalvarii) {
     const auto inainte = Instantaneu(Bd());
     const RezultatSalvare r = SalveazaCerere(Bd(), c.Date, c.Stare, c.Iesiti, OptiuniDosar(), mesaje);
     EXPECT_EQ(r.stare, RezultatSalvare::Stare::InchideEditor);
-    EXPECT_EQ(mesaje.Texte(), QStringList{QStringLiteral("Aceasta cerere a fost stearsa de alt utilizator. Modificarile "
-                                                         "dvs. nu pot avea loc. Aceasta fereastra se va inchide!")});
+    EXPECT_EQ(mesaje.Texte(),
+              QStringList{QStringLiteral("Aceasta cerere a fost stearsa de alt utilizator. Modificarile "
+                                         "dvs. nu pot avea loc. Aceasta fereastra se va inchide!")});
     EXPECT_EQ(Instantaneu(Bd()), inainte);
 
     // A failed check is shown, names its control, and writes nothing.

@@ -46,7 +46,9 @@ const std::vector<Verificarea>& Verificari() {
         {"Selectati din lista: Reprezentant legal!", "cboCerere_1", [](Dosar& d, int&) { d.date.cboCerere[1] = {}; }},
         {"Selectati din lista: Modalitati de plata!", "cboCerere_2", [](Dosar& d, int&) { d.date.cboCerere[2] = {}; }},
         {"Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile monoparentala!", "cboCerere_3",
-         [](Dosar& d, int&) { d.date.cboCerere[3] = {0, QStringLiteral("scris de mana")}; }},
+         [](Dosar& d, int&) {
+             d.date.cboCerere[3] = {0, QStringLiteral("scris de mana")};
+         }},
         {"Statut incorect. Selectati din lista un statut corect", "cboCerere_4",
          [](Dosar& d, int&) { d.date.cboCerere[4] = {}; }},
         {"Nu puteti salva datele inainte de a scrie Data Aprobarii/Repunerii/etc", "dtpData_1",

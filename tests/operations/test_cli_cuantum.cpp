@@ -114,9 +114,11 @@ TEST_P(CliCuantum, LunaDeLucruDinArgumenteSetariSauAzi) {
     // One child, kind 1, 100 lei per member: 0.164 x 525.5 = 86.182, rounded up.
     const QString martie = QStringLiteral("NrCopii=1 Cuantum=87.0000\n");
     const QString aprilie = QStringLiteral("NrCopii=0 Cuantum=0.0000\n");
-    const QString avertisment = QStringLiteral("Numarul de copii salvati in baza de date este diferit\nsi se va recalcula.\n");
+    const QString avertisment =
+        QStringLiteral("Numarul de copii salvati in baza de date este diferit\nsi se va recalcula.\n");
 
-    Iesire r = Cuantum(1, {QStringLiteral("--luna"), QStringLiteral("3"), QStringLiteral("--an"), QStringLiteral("2015")});
+    Iesire r =
+        Cuantum(1, {QStringLiteral("--luna"), QStringLiteral("3"), QStringLiteral("--an"), QStringLiteral("2015")});
     EXPECT_EQ(r.cod, 0);
     EXPECT_EQ(r.out, martie);
     EXPECT_EQ(r.err, QString());
