@@ -32,10 +32,12 @@ const MembruCerere& element(const StareCerere& s, int index) {
 
 const QStringList& ColoaneLista() {
     static const QStringList c{
-        QStringLiteral("ID"),        QStringLiteral("Nume"),          QStringLiteral("Prenume"),
-        QStringLiteral("CNP"),       QStringLiteral("Ocupatie"),      QStringLiteral("Rudenie"),
-        QStringLiteral("Venit"),     QStringLiteral("Alte venituri"), QStringLiteral("Data Exp."),
-        QStringLiteral("Motivul Expirarii"), QStringLiteral("Data nast."), QStringLiteral("Serie"),
+        QStringLiteral("ID"),         QStringLiteral("Nume"),
+        QStringLiteral("Prenume"),    QStringLiteral("CNP"),
+        QStringLiteral("Ocupatie"),   QStringLiteral("Rudenie"),
+        QStringLiteral("Venit"),      QStringLiteral("Alte venituri"),
+        QStringLiteral("Data Exp."),  QStringLiteral("Motivul Expirarii"),
+        QStringLiteral("Data nast."), QStringLiteral("Serie"),
         QStringLiteral("Numar"),
     };
     return c;
@@ -197,8 +199,7 @@ MotivIesire MotivDinControale(const AlegereCombo& motiv, const AlegereCombo& val
 }
 
 std::optional<TotaluriMembri> EliminaMembru(ListaMembri& l, StareCerere& s,
-                                            const std::function<std::optional<MotivIesire>()>& frmMotiv,
-                                            Mesaje& m) {
+                                            const std::function<std::optional<MotivIesire>()>& frmMotiv, Mesaje& m) {
     if (!l.Selectat || *l.Selectat < 0 || *l.Selectat >= int(l.lvw.size())) {
         m.Informatie(SelectatiOCerere);
         return std::nullopt;

@@ -109,8 +109,7 @@ MotivIesire MotivDinControale(const AlegereCombo& motiv, const AlegereCombo& val
 // what it had), the move to the leavers, the removal, the new selection, the totals. nullopt
 // when nothing was removed.
 std::optional<TotaluriMembri> EliminaMembru(ListaMembri& l, StareCerere& s,
-                                            const std::function<std::optional<MotivIesire>()>& frmMotiv,
-                                            Mesaje& m);
+                                            const std::function<std::optional<MotivIesire>()>& frmMotiv, Mesaje& m);
 // Delete on lvwIesiti: drops the row; false when there is none at that place.
 bool StergeIesit(ListaMembri& l, int index);
 // cmdEdit and cmdDelete are enabled while the list has rows.

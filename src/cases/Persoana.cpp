@@ -52,7 +52,9 @@ QString textSuma(const Bani& suma) {
     return suma == Bani() ? QString() : FormatSuma(suma);
 }
 
-int bifa(bool b) { return b ? 1 : 0; }
+int bifa(bool b) {
+    return b ? 1 : 0;
+}
 
 // A LIKE pattern that matches what begins with the text, its wild cards taken literally.
 QString prefix(const QString& text) {
@@ -242,8 +244,7 @@ RezultatOk OkPersoana(const DatePersoana& d, const ContextPersoana& c, StareCere
     if (!r.Focus.isEmpty()) return r;
     if (c.Mod == 2) {
         const MembruCerere* inainte = elementCurent(c, stare);
-        if (!inainte)
-            throw Eroare(QStringLiteral("Exceptie: persoana %1 nu exista in lista membrilor.").arg(c.Index));
+        if (!inainte) throw Eroare(QStringLiteral("Exceptie: persoana %1 nu exista in lista membrilor.").arg(c.Index));
         (*stare.MatriceMembri)[size_t(c.Index)] = InMembru(d, *inainte);
         r.Index = c.Index;
         return r;
@@ -288,15 +289,15 @@ DateCNP DateDinCNP(const QString& cnp, int lunaSetata, int anSetat, Mesaje* m) {
 }
 
 CautareCNP CautaDupaCNP(BazaDate& db, const QString& cnp) {
-    Interogare q(db, QStringLiteral(
-                         "SELECT M.MembruID, M.Nume, M.Prenume, M.TipAct, M.SerieBI, M.NrBI, M.Eliberat, M.DataElib, "
-                         "M.Dizabilitate, C.CerereID, C.NrCerere "
-                         "FROM Membrii M LEFT JOIN CereriMembrii CM ON CM.MembruID = M.MembruID "
-                         "LEFT JOIN Cereri C ON C.CerereID = CM.CerereID "
-                         "WHERE M.CNP = ? ORDER BY M.MembruID, C.CerereID"));
+    Interogare q(
+        db, QStringLiteral("SELECT M.MembruID, M.Nume, M.Prenume, M.TipAct, M.SerieBI, M.NrBI, M.Eliberat, M.DataElib, "
+                           "M.Dizabilitate, C.CerereID, C.NrCerere "
+                           "FROM Membrii M LEFT JOIN CereriMembrii CM ON CM.MembruID = M.MembruID "
+                           "LEFT JOIN Cereri C ON C.CerereID = CM.CerereID "
+                           "WHERE M.CNP = ? ORDER BY M.MembruID, C.CerereID"));
     q.Leaga(cnp).Executa();
     CautareCNP r;
-    while (q.Urmator() && !(r.Persoana && r.Cerere)) {
+    while (!(r.Persoana && r.Cerere) && q.Urmator()) {
         if (!r.Persoana) {
             PersoanaCunoscuta p;
             p.MembruID = q.Intreg(QStringLiteral("MembruID"));

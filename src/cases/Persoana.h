@@ -108,7 +108,7 @@ int RepetentStocat(bool chkRepetent, const AlegereCombo& situatieScolara);
 QString VerificaPersoana(const DatePersoana& d, const ContextPersoana& c, const StareCerere& stare, Mesaje& m);
 
 struct RezultatOk {
-    QString Focus;          // set when a check failed: the dialog stays open
+    QString Focus;            // set when a check failed: the dialog stays open
     std::optional<int> Index; // the element written
 };
 // OK: the checks, then the element written into the matrix (mode 1 appends it). The matrix is
@@ -127,11 +127,12 @@ NastereCNP NastereDinCNP(const QString& cnp);
 // turning 18, kept only when it falls in the working year or later.
 struct DateCNP {
     NastereCNP Nastere;
-    QString lblVarsta;  // "Varsta: 38"
-    QDate Data18Ani;    // for dtpData 2; invalid: cleared
-    QString Motiv;      // for cboMembru 15; empty: cleared
+    QString lblVarsta; // "Varsta: 38"
+    QDate Data18Ani;   // for dtpData 2; invalid: cleared
+    QString Motiv;     // for cboMembru 15; empty: cleared
 };
-// Age messages (a negative age) go to m. With Nastere.Oprit nothing else is set.
+// Age messages (a negative age) go to m. With Nastere.Oprit nothing else is set. Throws Eroare
+// without a working month.
 DateCNP DateDinCNP(const QString& cnp, int lunaSetata, int anSetat, Mesaje* m);
 
 // A person found in Membrii by CNP.
@@ -158,9 +159,9 @@ CautareCNP CautaDupaCNP(BazaDate& db, const QString& cnp);
 
 // What the dialog does after the leave of cboCNP; the controls are already updated.
 struct RezultatPlecareCNP {
-    bool RevinoLaCNP = false;       // the CNP is already in the list: focus goes back to cboCNP
-    std::optional<DateCNP> Date;    // the labels, set for a 13-character code
-    bool PersoanaReluata = false;   // a known person's identity was copied
+    bool RevinoLaCNP = false;     // the CNP is already in the list: focus goes back to cboCNP
+    std::optional<DateCNP> Date;  // the labels, set for a 13-character code
+    bool PersoanaReluata = false; // a known person's identity was copied
 };
 // The leave of cboCNP: the notice of a known person, the dates from the code, the refusal of a
 // code already in the list, the re-use of a known person. An empty box does nothing.

@@ -87,8 +87,9 @@ void Familie(ListaMembri& l, StareCerere& s, int n) {
     MesajeInregistrate m;
     for (int i = 0; i < n; ++i) {
         const QByteArray cnp = QByteArray("185050546000") + QByteArray::number(i);
-        Adauga(l, s, Controale(11 + i, "NUME", QByteArray("P").append(QByteArray::number(i)).constData(), cnp.constData(),
-                               i == 0 ? 1 : 3, i == 0 ? "TITULARUL" : "COPIL NATURAL"),
+        Adauga(l, s,
+               Controale(11 + i, "NUME", QByteArray("P").append(QByteArray::number(i)).constData(), cnp.constData(),
+                         i == 0 ? 1 : 3, i == 0 ? "TITULARUL" : "COPIL NATURAL"),
                m);
     }
     ASSERT_TRUE(m.mesaje.empty());
@@ -140,9 +141,9 @@ TEST(RandLista, RandulUnuiIesitCitit) {
     m.TipValuta = 1;
     ListaMembri l;
     l.lvwIesiti.push_back(RandIesitIncarcat(m));
-    EXPECT_EQ(Texte(l.lvwIesiti[0].Coloane), Texte(Rand({"31", "POPA", "DAN", "1770203460048", "",
-                                                         "RUDA ADULTA (PARINTE, BUNIC, FRATE MAJOR)", "350.00", "",
-                                                         "", "", "", "IS", "777"})));
+    EXPECT_EQ(Texte(l.lvwIesiti[0].Coloane),
+              Texte(Rand({"31", "POPA", "DAN", "1770203460048", "", "RUDA ADULTA (PARINTE, BUNIC, FRATE MAJOR)",
+                          "350.00", "", "", "", "", "IS", "777"})));
     EXPECT_EQ(IesitiDeSalvat(l), std::vector<MembruIesit>{m});
 }
 

@@ -30,10 +30,10 @@ QString CuControl(const char* douasprezece) {
     return T(douasprezece) + QString::number(control);
 }
 
-const QString CnpTitular = CuControl("185050546001");   // 5 May 1985
-const QString CnpCopil = CuControl("510031546002");     // 15 March 2010
-const QString CnpPartener = CuControl("287111146003");  // 11 November 1987
-const QString CnpCunoscut = CuControl("177020346004");  // 3 February 1977, stored in Membrii
+const QString CnpTitular = CuControl("185050546001");    // 5 May 1985
+const QString CnpCopil = CuControl("510031546002");      // 15 March 2010
+const QString CnpPartener = CuControl("287111146003");   // 11 November 1987
+const QString CnpCunoscut = CuControl("177020346004");   // 3 February 1977, stored in Membrii
 const QString CnpFaraCerere = CuControl("291120146005"); // 1 December 1991, in Membrii, on no request
 
 constexpr int Luna = 12, An = 2024; // the working month of every case
@@ -54,8 +54,8 @@ MembruCerere Membru(qint64 id, const QString& cnp, int rudenie, const char* rude
 // A titular and a child already in the list.
 StareCerere DouaPersoane() {
     StareCerere s;
-    s.MatriceMembri = std::vector<MembruCerere>{Membru(1, CnpTitular, 1, "TITULARUL"),
-                                                Membru(2, CnpCopil, 3, "COPIL NATURAL")};
+    s.MatriceMembri =
+        std::vector<MembruCerere>{Membru(1, CnpTitular, 1, "TITULARUL"), Membru(2, CnpCopil, 3, "COPIL NATURAL")};
     return s;
 }
 
@@ -71,26 +71,61 @@ DatePersoana Completa(const QString& cnp) {
 // Every field of an element as "name=value", so that a difference names the field.
 QStringList Campuri(const MembruCerere& m) {
     const auto d = [](const QDate& x) { return x.isValid() ? x.toString(Qt::ISODate) : T("-"); };
-    QStringList c{
-        T("MembruID=%1").arg(m.MembruID), T("Nume=") + m.Nume, T("Prenume=") + m.Prenume, T("CNP=") + m.CNP,
-        T("RudenieID=%1").arg(m.RudenieID), T("Rudenie=") + m.Rudenie, T("TipAct=%1").arg(m.TipAct),
-        T("SerieBI=") + m.SerieBI, T("NrBI=") + m.NrBI, T("Eliberat=") + m.Eliberat, T("DataElib=") + d(m.DataElib),
-        T("CetatenieID=%1").arg(m.CetatenieID), T("TaraCetatenie=") + m.TaraCetatenie,
-        T("ResedintaID=%1").arg(m.ResedintaID), T("LocResedinta=") + m.LocResedinta,
-        T("TaraResedinta=") + m.TaraResedinta, T("StCivila=%1").arg(m.StCivila), T("Studii=%1").arg(m.Studii),
-        T("OcupatieID=%1").arg(m.OcupatieID), T("Ocupatie=") + m.Ocupatie, T("DrAsSociala=%1").arg(m.DrAsSociala),
-        T("Data18Ani=") + d(m.Data18Ani), T("Motiv=") + m.Motiv, T("ModificatLaSalvare=%1").arg(m.ModificatLaSalvare),
-        T("MotivStare=") + m.MotivStare, T("DataNastere=") + d(m.DataNastere), T("DataStare=") + d(m.DataStare),
-        T("DataNast=") + m.DataNast, T("LocuitAfara=%1").arg(m.LocuitAfara), T("Perioada11=") + m.Perioada11,
-        T("TaraAfara11=") + m.TaraAfara11, T("Perioada22=") + m.Perioada22, T("TaraAfara22=") + m.TaraAfara22,
-        T("LucreazaAfara=%1").arg(m.LucreazaAfara), T("Perioada1=") + m.Perioada1, T("TaraAfara1=") + m.TaraAfara1,
-        T("Perioada2=") + m.Perioada2, T("TaraAfara2=") + m.TaraAfara2, T("UScolara=") + m.UScolara,
-        T("LocScoala=") + m.LocScoala, T("VMG=%1").arg(m.VMG), T("Alocatie=%1").arg(m.Alocatie),
-        T("Incalzire=%1").arg(m.Incalzire), T("TipIncalzTrecut=%1").arg(m.TipIncalzTrecut),
-        T("Venit=") + m.Venit.Text(), T("Dizabilitate=%1").arg(m.Dizabilitate), T("Repetent=%1").arg(m.Repetent),
-        T("Abandon=%1").arg(m.Abandon), T("Peste20abs=%1").arg(m.Peste20abs), T("MotivID=%1").arg(m.MotivID),
-        T("Suma=") + m.Suma.Text(), T("TipValuta=%1").arg(m.TipValuta), T("StareMembru=%1").arg(m.StareMembru),
-        T("Diminuare20=%1").arg(m.Diminuare20), T("Diminuare50=%1").arg(m.Diminuare50)};
+    QStringList c{T("MembruID=%1").arg(m.MembruID),
+                  T("Nume=") + m.Nume,
+                  T("Prenume=") + m.Prenume,
+                  T("CNP=") + m.CNP,
+                  T("RudenieID=%1").arg(m.RudenieID),
+                  T("Rudenie=") + m.Rudenie,
+                  T("TipAct=%1").arg(m.TipAct),
+                  T("SerieBI=") + m.SerieBI,
+                  T("NrBI=") + m.NrBI,
+                  T("Eliberat=") + m.Eliberat,
+                  T("DataElib=") + d(m.DataElib),
+                  T("CetatenieID=%1").arg(m.CetatenieID),
+                  T("TaraCetatenie=") + m.TaraCetatenie,
+                  T("ResedintaID=%1").arg(m.ResedintaID),
+                  T("LocResedinta=") + m.LocResedinta,
+                  T("TaraResedinta=") + m.TaraResedinta,
+                  T("StCivila=%1").arg(m.StCivila),
+                  T("Studii=%1").arg(m.Studii),
+                  T("OcupatieID=%1").arg(m.OcupatieID),
+                  T("Ocupatie=") + m.Ocupatie,
+                  T("DrAsSociala=%1").arg(m.DrAsSociala),
+                  T("Data18Ani=") + d(m.Data18Ani),
+                  T("Motiv=") + m.Motiv,
+                  T("ModificatLaSalvare=%1").arg(m.ModificatLaSalvare),
+                  T("MotivStare=") + m.MotivStare,
+                  T("DataNastere=") + d(m.DataNastere),
+                  T("DataStare=") + d(m.DataStare),
+                  T("DataNast=") + m.DataNast,
+                  T("LocuitAfara=%1").arg(m.LocuitAfara),
+                  T("Perioada11=") + m.Perioada11,
+                  T("TaraAfara11=") + m.TaraAfara11,
+                  T("Perioada22=") + m.Perioada22,
+                  T("TaraAfara22=") + m.TaraAfara22,
+                  T("LucreazaAfara=%1").arg(m.LucreazaAfara),
+                  T("Perioada1=") + m.Perioada1,
+                  T("TaraAfara1=") + m.TaraAfara1,
+                  T("Perioada2=") + m.Perioada2,
+                  T("TaraAfara2=") + m.TaraAfara2,
+                  T("UScolara=") + m.UScolara,
+                  T("LocScoala=") + m.LocScoala,
+                  T("VMG=%1").arg(m.VMG),
+                  T("Alocatie=%1").arg(m.Alocatie),
+                  T("Incalzire=%1").arg(m.Incalzire),
+                  T("TipIncalzTrecut=%1").arg(m.TipIncalzTrecut),
+                  T("Venit=") + m.Venit.Text(),
+                  T("Dizabilitate=%1").arg(m.Dizabilitate),
+                  T("Repetent=%1").arg(m.Repetent),
+                  T("Abandon=%1").arg(m.Abandon),
+                  T("Peste20abs=%1").arg(m.Peste20abs),
+                  T("MotivID=%1").arg(m.MotivID),
+                  T("Suma=") + m.Suma.Text(),
+                  T("TipValuta=%1").arg(m.TipValuta),
+                  T("StareMembru=%1").arg(m.StareMembru),
+                  T("Diminuare20=%1").arg(m.Diminuare20),
+                  T("Diminuare50=%1").arg(m.Diminuare50)};
     for (const AdeverintaMembru& a : m.Adeverinte)
         c << T("Adeverinta=%1/%2/%3/%4/%5/%6/%7")
                  .arg(a.AdevID)
@@ -136,12 +171,15 @@ TEST(VerificaPersoana, PrimaVerificareEsuataCastiga) {
          },
          1, -1, T("CNP incorect pentru ca are 3 caractere."), T("cboCNP")},
         {"13 caractere fara cifra de control buna trec",
-         [](DatePersoana& d) { d.cboCNP = CnpPartener.left(12) + QString::number((CnpPartener.right(1).toInt() + 1) % 10); }},
+         [](DatePersoana& d) {
+             d.cboCNP = CnpPartener.left(12) + QString::number((CnpPartener.right(1).toInt() + 1) % 10);
+         }},
         {"13 litere trec", [](DatePersoana& d) { d.cboCNP = T("ABCDEFGHIJKLM"); }},
-        {"CNP-ul altui membru, adaugare", [](DatePersoana& d) { d.cboCNP = CnpCopil; }, 1, -1, TextDublura, T("cboCNP")},
+        {"CNP-ul altui membru, adaugare", [](DatePersoana& d) { d.cboCNP = CnpCopil; }, 1, -1, TextDublura,
+         T("cboCNP")},
         {"propriul CNP la modificare", [](DatePersoana& d) { d.cboCNP = CnpCopil; }, 2, 1},
-        {"CNP-ul altui membru la modificare", [](DatePersoana& d) { d.cboCNP = CnpTitular; }, 2, 1,
-         TextDublura, T("cboCNP")},
+        {"CNP-ul altui membru la modificare", [](DatePersoana& d) { d.cboCNP = CnpTitular; }, 2, 1, TextDublura,
+         T("cboCNP")},
         {"dublura inaintea numelui gol",
          [](DatePersoana& d) {
              d.cboCNP = CnpTitular;
@@ -253,11 +291,23 @@ TEST(InMembru, FiecareControlInCampulSau) {
     d.MembruID = 44;
     d.cboCNP = T(" ") + CnpPartener;
     const std::pair<int, const char*> texte[] = {
-        {txtNume, "IONESCU"},       {txtPrenume, "MARIA"},      {txtSerieBI, "XB"},          {txtNrBI, "445566"},
-        {txtTaraCetatenie, "Moldova"}, {txtLocResedinta, "Iasi"}, {txtTaraResedinta, "Romania"},
-        {txtPerioada11, "2021-2022"}, {txtPerioada22, "2023"},  {txtTaraAfara11, "Italia"},  {txtTaraAfara22, "Spania"},
-        {txtTaraAfara1, "Germania"}, {txtTaraAfara2, "Austria"}, {txtPerioada2, "2020"},     {txtPerioada1, "2019"},
-        {txtVenit, "1.234,56"},     {txtSuma, "150.5"},
+        {txtNume, "IONESCU"},
+        {txtPrenume, "MARIA"},
+        {txtSerieBI, "XB"},
+        {txtNrBI, "445566"},
+        {txtTaraCetatenie, "Moldova"},
+        {txtLocResedinta, "Iasi"},
+        {txtTaraResedinta, "Romania"},
+        {txtPerioada11, "2021-2022"},
+        {txtPerioada22, "2023"},
+        {txtTaraAfara11, "Italia"},
+        {txtTaraAfara22, "Spania"},
+        {txtTaraAfara1, "Germania"},
+        {txtTaraAfara2, "Austria"},
+        {txtPerioada2, "2020"},
+        {txtPerioada1, "2019"},
+        {txtVenit, "1.234,56"},
+        {txtSuma, "150.5"},
     };
     for (const auto& [i, t] : texte)
         d.txtMembru[size_t(i)] = T(t);
@@ -356,7 +406,7 @@ TEST(InMembru, StudiileSiOcupatiaDupaRudenie) {
     };
     // cboMembru 5 holds 6, cboMembru 6 holds 1 "SALARIAT", cboMembru 12 holds 4 "ELEV CL IX-XII".
     const Caz cazuri[] = {
-        {1, 6, 1, "SALARIAT"}, {2, 6, 1, "SALARIAT"},      {4, 6, 1, "SALARIAT"},      {5, 6, 1, "SALARIAT"},
+        {1, 6, 1, "SALARIAT"},       {2, 6, 1, "SALARIAT"},       {4, 6, 1, "SALARIAT"},        {5, 6, 1, "SALARIAT"},
         {3, 4, 4, "ELEV CL IX-XII"}, {6, 4, 4, "ELEV CL IX-XII"}, {10, 4, 4, "ELEV CL IX-XII"},
     };
     for (const Caz& c : cazuri) {
@@ -521,7 +571,11 @@ TEST(DateDinCNP, DataNasteriiVarstaSiMajoratul) {
         {CuControl("605122046001"), "20 Decembrie 2005", QDate(2005, 12, 20), "Varsta: 18", QDate()},
         // A first digit of 7, 8 or 9 keeps a two-digit year, silently.
         {CuControl("785050546001"), "5 Mai 85", QDate(85, 5, 5), "Varsta: 1939", QDate()},
-        {CuControl("525060146001"), "1 Iunie 2025", QDate(2025, 6, 1), "Varsta: -1", QDate(2043, 6, 1),
+        {CuControl("525060146001"),
+         "1 Iunie 2025",
+         QDate(2025, 6, 1),
+         "Varsta: -1",
+         QDate(2043, 6, 1),
          {T("Varsta e negativa pentru ca Luna setata este anterioara lunii nasterii!")}},
     };
     for (const Caz& c : cazuri) {
@@ -562,7 +616,7 @@ TEST(DateDinCNP, LunaSauZiuaGresitaOpresteRutina) {
 
 TEST(ControaleDependente, RudeniaAlegeCadrul) {
     const std::pair<int, std::optional<bool>> cazuri[] = {
-        {1, true},  {2, true},  {4, true},  {5, true},  {3, false},         {6, false},
+        {1, true},  {2, true},  {4, true},  {5, true},   {3, false},        {6, false},
         {7, false}, {8, false}, {9, false}, {10, false}, {0, std::nullopt}, {11, std::nullopt},
     };
     for (const auto& [rudenie, adult] : cazuri) {
@@ -624,14 +678,20 @@ TEST(GrupElev, UnClicLasaCelMultOStare) {
     const AlegereCombo elev{3, T("ELEV CL I-VIII")}, liceu{4, T("ELEV CL IX-XII")}, faraStudii{2, T("FARA STUDII")};
     const QString nuEsteElev = T("Pentru a putea fi repetent copilul trebuie sa fie elev.");
     const Caz cazuri[] = {
-        {"abandon sterge restul", {chkRepetent, chkAbandon, chkPeste20abs, chkDiminuare20, chkDiminuare50}, chkAbandon,
-         elev, {chkAbandon}},
+        {"abandon sterge restul",
+         {chkRepetent, chkAbandon, chkPeste20abs, chkDiminuare20, chkDiminuare50},
+         chkAbandon,
+         elev,
+         {chkAbandon}},
         {"peste 20 de absente", {chkAbandon, chkPeste20abs}, chkPeste20abs, elev, {chkPeste20abs}},
         {"10 - 19 absente", {chkDiminuare50, chkDiminuare20}, chkDiminuare20, elev, {chkDiminuare20}},
         {"20 de absente", {chkDiminuare20, chkDiminuare50, chkRepetent}, chkDiminuare50, elev, {chkDiminuare50}},
         {"nici una", {chkRepetent, chkAbandon, chkNiciUna}, chkNiciUna, elev, {chkNiciUna}},
         {"debifarea sterge si ea restul", {chkPeste20abs}, chkAbandon, elev, {}},
-        {"alte bife nu sunt atinse", {chkVMG, chkDizabilitate, chkAbandon}, chkDiminuare20, elev,
+        {"alte bife nu sunt atinse",
+         {chkVMG, chkDizabilitate, chkAbandon},
+         chkDiminuare20,
+         elev,
          {chkVMG, chkDizabilitate}},
         {"repetent nu sterge nimic", {chkAbandon, chkRepetent}, chkRepetent, elev, {chkAbandon, chkRepetent}},
         {"repetent de liceu", {chkRepetent}, chkRepetent, liceu, {chkRepetent}},
@@ -921,8 +981,8 @@ protected:
             QString cnp;
             int tipAct;
         } persoane[] = {
-            {1, "POPESCU", "ION", CnpTitular, 2},     {2, "POPA", "MARIA", CnpPartener, 1},
-            {3, "IONESCU", "ANA", CnpCopil, 0},       {4, "POP_A", "ANDREI", CnpCunoscut, 4},
+            {1, "POPESCU", "ION", CnpTitular, 2},    {2, "POPA", "MARIA", CnpPartener, 1},
+            {3, "IONESCU", "ANA", CnpCopil, 0},      {4, "POP_A", "ANDREI", CnpCunoscut, 4},
             {5, "O'NEILL", "DAN", CnpFaraCerere, 2},
         };
         for (const auto& p : persoane)
