@@ -1,5 +1,7 @@
 #include "shell/frmMain.h"
 
+#include "cases/Anchete.h"
+#include "cases/frmAddAnchete.h"
 #include "shell/Ceas.h"
 #include "shell/Eroare.h"
 #include "shell/Functii.h"
@@ -15,6 +17,9 @@
 #include "shell/frmOptiuni.h"
 #include "shell/frmParola.h"
 #include "store/BazaDate.h"
+#include "store/frmDatePrimarie2.h"
+#include "store/frmMotive.h"
+#include "store/frmSate.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -201,6 +206,7 @@ void frmMain::construiesteListeleDeJos(QWidget* jos) {
     buton(anchete, randAnchete, cmdDelAncheta, "cmdDelAncheta", QStringLiteral("Sterge ancheta"));
     buton(anchete, randAnchete, cmdPrintAncheta, "cmdPrintAncheta", QStringLiteral("Tipareste ancheta"));
     randAnchete->addStretch();
+    cmdAddAncheta->setEnabled(true);
     static_cast<QVBoxLayout*>(anchete->layout())->addLayout(randAnchete);
     panou(lvwAdeverinte, "lvwAdeverinte", QStringLiteral("Adeverinte"), {}, nullptr);
     panou(lvwPlati, "lvwPlati", QStringLiteral("Plati"), {}, nullptr);
@@ -217,6 +223,10 @@ void frmMain::construiesteListeleDeJos(QWidget* jos) {
     randDisp->addStretch();
     static_cast<QVBoxLayout*>(dispozitii->layout())->addLayout(randDisp);
     connect(cmdDelDisp, &QPushButton::clicked, this, &frmMain::cmdDelDisp_Click);
+    connect(cmdAddAncheta, &QPushButton::clicked, this, &frmMain::cmdAddAncheta_Click);
+    connect(cmdEditAncheta, &QPushButton::clicked, this, &frmMain::cmdEditAncheta_Click);
+    connect(cmdDelAncheta, &QPushButton::clicked, this, &frmMain::cmdDelAncheta_Click);
+    connect(lvwAnchete, &QTreeWidget::itemDoubleClicked, this, &frmMain::cmdEditAncheta_Click);
     asezare->addWidget(opt);
 
     // The notice of expiring certificates slides up from the bottom edge.
@@ -254,11 +264,18 @@ void frmMain::construiesteMeniurile() {
     };
     // Entries whose windows come later stay visible but disabled.
     QMenu* dataGen = meniuPrincipal("mnuDataGen", QStringLiteral("Date generale"));
-    meniu(dataGen, "mnuDatePrimarie", QStringLiteral("Datele primariei..."), false);
+    connect(meniu(dataGen, "mnuDatePrimarie", QStringLiteral("Datele primariei..."), true), &QAction::triggered, this,
+            &frmMain::mnuDatePrimarie_Click);
     meniu(dataGen, "mnuBarem", QStringLiteral("Nivel venituri..."), false);
     meniu(dataGen, "mnuJudete", QStringLiteral("Judete..."), true); // never had a window
-    meniu(dataGen, "mnuSate", QStringLiteral("Sate/strazi..."), false);
-    meniu(dataGen, "mnuMotive", QStringLiteral("Motive..."), false);
+    connect(meniu(dataGen, "mnuSate", QStringLiteral("Sate/strazi..."), true), &QAction::triggered, this, [this] {
+        frmSate f(p_.bd, m_, this);
+        ArataModal(f);
+    });
+    connect(meniu(dataGen, "mnuMotive", QStringLiteral("Motive..."), true), &QAction::triggered, this, [this] {
+        frmMotive f(p_.bd, m_, this);
+        ArataModal(f);
+    });
     connect(meniu(dataGen, "mnuSetLunaCurenta", QStringLiteral("Setare luna curenta..."), true), &QAction::triggered,
             this, [this] { ArataLunaLucru(true); });
     meniu(dataGen, "mnuISR", QStringLiteral("Valoare ISR"), false);
@@ -323,7 +340,8 @@ void frmMain::Form_Load() {
         for (const ElementLista& e : ListaCereri::Strazi(p_.bd))
             cboStrada->addItem(e.text, e.id);
         cboStrada->setCurrentIndex(-1);
-        ScrieTitlul(true);
+        // A new office is led straight to its own data once the window is up.
+        if (!ScrieTitlul(true)) QTimer::singleShot(0, this, &frmMain::mnuDatePrimarie_Click);
         FiltruCautare f;
         f.LoadTipCerere = p_.setari.LoadTipCerere;
         ListaCereri(ListaCereri::Cauta(p_.bd, f));
@@ -380,12 +398,13 @@ void frmMain::TimerMSG_UPD_Timer() {
         m_.Informatie(QStringLiteral("Fontul 'Monotype Corsiva' nu este instalat."));
 }
 
-void frmMain::ScrieTitlul(bool cuMesaj) {
+bool frmMain::ScrieTitlul(bool cuMesaj) {
     bool exista = false;
     const QString denumire = ListaCereri::DenumirePrimarie(p_.bd, &exista);
     setWindowTitle(exista ? QStringLiteral("Alocatii-207: ") + denumire
                           : QStringLiteral("Alocatii-207: Nu exista date!"));
     if (!exista && cuMesaj) m_.Informatie(QStringLiteral("Introduceti datele primariei!"));
+    return exista;
 }
 
 void frmMain::ScrieLunaActiva() {
@@ -460,6 +479,7 @@ void frmMain::ItemClick() {
             m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
             return;
         }
+        ListaAnchete(r->CerereID);
         ListaDispozitii(r->CerereID);
     } catch (const Eroare& e) {
         m_.Critic(e.text());
@@ -480,6 +500,74 @@ void frmMain::ListaDispozitii(qint64 cerereID) {
     // Editing and printing come with the disposition editor and the documents.
     cmdDelDisp->setEnabled(!randuri.empty());
     if (!randuri.empty()) lvwDispozitii->setCurrentItem(lvwDispozitii->topLevelItem(0));
+}
+
+void frmMain::ListaAnchete(qint64 cerereID) {
+    lvwAnchete->clear();
+    const auto randuri = cerereID ? Anchete::ListaAnchete(p_.bd, cerereID) : std::vector<RandAncheta>{};
+    for (const RandAncheta& a : randuri) {
+        auto* item = new QTreeWidgetItem(
+            lvwAnchete, {QString::number(a.AnchetaID), a.Data, a.NrMembrii, a.NrCopii, a.DataExpirarii, a.Motiv});
+        item->setData(0, Qt::UserRole, a.AnchetaID);
+    }
+    const RandCerere* r = model_->Rand(RandSelectat());
+    lblAnchete->setText(Anchete::TitluAnchete(r ? r->Solicitant : QString(), randuri.size()));
+    cmdEditAncheta->setEnabled(!randuri.empty());
+    cmdDelAncheta->setEnabled(!randuri.empty());
+    if (!randuri.empty()) lvwAnchete->setCurrentItem(lvwAnchete->topLevelItem(0));
+}
+
+void frmMain::cmdAddAncheta_Click() {
+    const RandCerere* r = model_->Rand(RandSelectat());
+    try {
+        if (!Anchete::PoateAdauga(p_.bd, m_, r ? r->CerereID : 0)) return;
+        const qint64 cerereID = r->CerereID;
+        const int nrCopii = int(ListaCereri::Citeste(p_.bd, cerereID).NrCopii);
+        frmAddAnchete f(p_.bd, m_, 1, cerereID, 0, nrCopii, this);
+        ArataModal(f);
+        if (f.ESTE_OK) ListaAnchete(cerereID);
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
+}
+
+void frmMain::cmdEditAncheta_Click() {
+    QTreeWidgetItem* item = lvwAnchete->currentItem();
+    const RandCerere* r = model_->Rand(RandSelectat());
+    try {
+        const qint64 anchetaID = item ? item->data(0, Qt::UserRole).toLongLong() : 0;
+        if (!Anchete::PoateModifica(p_.bd, m_, anchetaID) || !r) return;
+        const qint64 cerereID = r->CerereID;
+        const int nrCopii = int(ListaCereri::Citeste(p_.bd, cerereID).NrCopii);
+        frmAddAnchete f(p_.bd, m_, 2, cerereID, anchetaID, nrCopii, this);
+        ArataModal(f);
+        if (f.ESTE_OK) ListaAnchete(cerereID);
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
+}
+
+void frmMain::cmdDelAncheta_Click() {
+    QTreeWidgetItem* item = lvwAnchete->currentItem();
+    try {
+        const qint64 anchetaID = item ? item->data(0, Qt::UserRole).toLongLong() : 0;
+        if (!Anchete::Sterge(p_.bd, m_, anchetaID, item ? item->text(0) : QString())) return;
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+        return;
+    }
+    const int index = lvwAnchete->indexOfTopLevelItem(item);
+    delete lvwAnchete->takeTopLevelItem(index);
+    const int ramase = lvwAnchete->topLevelItemCount();
+    if (ramase > 0) lvwAnchete->setCurrentItem(lvwAnchete->topLevelItem(std::min(index, ramase - 1)));
+    cmdEditAncheta->setEnabled(ramase > 0);
+    cmdDelAncheta->setEnabled(ramase > 0);
+}
+
+void frmMain::mnuDatePrimarie_Click() {
+    frmDatePrimarie2 f(p_.bd, m_, this);
+    ArataModal(f);
+    ScrieTitlul(false);
 }
 
 void frmMain::cmdDelDisp_Click() {

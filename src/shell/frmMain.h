@@ -2,8 +2,10 @@
 
 #include "shell/ListaCereri.h"
 
+#include <QDialog>
 #include <QMainWindow>
 #include <array>
+#include <functional>
 
 class Mesaje;
 class ModelCereri;
@@ -38,6 +40,14 @@ public:
     void ScrieLunaActiva();
     void ListaDispozitii(qint64 cerereID);
     void cmdDelDisp_Click();
+    void ListaAnchete(qint64 cerereID);
+    void cmdAddAncheta_Click();
+    void cmdEditAncheta_Click();
+    void cmdDelAncheta_Click();
+    void mnuDatePrimarie_Click();
+
+    // Shows a modal dialog; tests replace it to fill the dialog and press its buttons.
+    std::function<int(QDialog&)> ArataModal = [](QDialog& d) { return d.exec(); };
     void TimerMSG_UPD_Timer();
 
     ModelCereri* model() const { return model_; }
@@ -83,7 +93,7 @@ private:
     void construiesteBaraDeStare();
     QAction* meniu(QMenu* parinte, const char* nume, const QString& text, bool activ);
     void Form_Load();
-    void ScrieTitlul(bool cuMesaj);
+    bool ScrieTitlul(bool cuMesaj);
     void ListaCereri(std::vector<RandCerere> randuri);
     void GolireFiltre();
     FiltruCautare FiltruDinControale() const;

@@ -1,3 +1,4 @@
+#include "cases/frmAddAnchete.h"
 #include "shell/Ceas.h"
 #include "shell/ModelCereri.h"
 #include "shell/Program.h"
@@ -8,6 +9,9 @@
 #include "support/CereriTest.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -33,6 +37,11 @@ protected:
     std::unique_ptr<frmMain> Deschide() {
         program = std::make_unique<Program>(Program{Bd(), setari, Locatie().caleBD});
         auto f = std::make_unique<frmMain>(*program, mesaje);
+        // The first start's dialog is posted, so the seam is in place before it opens.
+        f->ArataModal = [this](QDialog& d) {
+            dialoguri << d.objectName();
+            return raspunsModal ? raspunsModal(d) : int(QDialog::Rejected);
+        };
         f->show();
         return f;
     }
@@ -67,6 +76,8 @@ protected:
 
     Setari setari;
     std::unique_ptr<Program> program;
+    QStringList dialoguri;
+    std::function<int(QDialog&)> raspunsModal;
 };
 
 TEST_P(FereastraPrincipala, BazaGoala) {
@@ -81,6 +92,16 @@ TEST_P(FereastraPrincipala, BazaGoala) {
     EXPECT_EQ(mesaje.Texte(),
               (QStringList{QStringLiteral("Selectati o cerere"), QStringLiteral("Selectati o cerere")}));
     EXPECT_EQ(f->sbrMain[2]->text(), QStringLiteral(" LUNA ACTIVA: Noiembrie 2026 "));
+
+    // A new office is led to its own data once the window is up, and the caption follows it.
+    EXPECT_TRUE(dialoguri.isEmpty());
+    raspunsModal = [this](QDialog&) {
+        Bd().Executa(QStringLiteral("INSERT INTO DatePrimarie (Denumire) VALUES ('Primaria Orasului Busteni')"));
+        return int(QDialog::Accepted);
+    };
+    QApplication::processEvents();
+    EXPECT_EQ(dialoguri, QStringList{QStringLiteral("frmDatePrimarie2")});
+    EXPECT_EQ(f->windowTitle(), QStringLiteral("Alocatii-207: Primaria Orasului Busteni"));
 }
 
 TEST_P(FereastraPrincipala, TitlulVineDinDatelePrimariei) {
@@ -88,6 +109,18 @@ TEST_P(FereastraPrincipala, TitlulVineDinDatelePrimariei) {
     auto f = Deschide();
     EXPECT_EQ(f->windowTitle(), QStringLiteral("Alocatii-207: Primaria Comunei Branesti"));
     EXPECT_TRUE(mesaje.mesaje.empty());
+    QApplication::processEvents();
+    EXPECT_TRUE(dialoguri.isEmpty()) << "an office with its data is not asked again";
+
+    // The reference menus open their editors.
+    for (const char* nume : {"mnuDatePrimarie", "mnuSate", "mnuMotive"}) {
+        auto* a = f->findChild<QAction*>(QLatin1String(nume));
+        ASSERT_NE(a, nullptr) << nume;
+        EXPECT_TRUE(a->isEnabled()) << nume;
+        a->trigger();
+    }
+    EXPECT_EQ(dialoguri, (QStringList{QStringLiteral("frmDatePrimarie2"), QStringLiteral("frmSate"),
+                                      QStringLiteral("frmMotive")}));
 }
 
 TEST_P(FereastraPrincipala, CautareaGoalesteFiltreleSiNumara) {
@@ -273,6 +306,89 @@ TEST_P(FereastraPrincipala, NotificareaApareDoarCandEsteCerutaSiSuntActe) {
     auto f = Deschide();
     EXPECT_TRUE(f->picNotific->isVisible());
     EXPECT_TRUE(f->picNotific->text().startsWith(QStringLiteral("Aveti acte care expira in luna ")));
+}
+
+TEST_P(FereastraPrincipala, AncheteleCereriiSelectateAdaugareModificareStergere) {
+    TreiCereri();
+    Interogare ins(Bd(), QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, Intocmitor, NrMembrii, "
+                                        "NrCopii) VALUES (?, ?, ?, ?, ?, ?)"));
+    ins.Leaga(4).Leaga(1).Leaga(QDate(2024, 2, 10)).Leaga("Ionescu Maria").Leaga(2).Leaga(1).Executa();
+    ins.Leaga(9).Leaga(1).Leaga(QDate(2024, 9, 3)).Leaga("Ionescu Maria").Leaga(QVariant()).Leaga(1).Executa();
+    auto f = Deschide();
+    ASSERT_EQ(f->lvwAnchete->topLevelItemCount(), 2);
+    EXPECT_EQ(f->lvwAnchete->topLevelItem(0)->text(1), QStringLiteral("03.09.2024")) << "newest first";
+    EXPECT_EQ(f->lvwAnchete->topLevelItem(0)->text(2), QString()) << "a missing count is blank";
+    EXPECT_EQ(f->lvwAnchete->topLevelItem(1)->text(2), QStringLiteral("2"));
+    EXPECT_EQ(f->lblAnchete->text(), QStringLiteral("Anchetele lui Popescu Ion."));
+    EXPECT_TRUE(f->cmdEditAncheta->isEnabled());
+    EXPECT_TRUE(f->cmdDelAncheta->isEnabled());
+
+    // Change: the editor opens on the selected inquiry, the list is read again after OK.
+    const auto completeaza = [](const QString& intocmitor) {
+        return [intocmitor](QDialog& d) {
+            auto& e = static_cast<frmAddAnchete&>(d);
+            e.txtCerere[0]->setText(intocmitor);
+            e.txtCerere[1]->setText(QStringLiteral("2"));
+            e.txtCerere[2]->setText(QStringLiteral("48"));
+            for (int i : {0, 1, 3})
+                e.cboCerere[i]->setCurrentIndex(0);
+            e.cmdOK_Click();
+            return e.ESTE_OK ? int(QDialog::Accepted) : int(QDialog::Rejected);
+        };
+    };
+    raspunsModal = completeaza(QStringLiteral("Vasilescu Ana"));
+    mesaje.mesaje.clear();
+    f->lvwAnchete->setCurrentItem(f->lvwAnchete->topLevelItem(1));
+    f->cmdEditAncheta_Click();
+    EXPECT_EQ(dialoguri.size(), 1);
+    EXPECT_EQ(mesaje.Texte(), QStringList());
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Anchete WHERE AnchetaID = 4 AND Intocmitor = "
+                                   "'Vasilescu Ana'")),
+              1);
+
+    // Add: a new row after OK.
+    raspunsModal = completeaza(QStringLiteral("Ionescu Maria"));
+    f->cmdAddAncheta_Click();
+    EXPECT_EQ(f->lvwAnchete->topLevelItemCount(), 3);
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Anchete WHERE CerereID = 1")), 3);
+
+    // Delete: asked, removed, a neighbour stays selected.
+    mesaje.mesaje.clear();
+    mesaje.raspunsuri = {true};
+    f->lvwAnchete->setCurrentItem(f->lvwAnchete->topLevelItem(2));
+    const QString sters = f->lvwAnchete->topLevelItem(2)->text(0);
+    f->cmdDelAncheta_Click();
+    EXPECT_EQ(mesaje.Texte(MesajeInregistrate::Fel::Intrebare),
+              QStringList{QStringLiteral("Sigur doriti sa stergeti ancheta %1 ?").arg(sters)});
+    EXPECT_EQ(f->lvwAnchete->topLevelItemCount(), 2);
+    ASSERT_NE(f->lvwAnchete->currentItem(), nullptr);
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Anchete")), 2);
+
+    // Gone meanwhile: told, nothing opened.
+    Bd().Executa(QStringLiteral("DELETE FROM Anchete"));
+    mesaje.mesaje.clear();
+    dialoguri.clear();
+    f->cmdEditAncheta_Click();
+    EXPECT_EQ(mesaje.Texte(), QStringList{QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cerere!")});
+    EXPECT_TRUE(dialoguri.isEmpty());
+
+    // A request with none: an empty list, no title, edit and delete off, add still there.
+    f->SelecteazaRand(1);
+    EXPECT_EQ(f->lvwAnchete->topLevelItemCount(), 0);
+    EXPECT_TRUE(f->lblAnchete->text().isEmpty());
+    EXPECT_FALSE(f->cmdEditAncheta->isEnabled());
+    EXPECT_FALSE(f->cmdDelAncheta->isEnabled());
+    EXPECT_TRUE(f->cmdAddAncheta->isEnabled());
+
+    // A request removed by another computer.
+    Interogare(Bd(), QStringLiteral("DELETE FROM Cereri WHERE CerereID = ?"))
+        .Leaga(f->model()->Rand(1)->CerereID)
+        .Executa();
+    mesaje.mesaje.clear();
+    f->cmdAddAncheta_Click();
+    EXPECT_EQ(mesaje.Texte(),
+              QStringList{QStringLiteral("Cererea selectata a fost stearsa de alt utilizator! Dati clic pe Cauta")});
+    EXPECT_TRUE(dialoguri.isEmpty());
 }
 
 PE_AMBELE_MOTOARE(FereastraPrincipala);
