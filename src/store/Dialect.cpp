@@ -32,7 +32,8 @@ QVariant Dialect::Parametru(const QVariant& v) const {
     if (!v.isValid() || v.isNull()) return QVariant();
     switch (v.typeId()) {
     case QMetaType::QDate:
-        return v.toDate().toString(Qt::ISODate);
+        // An empty date box stands for no date; an empty text would read back as a date on neither engine.
+        return v.toDate().isValid() ? QVariant(v.toDate().toString(Qt::ISODate)) : QVariant();
     case QMetaType::Bool:
         return v.toBool() ? 1 : 0;
     default:

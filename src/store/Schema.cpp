@@ -251,6 +251,7 @@ std::vector<IndexSchema> construiesteIndexuri() {
     };
     auto ci = [](const char* t, const char* c) { return IndexSchema{QString::fromLatin1(t), chei({c}), true}; };
     return {
+        ix("Familii", {"NrDosar"}),
         ix("Cereri", {"FamilieID"}),
         ix("Cereri", {"MembruID1"}),
         ix("Cereri", {"MembruID2"}),

@@ -52,6 +52,19 @@ TEST_P(Baza, CheiaNouaEsteMaximulPlusUnuInTranzactie) {
     EXPECT_THROW(AdaugaMembru(40000), Eroare);
 }
 
+TEST_P(Baza, DataGoalaSeScrieCaNullSiSeCitesteInapoiNevalida) {
+    BazaNoua();
+    Interogare ins(Bd(), QStringLiteral("INSERT INTO Membrii (MembruID, DataElib) VALUES (?, ?)"));
+    ins.Leaga(1).Leaga(QDate()).Executa();
+    ins.Leaga(2).Leaga(QDate(2024, 2, 29)).Executa();
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii WHERE DataElib IS NULL")), 1);
+    Interogare q(Bd(), QStringLiteral("SELECT DataElib FROM Membrii ORDER BY MembruID"));
+    ASSERT_TRUE(q.Exista());
+    EXPECT_FALSE(q.Data(QStringLiteral("DataElib")).isValid());
+    ASSERT_TRUE(q.Urmator());
+    EXPECT_EQ(q.Data(QStringLiteral("DataElib")), QDate(2024, 2, 29));
+}
+
 TEST_P(Baza, StergereaCereriiStergeRandurileDependente) {
     BazaNoua();
     BazaDate& db = Bd();
