@@ -153,7 +153,8 @@ void BazaDate::termina(bool confirma) {
     }
     if (!q.exec(QStringLiteral("COMMIT"))) {
         const QString motiv = textEroare(q.lastError());
-        q.exec(QStringLiteral("ROLLBACK"));
+        // SQLite keeps the transaction open after a refused COMMIT; PostgreSQL has already ended it.
+        if (dialect().EsteSQLite()) q.exec(QStringLiteral("ROLLBACK"));
         throw Eroare(QStringLiteral("Modificarile nu au putut fi salvate: %1").arg(motiv));
     }
 }
