@@ -2,6 +2,7 @@
 
 #include "cases/CalculCuantum.h"
 #include "cases/DateCerere.h"
+#include "documents/Documente.h"
 #include "shell/Ceas.h"
 #include "shell/Eroare.h"
 #include "shell/Foldere.h"
@@ -22,7 +23,8 @@
 namespace {
 
 const QString Utilizare = QStringLiteral(
-    "utilizare: ferolanta-cli {init|upgrade|demo --cereri N [--seed S]|cuantum ID [--luna L --an A]} [--dir DIR] "
+    "utilizare: ferolanta-cli {init|upgrade|demo --cereri N [--seed S]|cuantum ID [--luna L --an A]|"
+    "document {dispozitie|fisa|declaratie} ID [--sablon FISIER] [--out FISIER] [--data ZZ.LL.AAAA]} [--dir DIR] "
     "[--db postgresql://...]");
 
 struct EroareArgumente {
@@ -146,6 +148,56 @@ int cuantum(const QCommandLineParser& p, const QString& idText, QTextStream& out
     return 0;
 }
 
+// One merged document, written as the print commands write it but not opened: the template
+// delivered with the program (or --sablon), the settings of the database folder when it has a
+// settings file, and the fixed file name in the current folder (or --out).
+int document(const QCommandLineParser& p, const QString& fel, const QString& idText, QTextStream& out,
+             QTextStream& err) {
+    const bool dispozitie = fel == QLatin1String("dispozitie"), fisa = fel == QLatin1String("fisa");
+    if (!dispozitie && !fisa && fel != QLatin1String("declaratie"))
+        throw EroareArgumente{QStringLiteral("documentul poate fi dispozitie, fisa sau declaratie, nu %1").arg(fel)};
+    const qint64 id = numarIntre(idText, 1, std::numeric_limits<qint64>::max(),
+                                 dispozitie ? QStringLiteral("ID-ul dispozitiei") : QStringLiteral("ID-ul cererii"));
+    QDate dataFisa;
+    if (p.isSet(QStringLiteral("data"))) {
+        if (!fisa) throw EroareArgumente{QStringLiteral("--data este doar pentru fisa")};
+        dataFisa = QDate::fromString(p.value(QStringLiteral("data")), QStringLiteral("dd.MM.yyyy"));
+        if (!dataFisa.isValid()) throw EroareArgumente{QStringLiteral("--data cere o data ZZ.LL.AAAA")};
+    }
+
+    const LocatieBD loc = locatie(p);
+    Setari setari;
+    if (const QString ini = QDir(loc.caleBD).filePath(Foldere::FisierSetari); QFile::exists(ini))
+        setari = IncarcaSetari(ini);
+    OptiuniDocumente o = OptiuniDinSetari(setari, Foldere::FolderLivrat());
+    o.DataFisa = dataFisa;
+    const QString sablon = p.value(QStringLiteral("sablon"));
+    const QString implicit = dispozitie ? Documente::FisierDispozitie
+                             : fisa     ? Documente::FisierFisa
+                                        : Documente::FisierDeclaratie;
+    const QString iesire = QDir::cleanPath(
+        QDir::current().absoluteFilePath(p.isSet(QStringLiteral("out")) ? p.value(QStringLiteral("out")) : implicit));
+
+    MesajeFlux m(err, err);
+    auto db = BazaDate::Deschide(loc);
+    const Documente::Rezultat r = dispozitie ? Documente::GenereazaDispozitie(*db, id, o, iesire, m, sablon)
+                                  : fisa     ? Documente::GenereazaFisa(*db, id, o, iesire, m, sablon)
+                                             : Documente::GenereazaDeclaratie(*db, id, o, iesire, m, sablon);
+    switch (r) {
+    case Documente::Rezultat::Scris:
+        out << "Documentul a fost scris: " << QDir::toNativeSeparators(iesire) << Qt::endl;
+        return 0;
+    case Documente::Rezultat::FaraSablon:
+        err << QStringLiteral("Dispozitia %1 are un tip (Actiune) pentru care nu exista sablon; nu s-a scris nimic.")
+                   .arg(id)
+            << Qt::endl;
+        return 1;
+    case Documente::Rezultat::Esuat:
+        break;
+    }
+    return 1;
+}
+
 } // namespace
 
 int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err) {
@@ -156,15 +208,25 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
     p.addOption({QStringLiteral("seed"), QStringLiteral("samanta"), QStringLiteral("S")});
     p.addOption({QStringLiteral("luna"), QStringLiteral("luna de lucru"), QStringLiteral("L")});
     p.addOption({QStringLiteral("an"), QStringLiteral("anul de lucru"), QStringLiteral("A")});
-    p.addPositionalArgument(QStringLiteral("comanda"), QStringLiteral("init, upgrade, demo, cuantum"));
+    p.addOption({QStringLiteral("sablon"), QStringLiteral("sablonul documentului"), QStringLiteral("FISIER")});
+    p.addOption({QStringLiteral("out"), QStringLiteral("fisierul scris"), QStringLiteral("FISIER")});
+    p.addOption({QStringLiteral("data"), QStringLiteral("data fisei de calcul"), QStringLiteral("ZZ.LL.AAAA")});
+    p.addPositionalArgument(QStringLiteral("comanda"), QStringLiteral("init, upgrade, demo, cuantum, document"));
     try {
         if (!p.parse(argumente)) throw EroareArgumente{p.errorText()};
         const QStringList poz = p.positionalArguments();
         if (poz.isEmpty()) throw EroareArgumente{QStringLiteral("lipseste comanda")};
         const QString comanda = poz.first();
         const bool cuCerere = comanda == QLatin1String("cuantum");
+        const bool cuDocument = comanda == QLatin1String("document");
         if (cuCerere && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
-        if (poz.size() != (cuCerere ? 2 : 1)) throw EroareArgumente{QStringLiteral("prea multe argumente")};
+        if (cuDocument && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste felul documentului")};
+        if (cuDocument && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul documentului")};
+        if (poz.size() != (cuDocument ? 3 : cuCerere ? 2 : 1))
+            throw EroareArgumente{QStringLiteral("prea multe argumente")};
+        if (!cuDocument &&
+            (p.isSet(QStringLiteral("sablon")) || p.isSet(QStringLiteral("out")) || p.isSet(QStringLiteral("data"))))
+            throw EroareArgumente{QStringLiteral("--sablon, --out si --data sunt doar pentru document")};
         if (comanda != QLatin1String("demo") && (p.isSet(QStringLiteral("cereri")) || p.isSet(QStringLiteral("seed"))))
             throw EroareArgumente{QStringLiteral("--cereri si --seed sunt doar pentru demo")};
         if (!cuCerere && (p.isSet(QStringLiteral("luna")) || p.isSet(QStringLiteral("an"))))
@@ -173,6 +235,7 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (comanda == QLatin1String("upgrade")) return upgrade(p, out, err);
         if (comanda == QLatin1String("demo")) return demo(p, out, err);
         if (cuCerere) return cuantum(p, poz[1], out, err);
+        if (cuDocument) return document(p, poz[1], poz[2], out, err);
         throw EroareArgumente{QStringLiteral("comanda necunoscuta: %1").arg(comanda)};
     } catch (const EroareArgumente& e) {
         err << e.text << ". " << Utilizare << Qt::endl;

@@ -1,0 +1,99 @@
+#include "cases/EditorCerere.h"
+
+#include "shell/Eroare.h"
+#include "shell/Functii.h"
+#include "shell/Mesaje.h"
+#include "shell/Val.h"
+#include "store/BazaDate.h"
+
+namespace {
+
+constexpr int TipStare = 1, TipModPlata = 12, TipReprLegal = 27;
+constexpr int txtVenitTotal = 12, txtVenitPeMembru = 13, txtCuantum = 14, txtNrMembrii = 15, txtNrCopii = 16;
+
+std::vector<AlegereCombo> Randuri(BazaDate& db, const QString& sql) {
+    std::vector<AlegereCombo> r;
+    Interogare q(db, sql);
+    q.Executa();
+    while (q.Urmator())
+        r.push_back({q.Intreg(0), q.Valoare(1).toString()});
+    return r;
+}
+
+// The total typed in box 12: blank is nothing, anything else must be an amount.
+std::optional<Bani> VenitTotal(const QString& text) {
+    const QString t = text.trimmed();
+    if (t.isEmpty()) return Bani();
+    try {
+        return SumaText(t);
+    } catch (const Eroare&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+ListeEditorCerere IncarcaListeEditor(BazaDate& db) {
+    ListeEditorCerere l;
+    l.Strazi = Randuri(db, QStringLiteral("SELECT StradaID, Denumire FROM Strazi ORDER BY StradaID"));
+    l.Motive = Randuri(db, QStringLiteral("SELECT MotivID, Denumire FROM Motive ORDER BY MotivID"));
+    Interogare q(db, QStringLiteral("SELECT Tip, DataID, Continut FROM DateGen WHERE Tip IN (?, ?, ?) "
+                                    "ORDER BY Tip, Ordine, DataID"));
+    q.Leaga(TipStare).Leaga(TipModPlata).Leaga(TipReprLegal).Executa();
+    while (q.Urmator()) {
+        const AlegereCombo a{q.Intreg(1), q.Valoare(2).toString()};
+        switch (q.Intreg(0)) {
+        case TipStare:
+            l.Stare.push_back(a);
+            break;
+        case TipModPlata:
+            l.ModPlata.push_back(a);
+            break;
+        default:
+            l.ReprLegal.push_back(a);
+            break;
+        }
+    }
+    l.TipCerere = {{1, TextTipCerere(1)}, {2, TextTipCerere(2)}};
+    return l;
+}
+
+CalculEditor::CalculEditor(ParametriCuantum p, int lunaSetata, int anSetat)
+    : p_(std::move(p)), luna_(lunaSetata), an_(anSetat) {}
+
+void CalculEditor::TextSchimbat(DateCerere& d, int element, const StareCerere& s, Mesaje& m) {
+    auto& t = d.txtCerere;
+    const std::optional<Bani> total = VenitTotal(t[txtVenitTotal]);
+    if (!total) return;
+    const double membri = Val(t[txtNrMembrii]);
+    if (membri > 0 && membri <= 1e9) t[txtVenitPeMembru] = VenitPeMembruText(*total, int(membri));
+    if (element == txtVenitTotal) Cuantum(d, s, m);
+}
+
+void CalculEditor::Cuantum(DateCerere& d, const StareCerere& s, Mesaje& m) {
+    auto& t = d.txtCerere;
+    // A box never filled counts as no income, as the save stores it.
+    const QString venit = t[txtVenitPeMembru].trimmed().isEmpty() ? QStringLiteral("0") : t[txtVenitPeMembru];
+    const IntrareCuantum intrare{s, int(d.cboCerere[3].id), d.dtpData[1], venit, luna_, an_};
+    const RezultatCuantum r = CalculCuantum(intrare, p_, m);
+    t[txtCuantum] = TextSuma(r.Cuantum);
+    if (r.NrCopii) t[txtNrCopii] = QString::number(*r.NrCopii);
+    if (r.CuantumInainteDeReduceri) inainteDeReduceri_ = r.CuantumInainteDeReduceri;
+}
+
+void CalculEditor::DupaVenituri(DateCerere& d, const StareCerere& s, Mesaje& m) {
+    d.txtCerere[txtVenitTotal] = TextSuma(SumaVenituri(s.Venituri));
+    TextSchimbat(d, txtVenitTotal, s, m);
+}
+
+void CalculEditor::Totaluri(DateCerere& d, const StareCerere& s, const TotaluriMembri& t, Mesaje& m) {
+    d.txtCerere[txtNrMembrii] = QString::number(t.NrMembrii);
+    TextSchimbat(d, txtNrMembrii, s, m);
+    Cuantum(d, s, m);
+}
+
+void CalculEditor::DupaBunuri(DateCerere& d, const StareCerere& s, int nrInLista, Mesaje& m) {
+    const TotaluriMembri t = RecalculTotaluri(nrInLista, s.MatriceMembri);
+    if (!t.Exceptie.isEmpty()) m.Informatie(t.Exceptie);
+    Totaluri(d, s, t, m);
+}

@@ -1,0 +1,94 @@
+#include "documents/DateDocument.h"
+
+#include "shell/Functii.h"
+#include "shell/Setari.h"
+#include "store/BazaDate.h"
+
+#include <QDir>
+
+OptiuniDocumente OptiuniDinSetari(const Setari& s, const QString& applicationPath) {
+    OptiuniDocumente o;
+    o.FolderActe = QDir(applicationPath).filePath(QStringLiteral("Acte"));
+    o.Motiv = s.Motiv;
+    o.StrSat = s.StrSat;
+    return o;
+}
+
+std::optional<PrimarieDocument> CitestePrimaria(BazaDate& db) {
+    Interogare q(db, QStringLiteral("SELECT Judet, Localitate, Primar, Secretar, CodFiscal, AsSocial, TipLocalitate "
+                                    "FROM DatePrimarie"));
+    q.Executa();
+    if (!q.Urmator()) return std::nullopt;
+    PrimarieDocument p;
+    p.Judet = Camp::Text(q, QStringLiteral("Judet"));
+    p.Localitate = Camp::Text(q, QStringLiteral("Localitate"));
+    p.Primar = Camp::Text(q, QStringLiteral("Primar"));
+    p.Secretar = Camp::Text(q, QStringLiteral("Secretar"));
+    p.CodFiscal = Camp::Text(q, QStringLiteral("CodFiscal"));
+    p.AsSocial = Camp::Text(q, QStringLiteral("AsSocial"));
+    p.TipLocalitate = Camp::Intreg(q, QStringLiteral("TipLocalitate"));
+    return p;
+}
+
+QString TextAdresa(const AdresaFamilie& a, const QString& strSat, bool numeProprii) {
+    auto are = [](const std::optional<QString>& v) { return v && !v->isEmpty(); };
+    QString t;
+    if (are(a.Localitate)) t += numeProprii ? NumeProprii(*a.Localitate) : *a.Localitate;
+    if (are(a.Strada))
+        t += QStringLiteral(", ") + strSat + QLatin1Char(' ') + (numeProprii ? NumeProprii(*a.Strada) : *a.Strada);
+    if (are(a.Nr)) t += QStringLiteral(", nr. ") + *a.Nr;
+    if (are(a.Sc)) t += QStringLiteral(", sc. ") + *a.Sc;
+    if (are(a.Ap)) t += QStringLiteral(", ap. ") + *a.Ap;
+    return t;
+}
+
+QString TextData(const QDate& d) {
+    return FormatData(d);
+}
+
+QString NumeIntreg(const std::optional<QString>& nume, const std::optional<QString>& prenume) {
+    return nume.value_or(QString()) + QLatin1Char(' ') + prenume.value_or(QString());
+}
+
+namespace Camp {
+
+std::optional<QString> Text(const Interogare& q, const QString& camp) {
+    const QVariant v = q.Valoare(camp);
+    if (v.isNull()) return std::nullopt;
+    return v.toString();
+}
+
+std::optional<qint64> Intreg(const Interogare& q, const QString& camp) {
+    const QVariant v = q.Valoare(camp);
+    if (v.isNull()) return std::nullopt;
+    return v.toLongLong();
+}
+
+std::optional<QDate> Data(const Interogare& q, const QString& camp) {
+    if (q.EsteNul(camp)) return std::nullopt;
+    const QDate d = q.Data(camp);
+    if (!d.isValid()) return std::nullopt;
+    return d;
+}
+
+std::optional<Bani> Suma(const Interogare& q, const QString& camp) {
+    if (q.EsteNul(camp)) return std::nullopt;
+    return q.Suma(camp);
+}
+
+} // namespace Camp
+
+std::vector<std::vector<qint64>> GrupeChei(const std::vector<qint64>& chei, size_t marime) {
+    std::vector<std::vector<qint64>> g;
+    for (size_t i = 0; i < chei.size(); i += marime)
+        g.emplace_back(chei.begin() + qsizetype(i), chei.begin() + qsizetype(std::min(chei.size(), i + marime)));
+    return g;
+}
+
+QString Semne(size_t n) {
+    QString s;
+    s.reserve(qsizetype(n * 3));
+    for (size_t i = 0; i < n; ++i)
+        s += i ? QStringLiteral(", ?") : QStringLiteral("?");
+    return s;
+}

@@ -1,0 +1,164 @@
+#include "documents/InlocuireCerere.h"
+
+#include "cases/DateCerere.h"
+#include "documents/Sablon.h"
+#include "shell/Ceas.h"
+#include "shell/Mesaje.h"
+#include "store/BazaDate.h"
+
+#include <map>
+#include <utility>
+
+namespace {
+
+const QString Puncte = QStringLiteral(".....................");
+
+std::optional<QString> Numar(const std::optional<qint64>& v) {
+    if (!v) return std::nullopt;
+    return QString::number(*v);
+}
+std::optional<QString> Data(const std::optional<QDate>& v) {
+    if (!v) return std::nullopt;
+    return TextData(*v);
+}
+std::optional<QString> Suma(const std::optional<Bani>& v) {
+    if (!v) return std::nullopt;
+    return TextSuma(*v);
+}
+
+QByteArray Marcaj(const char* inceput, int n) {
+    return QByteArray(inceput) + QByteArray::number(n) + '#';
+}
+
+bool Esuat(const Completare& k, Mesaje& m) {
+    if (k.Reusita()) return false;
+    m.Critic(k.MesajEsec());
+    return true;
+}
+
+// The DateGen texts that a declaration names: kinship (2), occupation (3), school situation (33).
+std::map<std::pair<int, qint64>, QString> TexteDateGen(BazaDate& db) {
+    std::map<std::pair<int, qint64>, QString> t;
+    Interogare q(db, QStringLiteral("SELECT Tip, DataID, Continut FROM DateGen WHERE Tip IN (?, ?, ?) "
+                                    "ORDER BY Tip, DataID, Ordine"));
+    q.Leaga(2).Leaga(3).Leaga(33).Executa();
+    while (q.Urmator()) {
+        // The first row of a value is the one that counts, as a look-up by value finds it.
+        const std::pair<int, qint64> cheie{int(q.Intreg(0)), q.Intreg(1)};
+        if (!t.contains(cheie)) t.emplace(cheie, q.Valoare(2).toString());
+    }
+    return t;
+}
+
+} // namespace
+
+bool InlocuiesteFisa(BazaDate& db, qint64 cerereID, const QDate& dataFisa, QByteArray& corp, Mesaje& m) {
+    Interogare q(db, QStringLiteral("SELECT C.NrCerere, C.DataCerere, C.NrMembrii, C.NrCopii, C.VenitTotal, "
+                                    "C.VenitpeMembru, C.Cuantum, M.Nume, M.Prenume "
+                                    "FROM Cereri C LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 "
+                                    "WHERE C.CerereID = ?"));
+    q.Leaga(cerereID);
+    if (!q.Exista()) {
+        m.Avertisment(TextRandNegasit);
+        return false;
+    }
+    const auto primarie = CitestePrimaria(db).value_or(PrimarieDocument{});
+
+    Completare k(corp);
+    k.Pune("#NrC#", Numar(Camp::Intreg(q, QStringLiteral("NrCerere"))), QStringLiteral("NrCerere"));
+    k.Pune("#DataCerere#", Data(Camp::Data(q, QStringLiteral("DataCerere"))), QStringLiteral("DataCerere"));
+    k.Pune("#NrMembrii#", Numar(Camp::Intreg(q, QStringLiteral("NrMembrii"))), QStringLiteral("NrMembrii"));
+    k.Pune("#NrCopii#", Numar(Camp::Intreg(q, QStringLiteral("NrCopii"))), QStringLiteral("NrCopii"));
+    k.Pune("#VenitTotal#", Suma(Camp::Suma(q, QStringLiteral("VenitTotal"))), QStringLiteral("VenitTotal"));
+    k.Pune("#VenitpeMembru#", Suma(Camp::Suma(q, QStringLiteral("VenitpeMembru"))).value_or(QString()));
+    k.Pune("#Cuantum#", Suma(Camp::Suma(q, QStringLiteral("Cuantum"))), QStringLiteral("Cuantum"));
+    k.Pune("#Titular#", NumeIntreg(Camp::Text(q, QStringLiteral("Nume")), Camp::Text(q, QStringLiteral("Prenume"))));
+    k.Pune("##data##", TextData(dataFisa.isValid() ? dataFisa : Ceas::Azi()));
+    k.Pune("#Jud#", primarie.Judet.value_or(Puncte));
+    k.Pune("#Loc#", primarie.Localitate.value_or(Puncte));
+    k.Pune("#AsSocial#", primarie.AsSocial.value_or(QString()));
+    return !Esuat(k, m);
+}
+
+bool InlocuiesteDeclaratie(BazaDate& db, qint64 cerereID, const OptiuniDocumente& o, QByteArray& corp, Mesaje& m) {
+    Interogare c(db, QStringLiteral("SELECT C.NrCerere, C.DataCerere, M.Nume, M.Prenume, M.CNP, F.Localitate, "
+                                    "F.Strada, F.Nr, F.Sc, F.Ap "
+                                    "FROM Cereri C LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 "
+                                    "LEFT JOIN Familii F ON F.FamilieID = C.FamilieID WHERE C.CerereID = ?"));
+    c.Leaga(cerereID);
+    if (!c.Exista()) {
+        m.Avertisment(TextRandNegasit);
+        return false;
+    }
+    const auto primarie = CitestePrimaria(db).value_or(PrimarieDocument{});
+
+    Completare k(corp);
+    k.Pune("#Judet#", primarie.Judet.value_or(Puncte));
+    k.Pune("#Localitate#", primarie.Localitate.value_or(Puncte));
+    k.Pune("#NrC#", Numar(Camp::Intreg(c, QStringLiteral("NrCerere"))), QStringLiteral("NrCerere"));
+    k.Pune("#DataC#", Data(Camp::Data(c, QStringLiteral("DataCerere"))), QStringLiteral("DataCerere"));
+
+    Interogare v(db, QStringLiteral("SELECT CodVenit, Valoare FROM Venituri WHERE CerereID = ? ORDER BY CodVenit"));
+    v.Leaga(cerereID).Executa();
+    int venituri = 0;
+    std::optional<Bani> total = Bani();
+    while (v.Urmator()) {
+        ++venituri;
+        const auto valoare = Camp::Suma(v, QStringLiteral("Valoare"));
+        k.Pune(Marcaj("#c", venituri).constData(), Numar(Camp::Intreg(v, QStringLiteral("CodVenit"))),
+               QStringLiteral("CodVenit al venitului %1").arg(venituri));
+        k.Pune(Marcaj("#cu", venituri).constData(), Suma(valoare),
+               QStringLiteral("Valoare a venitului %1").arg(venituri));
+        if (total) total = valoare ? std::optional<Bani>(*total + *valoare) : std::nullopt;
+    }
+    k.Pune("#tot#", Suma(total), QStringLiteral("Valoare a unui venit"));
+
+    AdresaFamilie a;
+    a.Localitate = Camp::Text(c, QStringLiteral("Localitate"));
+    a.Strada = Camp::Text(c, QStringLiteral("Strada"));
+    a.Nr = Camp::Text(c, QStringLiteral("Nr"));
+    a.Sc = Camp::Text(c, QStringLiteral("Sc"));
+    a.Ap = Camp::Text(c, QStringLiteral("Ap"));
+    k.Pune("#adresa#", TextAdresa(a, o.StrSat, false));
+    k.Pune("#nume#", NumeIntreg(Camp::Text(c, QStringLiteral("Nume")), Camp::Text(c, QStringLiteral("Prenume"))));
+    k.Pune("#cnp#", Camp::Text(c, QStringLiteral("CNP")), QStringLiteral("CNP al titularului"));
+    if (Esuat(k, m)) return false;
+
+    const auto texte = TexteDateGen(db);
+    auto text = [&](int tip, const std::optional<qint64>& id) -> std::optional<QString> {
+        if (!id) return std::nullopt;
+        const auto it = texte.find({tip, *id});
+        if (it == texte.end()) return std::nullopt;
+        return TextPanaLaParanteza(it->second).toLower();
+    };
+    Interogare p(db, QStringLiteral("SELECT M.Nume, M.Prenume, M.CNP, CM.RudenieID, CM.OcupatieID, CM.Studii "
+                                    "FROM CereriMembrii CM INNER JOIN Membrii M ON M.MembruID = CM.MembruID "
+                                    "WHERE CM.CerereID = ? "
+                                    "ORDER BY CASE WHEN CM.RudenieID IS NULL THEN 0 ELSE 1 END, CM.RudenieID, "
+                                    "CM.MembruID"));
+    p.Leaga(cerereID).Executa();
+    int membri = 0;
+    while (p.Urmator()) {
+        ++membri;
+        const auto rudenie = Camp::Intreg(p, QStringLiteral("RudenieID"));
+        k.Pune(Marcaj("#nume", membri).constData(),
+               NumeIntreg(Camp::Text(p, QStringLiteral("Nume")), Camp::Text(p, QStringLiteral("Prenume"))));
+        k.Pune(Marcaj("#cnp", membri).constData(), Camp::Text(p, QStringLiteral("CNP")),
+               QStringLiteral("CNP al membrului %1").arg(membri));
+        k.Pune(Marcaj("#n", membri).constData(), QString::number(membri));
+        k.Pune(Marcaj("#r", membri).constData(), text(2, rudenie).value_or(QString()));
+        auto ocupatie = text(3, Camp::Intreg(p, QStringLiteral("OcupatieID")));
+        const qint64 r = rudenie.value_or(0);
+        if (!ocupatie && (r == 3 || (r >= 6 && r <= 10)))
+            ocupatie = text(33, Camp::Intreg(p, QStringLiteral("Studii")));
+        k.Pune(Marcaj("#o", membri).constData(), ocupatie.value_or(QString()));
+    }
+
+    for (int n = venituri + 1; n <= RanduriDeclaratie; ++n)
+        for (const char* pref : {"#c", "#cu"})
+            k.Pune(Marcaj(pref, n).constData(), QString());
+    for (int n = membri + 1; n <= RanduriDeclaratie; ++n)
+        for (const char* pref : {"#nume", "#cnp", "#n", "#r", "#o"})
+            k.Pune(Marcaj(pref, n).constData(), QString());
+    return !Esuat(k, m);
+}

@@ -1,0 +1,196 @@
+#pragma once
+
+#include "shell/Bani.h"
+#include "store/BazaDate.h"
+
+#include <QDate>
+#include <QFile>
+#include <QString>
+#include <QVariant>
+#include <vector>
+
+// Case files written straight to the tables for the document tests. A QVariant() is a null.
+
+inline QString TestDate(const char* nume) {
+    return QStringLiteral(FEROLANTA_TESTE_DATE "/documente/") + QString::fromUtf8(nume);
+}
+
+inline QByteArray CitesteTot(const QString& cale) {
+    QFile f(cale);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+inline QVariant Suma(const char* text) {
+    return QVariant(Bani::DinText(QString::fromLatin1(text))->ToDouble());
+}
+
+struct PrimarieTest {
+    QVariant Judet, Localitate, Primar, Secretar, CodFiscal, TipLocalitate, AsSocial;
+};
+
+struct PersoanaTest {
+    qint64 MembruID;
+    QString Nume, Prenume;
+    QVariant CNP;
+    QVariant RudenieID, OcupatieID, Studii;
+};
+
+struct CerereDocTest {
+    qint64 CerereID = 0;
+    QVariant NrCerere, DataCerere, TipCerere, NrMembrii, NrCopii, VenitTotal, VenitpeMembru, Cuantum, MotivStare;
+    QVariant Judet, Localitate, Strada, Nr, Sc, Ap; // the family
+    std::vector<PersoanaTest> Persoane;             // the first is the holder
+};
+
+struct DispozitieTest {
+    qint64 DispozitieID = 0, CerereID = 0;
+    QVariant NrDisp, DataDisp, DinData, Actiune, Cuantum, CuantumVechi, Motiv;
+};
+
+inline void ScriePrimarie(BazaDate& db, const PrimarieTest& p) {
+    Interogare(db, QStringLiteral("INSERT INTO DatePrimarie (Denumire, Judet, Localitate, Primar, Secretar, CodFiscal, "
+                                  "TipLocalitate, AsSocial) VALUES ('Primaria', ?, ?, ?, ?, ?, ?, ?)"))
+        .Leaga(p.Judet)
+        .Leaga(p.Localitate)
+        .Leaga(p.Primar)
+        .Leaga(p.Secretar)
+        .Leaga(p.CodFiscal)
+        .Leaga(p.TipLocalitate)
+        .Leaga(p.AsSocial)
+        .Executa();
+}
+
+inline void ScrieCerere(BazaDate& db, const CerereDocTest& c) {
+    Tranzactie t(db);
+    Interogare(db, QStringLiteral("INSERT INTO Familii (FamilieID, Judet, Localitate, Strada, Nr, Sc, Ap) "
+                                  "VALUES (?, ?, ?, ?, ?, ?, ?)"))
+        .Leaga(c.CerereID)
+        .Leaga(c.Judet)
+        .Leaga(c.Localitate)
+        .Leaga(c.Strada)
+        .Leaga(c.Nr)
+        .Leaga(c.Sc)
+        .Leaga(c.Ap)
+        .Executa();
+    Interogare(db, QStringLiteral(
+                       "INSERT INTO Cereri (CerereID, FamilieID, NrCerere, DataCerere, MembruID1, Stare, TipCerere, "
+                       "NrMembrii, NrCopii, VenitTotal, VenitpeMembru, Cuantum, MotivStare) "
+                       "VALUES (?, ?, ?, ?, ?, 2, ?, ?, ?, ?, ?, ?, ?)"))
+        .Leaga(c.CerereID)
+        .Leaga(c.CerereID)
+        .Leaga(c.NrCerere)
+        .Leaga(c.DataCerere)
+        .Leaga(c.Persoane.front().MembruID)
+        .Leaga(c.TipCerere)
+        .Leaga(c.NrMembrii)
+        .Leaga(c.NrCopii)
+        .Leaga(c.VenitTotal)
+        .Leaga(c.VenitpeMembru)
+        .Leaga(c.Cuantum)
+        .Leaga(c.MotivStare)
+        .Executa();
+    for (const PersoanaTest& p : c.Persoane) {
+        Interogare(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"))
+            .Leaga(p.MembruID)
+            .Leaga(p.Nume)
+            .Leaga(p.Prenume)
+            .Leaga(p.CNP)
+            .Executa();
+        Interogare(db, QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, OcupatieID, Studii) "
+                                      "VALUES (?, ?, ?, ?, ?)"))
+            .Leaga(c.CerereID)
+            .Leaga(p.MembruID)
+            .Leaga(p.RudenieID)
+            .Leaga(p.OcupatieID)
+            .Leaga(p.Studii)
+            .Executa();
+    }
+    t.Confirma();
+}
+
+inline void ScrieDispozitie(BazaDate& db, const DispozitieTest& d) {
+    Interogare(db, QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Actiune, "
+                                  "Cuantum, CuantumVechi, Motiv) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"))
+        .Leaga(d.DispozitieID)
+        .Leaga(d.CerereID)
+        .Leaga(d.NrDisp)
+        .Leaga(d.DataDisp)
+        .Leaga(d.DinData)
+        .Leaga(d.Actiune)
+        .Leaga(d.Cuantum)
+        .Leaga(d.CuantumVechi)
+        .Leaga(d.Motiv)
+        .Executa();
+}
+
+inline QString U(const char* s) {
+    return QString::fromUtf8(s);
+}
+
+// Town hall A: an ordinary commune.
+inline PrimarieTest PrimarieA() {
+    return {U("Ilfov"), U("Brănești"), U("Ion Ionescu"), U("Maria Georgescu"), U("4420636"), 1, U("Elena Dumitru")};
+}
+
+// Request 7: a father with one child (and the rest of the household for the declaration).
+inline CerereDocTest CerereA() {
+    CerereDocTest c;
+    c.CerereID = 7;
+    c.NrCerere = 125;
+    c.DataCerere = QDate(2015, 2, 10);
+    c.TipCerere = 1;
+    c.NrMembrii = 3;
+    c.NrCopii = 1;
+    c.VenitTotal = Suma("1200.5");
+    c.VenitpeMembru = QVariant();
+    c.Cuantum = Suma("82");
+    c.MotivStare = U("Motiv din cerere");
+    c.Judet = U("Ilfov");
+    c.Localitate = U("Brănești");
+    c.Strada = U("Florilor");
+    c.Nr = U("12");
+    c.Sc = U("B");
+    c.Ap = U("4");
+    c.Persoane = {{70, U("Popa"), U("Vasile"), U("1850312410015"), 1, 1, QVariant()},
+                  {71, U("Popa"), U("Ioana"), U("2870506410021"), 2, 99, 3},
+                  {72, U("Popa"), U("Mihai"), U("5100203410034"), 3, QVariant(), 3},
+                  {73, U("Ionescu"), U("Dan"), U("5120808410047"), 6, 8, QVariant()},
+                  {74, U("Popa"), U("Gheorghe"), U("1500101410055"), 4, QVariant(), 2}};
+    return c;
+}
+
+inline DispozitieTest DispozitieA() {
+    return {3, 7, 45, QDate(2015, 2, 20), QDate(2015, 3, 1), 1, Suma("82"), QVariant(), U("Îndeplinește condițiile")};
+}
+
+// Town hall B: the town whose names are printed with capitals at each word.
+inline PrimarieTest PrimarieB() {
+    return {U("Cluj"), U("FIZEȘU GHERLII"), U("Dan Pop"), U("Ana Rus"), QVariant(), QVariant(), QVariant()};
+}
+
+// Request 8: a single mother of five.
+inline CerereDocTest CerereB() {
+    CerereDocTest c;
+    c.CerereID = 8;
+    c.NrCerere = 9;
+    c.DataCerere = QDate(2016, 5, 3);
+    c.TipCerere = 2;
+    c.NrMembrii = 6;
+    c.NrCopii = 5;
+    c.VenitTotal = Suma("300");
+    c.VenitpeMembru = Suma("50");
+    c.Cuantum = Suma("428");
+    c.MotivStare = U("Mutare în localitate");
+    c.Judet = U("Cluj");
+    c.Localitate = U("fizeșu gherlii");
+    c.Strada = U("LIBERTĂȚII");
+    c.Nr = U("3");
+    c.Sc = QVariant();
+    c.Ap = U("");
+    c.Persoane = {{80, U("MUREȘAN"), U("ana-maria"), U("2900715123456"), 1, 4, QVariant()}};
+    return c;
+}
+
+inline DispozitieTest DispozitieB() {
+    return {4, 8, QVariant(), QVariant(), QDate(2016, 6, 1), 1, Suma("428"), QVariant(), U("motiv din dispozitie")};
+}

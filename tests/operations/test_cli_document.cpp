@@ -1,0 +1,155 @@
+#include "documents/DateDocumenteTest.h"
+#include "documents/Sablon.h"
+#include "operations/ComenziCli.h"
+#include "shell/Ceas.h"
+#include "support/BazaTest.h"
+
+#include <QDir>
+
+namespace {
+
+struct Iesire {
+    int cod;
+    QString out, err;
+};
+
+Iesire ruleaza(QStringList argumente) {
+    QString out, err;
+    QTextStream o(&out), e(&err);
+    argumente.prepend(QStringLiteral("ferolanta-cli"));
+    const int cod = RuleazaCli(argumente, o, e);
+    return {cod, out, err};
+}
+
+class CliDocument : public TestBaza {
+protected:
+    void SetUp() override {
+        TestBaza::SetUp();
+        if (IsSkipped()) return;
+        Ceas::SeteazaAzi(QDate(2025, 6, 2));
+        ASSERT_EQ(ruleaza(QStringList{QStringLiteral("init")} + Loc()).cod, 0);
+        auto db = BazaDate::Deschide(Locatie());
+        ScriePrimarie(*db, PrimarieA());
+        ScrieCerere(*db, CerereA());
+        ScrieDispozitie(*db, DispozitieA());
+        ASSERT_TRUE(iesiri.isValid());
+        folderInitial = QDir::currentPath();
+        QDir::setCurrent(iesiri.path());
+    }
+    void TearDown() override {
+        if (!folderInitial.isEmpty()) QDir::setCurrent(folderInitial);
+        Ceas::SeteazaAzi(QDate());
+        TestBaza::TearDown();
+    }
+    QStringList Loc() const {
+        QStringList a{QStringLiteral("--dir"), Locatie().caleBD};
+        if (!Locatie().url.isEmpty()) a << QStringLiteral("--db") << Locatie().url;
+        return a;
+    }
+    QString In(const char* nume) const { return iesiri.filePath(QString::fromLatin1(nume)); }
+
+    QTemporaryDir iesiri;
+    QString folderInitial;
+};
+
+TEST_P(CliDocument, ScrieCeleTreiDocumenteCuNumeleLorFixe) {
+    const Iesire d =
+        ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("dispozitie"), QStringLiteral("3")} + Loc());
+    ASSERT_EQ(d.cod, 0) << d.err.toStdString();
+    EXPECT_EQ(d.out, QStringLiteral("Documentul a fost scris: %1\n").arg(QDir::toNativeSeparators(In("Disp.rtf"))));
+    const QByteArray disp = CitesteTot(In("Disp.rtf"));
+    EXPECT_TRUE(disp.startsWith("{\\rtf1"));
+    EXPECT_TRUE(disp.contains(TextRtf(U("privind acordarea alocației"))));
+    EXPECT_TRUE(disp.contains("{\\b Popa Vasile}, CNP 1850312410015"));
+    EXPECT_TRUE(disp.contains("{\\b 82 lei}"));
+
+    const Iesire f = ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("fisa"), QStringLiteral("7"),
+                                         QStringLiteral("--data"), QStringLiteral("15.06.2025")} +
+                             Loc());
+    ASSERT_EQ(f.cod, 0) << f.err.toStdString();
+    EXPECT_TRUE(CitesteTot(In("FisaCerere.rtf")).contains("15.06.2025"));
+
+    const Iesire c = ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("declaratie"), QStringLiteral("7"),
+                                         QStringLiteral("--out"), QStringLiteral("alt/../d.rtf")} +
+                             Loc());
+    ASSERT_EQ(c.cod, 0) << c.err.toStdString();
+    EXPECT_FALSE(QFile::exists(In("Declar.rtf")));
+    EXPECT_TRUE(CitesteTot(In("d.rtf")).contains("Ionescu Dan"));
+}
+
+TEST_P(CliDocument, SetarileFolderuluiBazeiSiSablonulDat) {
+    QFile ini(QDir(Locatie().caleBD).filePath(QStringLiteral("setari207.ini")));
+    ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
+    ini.write("[Generale]\r\nStrSat=sat\r\nMotiv=1\r\n");
+    ini.close();
+    QFile s(In("s.rtf"));
+    ASSERT_TRUE(s.open(QIODevice::WriteOnly));
+    s.write("{\\rtf1{\\pntxta )}}#Motiv#|#Adresa#}\r\n");
+    s.close();
+    const Iesire r =
+        ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("dispozitie"), QStringLiteral("3"),
+                            QStringLiteral("--sablon"), In("s.rtf"), QStringLiteral("--out"), In("m.rtf")} +
+                Loc());
+    ASSERT_EQ(r.cod, 0) << r.err.toStdString();
+    EXPECT_EQ(CitesteTot(In("m.rtf")), "{\\rtf1{\\pntxta )}}Motiv din cerere|" +
+                                           TextRtf(U("Brănești, sat Florilor, nr. 12, sc. B, ap. 4")) + "}");
+}
+
+TEST_P(CliDocument, EsecurileSpunDeCeSiNuScriuNimic) {
+    QFile s(In("fara.rtf"));
+    ASSERT_TRUE(s.open(QIODevice::WriteOnly));
+    s.write("{\\rtf1\\pard #Nume#\\par}\r\n");
+    s.close();
+    const struct {
+        QStringList argumente;
+        QString eroare;
+    } cazuri[] = {
+        {{QStringLiteral("dispozitie"), QStringLiteral("3"), QStringLiteral("--sablon"), In("fara.rtf")},
+         QStringLiteral("Fisierul sablon are format gresit. Sunati la tel: 0700-111222\n")},
+        {{QStringLiteral("dispozitie"), QStringLiteral("8")},
+         QStringLiteral("Randul curent nu a fost gasit. Dati clic pe o Cerere!\n")},
+        {{QStringLiteral("fisa"), QStringLiteral("3")},
+         QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!\n")},
+    };
+    for (const auto& c : cazuri) {
+        const Iesire r = ruleaza(QStringList{QStringLiteral("document")} + c.argumente + Loc());
+        EXPECT_EQ(r.cod, 1) << c.argumente.join(u' ').toStdString();
+        EXPECT_EQ(r.err, c.eroare);
+        EXPECT_EQ(r.out, QString());
+    }
+    {
+        auto db = BazaDate::Deschide(Locatie());
+        Interogare(*db, QStringLiteral("UPDATE Dispozitii SET Actiune = 0")).Executa();
+    }
+    const Iesire r =
+        ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("dispozitie"), QStringLiteral("3")} + Loc());
+    EXPECT_EQ(r.cod, 1);
+    EXPECT_TRUE(r.err.startsWith(QStringLiteral("Dispozitia 3 are un tip (Actiune)"))) << r.err.toStdString();
+    EXPECT_EQ(QDir(iesiri.path()).entryList(QDir::Files), QStringList{QStringLiteral("fara.rtf")});
+}
+
+PE_AMBELE_MOTOARE(CliDocument);
+
+TEST(CliDocumentArgumente, ArgumenteGresiteDauCodul2) {
+    const QStringList cazuri[] = {
+        {QStringLiteral("document")},
+        {QStringLiteral("document"), QStringLiteral("dispozitie")},
+        {QStringLiteral("document"), QStringLiteral("anexa"), QStringLiteral("3")},
+        {QStringLiteral("document"), QStringLiteral("fisa"), QStringLiteral("x")},
+        {QStringLiteral("document"), QStringLiteral("fisa"), QStringLiteral("0")},
+        {QStringLiteral("document"), QStringLiteral("fisa"), QStringLiteral("3"), QStringLiteral("4")},
+        {QStringLiteral("document"), QStringLiteral("dispozitie"), QStringLiteral("3"), QStringLiteral("--data"),
+         QStringLiteral("01.01.2025")},
+        {QStringLiteral("document"), QStringLiteral("fisa"), QStringLiteral("3"), QStringLiteral("--data"),
+         QStringLiteral("31.02.2025")},
+        {QStringLiteral("init"), QStringLiteral("--out"), QStringLiteral("x.rtf")},
+    };
+    for (const auto& c : cazuri) {
+        const Iesire r = ruleaza(c);
+        EXPECT_EQ(r.cod, 2) << c.join(u' ').toStdString();
+        EXPECT_EQ(r.err.count(QLatin1Char('\n')), 1) << r.err.toStdString();
+        EXPECT_TRUE(r.err.contains(QStringLiteral("utilizare: ferolanta-cli"))) << r.err.toStdString();
+    }
+}
+
+} // namespace
