@@ -35,6 +35,14 @@ int lunaDupaNume(QStringView s) {
     return -1;
 }
 
+// A date column read by position: QDate on PostgreSQL, ISO text on SQLite.
+QDate dataDin(const QVariant& v) {
+    if (v.isNull()) return {};
+    if (v.typeId() == QMetaType::QDate) return v.toDate();
+    if (v.typeId() == QMetaType::QDateTime) return v.toDateTime().date();
+    return QDate::fromString(v.toString().left(10), Qt::ISODate);
+}
+
 bool inLista(const std::vector<AdeverintaMembru>& acte, int index) {
     return index >= 0 && size_t(index) < acte.size();
 }
@@ -224,41 +232,44 @@ std::vector<RandIstoricAdv> Adeverinte::Istoric(const std::vector<AdeverintaMemb
 
 std::vector<RandActExpira> Adeverinte::ListaActeExpira(BazaDate& db, const QDate& azi) {
     const QDate inceput(azi.year(), azi.month(), 1);
+    // The month's certificates drive the join (CROSS JOIN keeps SQLite from starting at the far
+    // larger set of requests in force); PostgreSQL plans it as the inner join it is. A request
+    // must have its family: the schema's relation makes that a non-null FamilieID, which spares
+    // reading a Familii row for each certificate.
     Interogare q(db, QStringLiteral("SELECT A.AdevID, A.CerereID, A.MembruID, A.DataExpAdev, M.Nume, M.Prenume, "
-                                    "G.Continut FROM Familii F INNER JOIN Cereri C ON F.FamilieID = C.FamilieID "
-                                    "INNER JOIN Adeverinte A ON C.CerereID = A.CerereID "
+                                    "G.Continut FROM Adeverinte A CROSS JOIN Cereri C "
                                     "LEFT JOIN Membrii M ON M.MembruID = A.MembruID "
                                     "LEFT JOIN DateGen G ON G.Tip = 30 AND G.DataID = A.TipAdeverinta "
-                                    "WHERE C.Stare IN (2, 6, 7, 8) AND A.DataExpAdev >= ? AND A.DataExpAdev < ? "
+                                    "WHERE C.CerereID = A.CerereID AND C.FamilieID IS NOT NULL "
+                                    "AND C.Stare IN (2, 6, 7, 8) AND A.DataExpAdev >= ? AND A.DataExpAdev < ? "
                                     "AND A.AdvCurenta = 1"));
     q.Leaga(inceput).Leaga(inceput.addMonths(1)).Executa();
     std::vector<RandActExpira> r;
+    std::vector<QString> chei;
     while (q.Urmator()) {
         RandActExpira a;
         a.AdevID = q.Intreg(0);
         a.CerereID = q.Intreg(1);
         a.MembruID = q.Intreg(2);
-        a.DataExpAdev = q.Data(QStringLiteral("DataExpAdev"));
+        a.DataExpAdev = dataDin(q.Valoare(3));
         a.Membru = nume(q.Valoare(4).toString(), q.Valoare(5).toString());
         a.TipAct = q.Valoare(6).toString();
+        chei.push_back(a.Membru.toCaseFolded());
         r.push_back(std::move(a));
     }
     // Sorted here, so that both engines give the same order whatever their collation.
-    std::vector<std::pair<QString, size_t>> chei;
-    chei.reserve(r.size());
-    for (size_t i = 0; i < r.size(); ++i)
-        chei.emplace_back(r[i].Membru.toCaseFolded(), i);
-    std::sort(chei.begin(), chei.end(), [&](const auto& a, const auto& b) {
-        if (a.first != b.first) return a.first < b.first;
-        const RandActExpira& x = r[a.second];
-        const RandActExpira& y = r[b.second];
-        if (x.DataExpAdev != y.DataExpAdev) return x.DataExpAdev < y.DataExpAdev;
-        return x.AdevID < y.AdevID;
+    std::vector<size_t> ordine(r.size());
+    for (size_t i = 0; i < ordine.size(); ++i)
+        ordine[i] = i;
+    std::sort(ordine.begin(), ordine.end(), [&](size_t a, size_t b) {
+        if (const int c = chei[a].compare(chei[b]); c != 0) return c < 0;
+        if (r[a].DataExpAdev != r[b].DataExpAdev) return r[a].DataExpAdev < r[b].DataExpAdev;
+        return r[a].AdevID < r[b].AdevID;
     });
     std::vector<RandActExpira> sortate;
     sortate.reserve(r.size());
-    for (const auto& c : chei)
-        sortate.push_back(std::move(r[c.second]));
+    for (size_t i : ordine)
+        sortate.push_back(std::move(r[i]));
     return sortate;
 }
 
@@ -289,13 +300,7 @@ std::vector<RandAdeverintaScolara> Adeverinte::ListaAdeverinteScolare(BazaDate& 
                                     "WHERE CM.OcupatieID IN (8, 9) ORDER BY C.CerereID, CM.MembruID, A.AdevID"));
     q.Executa();
     std::vector<RandAdeverintaScolara> r;
-    auto data = [&](int i) {
-        const QVariant v = q.Valoare(i);
-        if (v.isNull()) return QDate();
-        if (v.typeId() == QMetaType::QDate) return v.toDate();
-        if (v.typeId() == QMetaType::QDateTime) return v.toDateTime().date();
-        return QDate::fromString(v.toString().left(10), Qt::ISODate);
-    };
+    auto data = [&](int i) { return dataDin(q.Valoare(i)); };
     while (q.Urmator()) {
         RandAdeverintaScolara a;
         a.AdevID = q.Intreg(0);
