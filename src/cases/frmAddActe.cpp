@@ -1,0 +1,62 @@
+#include "cases/frmAddActe.h"
+
+#include "cases/StareCerere.h"
+#include "cases/VenituriBunuri.h"
+#include "shell/Eroare.h"
+#include "shell/Mesaje.h"
+
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+frmAddActe::frmAddActe(BazaDate& bd, Mesaje& m, StareCerere& stare, QWidget* parinte)
+    : QDialog(parinte), stare_(stare) {
+    setObjectName(QStringLiteral("frmAddActe"));
+    setWindowTitle(QStringLiteral("Acte depuse la dosar"));
+    auto* asezare = new QVBoxLayout(this);
+    lstBife = new QListWidget(this);
+    lstBife->setObjectName(QStringLiteral("lstBife"));
+    lstBife->setWordWrap(true);
+    lstBife->setTextElideMode(Qt::ElideNone);
+    asezare->addWidget(lstBife);
+
+    auto* butoane = new QHBoxLayout;
+    butoane->addStretch(1);
+    cmdOK = new QPushButton(QStringLiteral("OK"), this);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    butoane->addWidget(cmdOK);
+    butoane->addWidget(cmdCancel);
+    asezare->addLayout(butoane);
+    connect(cmdOK, &QPushButton::clicked, this, &frmAddActe::cmdOK_Click);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+
+    try {
+        const std::vector<ElementCatalog> acte = CitesteListaActe(bd);
+        const std::vector<bool> bifate = DespacheteazaBife(stare.ActeBife, acte.size());
+        for (size_t i = 0; i < acte.size(); ++i) {
+            auto* r = new QListWidgetItem(TextRandBifa(acte[i]), lstBife);
+            r->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
+            r->setCheckState(bifate[i] ? Qt::Checked : Qt::Unchecked);
+        }
+        citit_ = true;
+    } catch (const Eroare& e) {
+        m.Critic(e.text());
+    }
+    resize(760, 620);
+}
+
+void frmAddActe::cmdOK_Click() {
+    // Without the catalogue the list is empty, and its marks would wipe the stored ones.
+    if (citit_) {
+        std::vector<bool> bifate;
+        for (int i = 0; i < lstBife->count(); ++i)
+            bifate.push_back(lstBife->item(i)->checkState() == Qt::Checked);
+        stare_.ActeBife = ImpacheteazaBife(bifate);
+    }
+    ESTE_OK = true;
+    accept();
+}

@@ -1,0 +1,115 @@
+#include "cases/frmAddVenituri.h"
+
+#include "cases/StareCerere.h"
+#include "shell/Eroare.h"
+#include "shell/Mesaje.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int ColoanaSuma = 1;
+
+std::vector<ElementCatalog> catalog(BazaDate& bd, Mesaje& m) {
+    try {
+        return CitesteListaVenituri(bd);
+    } catch (const Eroare& e) {
+        // An empty grid copies nothing back, so the incomes stay as they were.
+        m.Critic(e.text());
+        return {};
+    }
+}
+
+} // namespace
+
+frmAddVenituri::frmAddVenituri(BazaDate& bd, Mesaje& m, StareCerere& stare, QWidget* parinte)
+    : QDialog(parinte), m_(m), stare_(stare), grila_(catalog(bd, m), stare.Venituri) {
+    setObjectName(QStringLiteral("frmAddVenituri"));
+    setWindowTitle(QStringLiteral("Venituri"));
+    auto* asezare = new QVBoxLayout(this);
+
+    Grid = new QTableWidget(this);
+    Grid->setObjectName(QStringLiteral("Grid"));
+    Grid->setColumnCount(2);
+    Grid->setHorizontalHeaderLabels({QStringLiteral("Tip venit"), QStringLiteral("Suma (lei)")});
+    Grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    Grid->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Fixed);
+    Grid->setColumnWidth(ColoanaSuma, 120);
+    Grid->verticalHeader()->setDefaultSectionSize(Grid->fontMetrics().height() + 8);
+    Grid->setSelectionMode(QAbstractItemView::SingleSelection);
+    Grid->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
+                          QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
+    Grid->setWordWrap(false);
+    asezare->addWidget(Grid);
+
+    lblTotalVenituri = new QLabel(this);
+    lblTotalVenituri->setObjectName(QStringLiteral("lblTotalVenituri"));
+    QFont f = lblTotalVenituri->font();
+    f.setBold(true);
+    lblTotalVenituri->setFont(f);
+    lblTotalVenituri->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    asezare->addWidget(lblTotalVenituri);
+
+    auto* butoane = new QHBoxLayout;
+    butoane->addStretch(1);
+    cmdOK = new QPushButton(QStringLiteral("OK"), this);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setAutoDefault(false);
+    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdCancel->setAutoDefault(false);
+    butoane->addWidget(cmdOK);
+    butoane->addWidget(cmdCancel);
+    asezare->addLayout(butoane);
+
+    umple();
+    connect(Grid, &QTableWidget::cellChanged, this, &frmAddVenituri::Grid_Change);
+    connect(cmdOK, &QPushButton::clicked, this, &frmAddVenituri::cmdOK_Click);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    resize(860, 600);
+}
+
+void frmAddVenituri::umple() {
+    const auto& randuri = grila_.Randuri();
+    Grid->setRowCount(int(randuri.size()));
+    QStringList coduri;
+    for (size_t i = 0; i < randuri.size(); ++i) {
+        auto* denumire = new QTableWidgetItem(randuri[i].Denumire);
+        denumire->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+        denumire->setToolTip(randuri[i].Denumire);
+        Grid->setItem(int(i), 0, denumire);
+        auto* suma = new QTableWidgetItem(TextCelula(grila_.Suma(i)));
+        suma->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        Grid->setItem(int(i), ColoanaSuma, suma);
+        coduri << QString::number(randuri[i].Nr);
+    }
+    Grid->setVerticalHeaderLabels(coduri);
+    lblTotalVenituri->setText(grila_.TextTotal());
+}
+
+void frmAddVenituri::Grid_Change(int rand, int coloana) {
+    if (seUmple_ || coloana != ColoanaSuma) return;
+    QTableWidgetItem* celula = Grid->item(rand, coloana);
+    if (!celula) return;
+    try {
+        grila_.Seteaza(size_t(rand), celula->text());
+    } catch (const Eroare& e) {
+        m_.Avertisment(e.text());
+    }
+    // The cell shows the amount as read, or the one it had before a refused text.
+    seUmple_ = true;
+    celula->setText(TextCelula(grila_.Suma(size_t(rand))));
+    seUmple_ = false;
+    lblTotalVenituri->setText(grila_.TextTotal());
+}
+
+void frmAddVenituri::cmdOK_Click() {
+    grila_.CopiazaIn(stare_.Venituri);
+    ESTE_OK = true;
+    accept();
+}

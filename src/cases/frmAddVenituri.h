@@ -1,0 +1,40 @@
+#pragma once
+
+#include "cases/VenituriBunuri.h"
+
+#include <QDialog>
+#include <optional>
+
+class BazaDate;
+class Mesaje;
+class QLabel;
+class QPushButton;
+class QTableWidget;
+struct StareCerere;
+
+// The incomes of the open request: one row per kind of ListaVenituri with its amount, and the
+// running total. OK copies the amounts into stare.Venituri and sets ESTE_OK; Cancel leaves the
+// state as it was.
+class frmAddVenituri : public QDialog {
+    Q_OBJECT
+public:
+    frmAddVenituri(BazaDate& bd, Mesaje& m, StareCerere& stare, QWidget* parinte = nullptr);
+
+    void cmdOK_Click();
+
+    bool ESTE_OK = false;
+
+    QTableWidget* Grid;
+    QLabel* lblTotalVenituri;
+    QPushButton* cmdOK;
+    QPushButton* cmdCancel;
+
+private:
+    void Grid_Change(int rand, int coloana);
+    void umple();
+
+    Mesaje& m_;
+    StareCerere& stare_;
+    GrilaVenituri grila_;
+    bool seUmple_ = false;
+};
