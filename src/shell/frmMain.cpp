@@ -2,6 +2,7 @@
 
 #include "cases/Anchete.h"
 #include "cases/frmAddAnchete.h"
+#include "cases/frmAddCerere.h"
 #include "shell/Ceas.h"
 #include "shell/Eroare.h"
 #include "shell/Functii.h"
@@ -121,9 +122,6 @@ void frmMain::construiesteCautarea(QWidget* sus) {
     buton(cmdSelect, "cmdSelect", QStringLiteral("Cerere..."));
     butoane->addStretch();
     buton(cmdExit, "cmdExit", QStringLiteral("Iesire"));
-    // The request editor comes with the case files; until then there is nothing to open.
-    cmdAdd->setEnabled(false);
-    cmdEdit->setEnabled(false);
     cmdSelect->setEnabled(false);
     connect(cmdAdd, &QPushButton::clicked, this, &frmMain::cmdAdd_Click);
     connect(cmdEdit, &QPushButton::clicked, this, &frmMain::cmdEdit_Click);
@@ -594,12 +592,47 @@ void frmMain::cmdDelDisp_Click() {
 }
 
 void frmMain::cmdAdd_Click() {
-    if (!cmdAdd->isEnabled() || !VerificaBD(p_.bd, m_)) return;
+    if (!VerificaBD(p_.bd, m_)) return;
+    try {
+        frmAddCerere f(p_.bd, p_.setari, m_, DeschidereCerere{1, 0, false, 0}, this);
+        ArataModal(f);
+        if (!f.ESTE_OK) return;
+        const RandCerere r = ListaCereri::Citeste(p_.bd, f.CerereID());
+        if (r.CerereID == 0) return;
+        model_->Adauga(r);
+        lblRezul->setText(ListaCereri::TextRezultat(model_->rowCount()));
+        SelecteazaRand(model_->rowCount() - 1);
+        lvwCereri->setFocus();
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
 }
 
 void frmMain::cmdEdit_Click() {
-    if (!cmdEdit->isEnabled() || !VerificaBD(p_.bd, m_)) return;
-    if (RandSelectat() < 0) m_.Informatie(QStringLiteral("Selectati o cerere"));
+    if (!VerificaBD(p_.bd, m_)) return;
+    const int rand = RandSelectat();
+    const RandCerere* r = model_->Rand(rand);
+    if (!r) {
+        m_.Informatie(QStringLiteral("Selectati o cerere"));
+        return;
+    }
+    try {
+        const qint64 cerereID = r->CerereID;
+        frmAddCerere f(p_.bd, p_.setari, m_, DeschidereCerere{2, cerereID, false, 0}, this);
+        if (!f.Gasita()) {
+            m_.Informatie(TextRandNegasit);
+            return;
+        }
+        ArataModal(f);
+        if (!f.ESTE_OK) return;
+        // Only this row is read again; the rest of the list stays as the search left it.
+        const RandCerere nou = ListaCereri::Citeste(p_.bd, cerereID);
+        if (nou.CerereID != 0) model_->Inlocuieste(rand, nou);
+        SelecteazaRand(rand);
+        lvwCereri->setFocus();
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
 }
 
 void frmMain::cmdDelete_Click() {
