@@ -291,29 +291,6 @@ TEST(ActePersoana, StergereaCereUnSinguRandSiNuMutaMarcajul) {
     EXPECT_EQ(Curente(acte), (std::vector<int>{1, 0, 0}));
 }
 
-TEST(ActePersoana, IstoriculSiControaleleUnuiRand) {
-    const std::vector<AdeverintaMembru> acte = {
-        {7, 6, T("V-9"), QDate(2024, 1, 2), QDate(2024, 1, 5), QDate(2024, 4, 30), 1},
-        {8, 9, T("N"), QDate(), QDate(2024, 2, 1), QDate(), 0}, // a kind the list lacks
-        {0, 0, T(""), QDate(), QDate(), QDate(), 0},
-    };
-    const auto r = Istoric(acte, Tipuri);
-    ASSERT_EQ(r.size(), 3u);
-    EXPECT_EQ(
-        (QStringList{QString::number(r[0].AdevID), r[0].Tip, r[0].NrAdev, r[0].DataAdev, r[0].DataDep, r[0].DataExp}),
-        (QStringList{T("7"), T("venit net"), T("V-9"), T("02.01.2024"), T("05.01.2024"), T("30.04.2024")}));
-    EXPECT_EQ((QStringList{r[1].Tip, r[1].DataAdev, r[1].DataDep, r[1].DataExp}),
-              (QStringList{QString(), QString(), T("01.02.2024"), QString()}));
-    EXPECT_EQ(NumarAdeverinte(acte), 2);
-
-    const DateAct d = DinAct(acte, 0, Tipuri);
-    EXPECT_EQ(d.TipAdeverinta, 6);
-    EXPECT_EQ(d.TipText, T("venit net"));
-    EXPECT_EQ(d.NrAdev, T("V-9"));
-    EXPECT_EQ(d.DataExpAdev, QDate(2024, 4, 30));
-    EXPECT_EQ(DinAct(acte, -1, Tipuri).TipAdeverinta, 0);
-}
-
 // ---- On the database ----
 
 class AdeverinteBD : public TestBaza {
@@ -518,15 +495,8 @@ TEST_P(AdeverinteBD, EditorulAdeverinteiScolareAdaugaModificaSterge) {
     EXPECT_THROW(SalveazaAdeverintaScolara(Bd(), a, false), Eroare);
     EXPECT_EQ(CitesteAdeverinta(Bd(), 41)->NrAdev, T("S-41 d'Arc"));
 
-    // Yes/No on delete, then a row that another computer removed.
-    m.mesaje.clear();
-    m.raspunsuri = {false, true};
-    EXPECT_FALSE(StergeAdeverintaScolara(Bd(), m, 41, T("S-41")));
-    EXPECT_TRUE(CitesteAdeverinta(Bd(), 41).has_value());
-    EXPECT_TRUE(StergeAdeverintaScolara(Bd(), m, 41, T("S-41")));
-    EXPECT_FALSE(CitesteAdeverinta(Bd(), 41).has_value());
-    EXPECT_EQ(m.Texte(), (QStringList{T("Sigur doriti sa stergeti datele adeverintei S-41 ?"),
-                                      T("Sigur doriti sa stergeti datele adeverintei S-41 ?")}));
+    // A row that another computer removed is told and counts as deleted.
+    Interogare(Bd(), T("DELETE FROM Adeverinte WHERE AdevID = 41")).Executa();
     m.mesaje.clear();
     EXPECT_TRUE(StergeAdeverintaScolara(Bd(), m, 41, T("S-41")));
     EXPECT_EQ(m.Texte(), QStringList{TextRandNegasit});
