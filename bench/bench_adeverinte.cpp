@@ -41,8 +41,8 @@ LocatieBD BazaCuActeInLuna(const QDate& azi) {
     return loc;
 }
 
-// `luni` months after today: the demo data crowd this month's expiries, the next months hold
-// an ordinary number of them.
+// `luni` months after today: the generator crowds this month with expiries (about one in eight
+// certificates), the next month holds somewhat fewer.
 void ActeExpira(benchmark::State& st, int luni) {
     const QDate azi = Ceas::Azi().addMonths(luni);
     auto db = BazaDate::Deschide(BazaCuActeInLuna(azi));
