@@ -1,6 +1,7 @@
 #include "cases/frmAddCerere.h"
 #include "shell/Ceas.h"
 #include "shell/Eroare.h"
+#include "shell/ListaCereri.h"
 #include "shell/Setari.h"
 #include "shell/UiDataOptionala.h"
 #include "support/BazaTest.h"
@@ -299,8 +300,19 @@ TEST_P(FormCerere, ModificareaArataCerereaSalvata) {
     EXPECT_EQ(f->result(), QDialog::Rejected);
     EXPECT_EQ(Instantaneu(Bd()), inainte);
 
-    // A request gone meanwhile is not shown.
+    // A request gone meanwhile is not shown; one deleted while open closes the editor at OK.
     EXPECT_FALSE(Deschide({2, id + 100})->Gasita());
+    auto g = Deschide({2, id});
+    g->show();
+    ListaCereri::Sterge(Bd(), id);
+    mesaje.mesaje.clear();
+    g->cmdOK->click();
+    EXPECT_EQ(mesaje.Texte(), QStringList{QStringLiteral("Aceasta cerere a fost stearsa de alt utilizator. "
+                                                         "Modificarile dvs. nu pot avea loc. Aceasta fereastra se va "
+                                                         "inchide!")});
+    EXPECT_FALSE(g->isVisible());
+    EXPECT_FALSE(g->ESTE_OK);
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Cereri")), 0);
 }
 
 TEST_P(FormCerere, DataStatutuluiUrmeazaDataCererii) {
