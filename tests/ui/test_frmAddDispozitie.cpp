@@ -111,8 +111,7 @@ TEST_P(FormDispozitii, AdaugareaDeschideDinCerereSiUrmeazaTipul) {
     } tipuri[] = {
         {"modificare", true, true, true, "se modifica suma de:", "Motivul modificarii"},
         {"suspendare", false, true, true, "se modifica suma de:", "Motivul suspendarii"},
-        {"reluare", true, false, true, "cu suma de:", "Motivul reluarii"},
-        {"acordare", true, false, false, "se stabileste suma de:", "Motivul reluarii"},
+        {"acordare", true, false, false, "se stabileste suma de:", "Motivul suspendarii"},
     };
     for (const auto& t : tipuri) {
         SCOPED_TRACE(t.tip);
