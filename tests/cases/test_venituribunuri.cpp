@@ -130,7 +130,7 @@ TEST_P(VenituriBunuri, CataloageleInOrdine) {
     EXPECT_EQ(b.Bunuri[74].Tip, Utf("PA"));
 }
 
-TEST_P(VenituriBunuri, GrilaVenituriiAratăStareaSiTotalul) {
+TEST_P(VenituriBunuri, GrilaVenituriiArataStareaSiTotalul) {
     std::array<Bani, 79> v{};
     v[0] = Lei("100");
     v[77] = Lei("50.25");
