@@ -362,6 +362,11 @@ RezultatPlecareCNP PlecareCNP(DatePersoana& d, const ContextPersoana& c, const S
         d.dtpData[dtpDataElib] = p.DataElib;
         d.chkMembru[chkDizabilitate] = p.Dizabilitate != 0;
         r.PersoanaReluata = true;
+    } else {
+        // A code nobody has: a person taken over by an earlier leave must not be written with it.
+        // The element being changed keeps its own person, whose code is then corrected.
+        const MembruCerere* element = elementCurent(c, stare);
+        d.MembruID = element ? element->MembruID : 0;
     }
     return r;
 }

@@ -164,7 +164,9 @@ struct RezultatPlecareCNP {
     bool PersoanaReluata = false; // a known person's identity was copied
 };
 // The leave of cboCNP: the notice of a known person, the dates from the code, the refusal of a
-// code already in the list, the re-use of a known person. An empty box does nothing.
+// code already in the list, the re-use of a known person. An empty box does nothing. A code that
+// no person has gives back the element's own MembruID (0 for a new element), so that a person
+// taken over by an earlier leave is not overwritten.
 RezultatPlecareCNP PlecareCNP(DatePersoana& d, const ContextPersoana& c, const StareCerere& stare, BazaDate& db,
                               Mesaje& m);
 

@@ -1,0 +1,208 @@
+#include "cases/frmMembrii.h"
+
+#include "shell/Eroare.h"
+#include "shell/Mesaje.h"
+
+#include <QAbstractTableModel>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <functional>
+
+// The rows of ListaMembrii as the view asks for them: a list of several hundred thousand
+// persons costs one vector, not a widget item per cell.
+class ModelMembrii : public QAbstractTableModel {
+public:
+    explicit ModelMembrii(QObject* parinte) : QAbstractTableModel(parinte) {}
+
+    void Seteaza(std::vector<RandMembrii> randuri) {
+        beginResetModel();
+        randuri_ = std::move(randuri);
+        endResetModel();
+    }
+    // The row of a person; the list is in the order of MembruID.
+    std::optional<int> Rand(qint64 membruID) const {
+        const auto i = std::lower_bound(randuri_.begin(), randuri_.end(), membruID,
+                                        [](const RandMembrii& r, qint64 id) { return r.MembruID < id; });
+        if (i == randuri_.end() || i->MembruID != membruID) return std::nullopt;
+        return int(i - randuri_.begin());
+    }
+    const RandMembrii& Rand(int i) const { return randuri_[size_t(i)]; }
+
+    int rowCount(const QModelIndex& p = {}) const override { return p.isValid() ? 0 : int(randuri_.size()); }
+    int columnCount(const QModelIndex& p = {}) const override { return p.isValid() ? 0 : 7; }
+    QVariant data(const QModelIndex& i, int rol) const override {
+        if (rol != Qt::DisplayRole || !i.isValid()) return {};
+        const RandMembrii& r = randuri_[size_t(i.row())];
+        switch (i.column()) {
+        case 0:
+            return QString::number(r.MembruID);
+        case 1:
+            return r.Nume;
+        case 2:
+            return r.Prenume;
+        case 3:
+            return r.CNP;
+        case 4:
+            return r.TipAct;
+        case 5:
+            return r.SerieBI;
+        case 6:
+            return r.NrBI;
+        }
+        return {};
+    }
+    QVariant headerData(int sectiune, Qt::Orientation o, int rol) const override {
+        static const QStringList titluri{QStringLiteral("ID"),   QStringLiteral("Nume"),    QStringLiteral("Prenume"),
+                                         QStringLiteral("CNP"),  QStringLiteral("Tip Act"), QStringLiteral("Serie BI"),
+                                         QStringLiteral("Nr BI")};
+        if (o == Qt::Horizontal && rol == Qt::DisplayRole && sectiune >= 0 && sectiune < titluri.size())
+            return titluri[sectiune];
+        return QAbstractTableModel::headerData(sectiune, o, rol);
+    }
+
+private:
+    std::vector<RandMembrii> randuri_;
+};
+
+namespace {
+
+// Enter in a search box runs its search instead of closing the dialog.
+class CasetaCautare : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+    std::function<void()> laEnter;
+
+protected:
+    void keyPressEvent(QKeyEvent* e) override {
+        if ((e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) && laEnter) {
+            laEnter();
+            e->accept();
+            return;
+        }
+        QLineEdit::keyPressEvent(e);
+    }
+};
+
+} // namespace
+
+frmMembrii::frmMembrii(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(parinte), bd_(bd), m_(m) {
+    setObjectName(QStringLiteral("frmMembrii"));
+    setWindowTitle(QStringLiteral("Membrii"));
+
+    auto* cautare = new QHBoxLayout;
+    const QString etichete[3] = {QStringLiteral("CNP:"), QStringLiteral("Prenume:"), QStringLiteral("Nume:")};
+    for (int i = 0; i < 3; ++i) {
+        auto* t = new CasetaCautare(this);
+        t->setObjectName(QStringLiteral("Txt_%1").arg(i));
+        t->setMaxLength(i == 0 ? 13 : 50);
+        t->laEnter = [this, i] { Txt_KeyPress(i); };
+        Txt[size_t(i)] = t;
+        auto* l = new QLabel(etichete[i], this);
+        l->setBuddy(t);
+        cautare->addWidget(l);
+        cautare->addWidget(t, 1);
+    }
+    auto* indiciu = new QLabel(QStringLiteral("Scrieti inceputul si apasati Enter pentru cautare."), this);
+
+    model_ = new ModelMembrii(this);
+    lvwMembrii = new QTableView(this);
+    lvwMembrii->setObjectName(QStringLiteral("lvwMembrii"));
+    lvwMembrii->setModel(model_);
+    lvwMembrii->setSelectionBehavior(QAbstractItemView::SelectRows);
+    lvwMembrii->setSelectionMode(QAbstractItemView::SingleSelection);
+    lvwMembrii->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    lvwMembrii->setAlternatingRowColors(true);
+    lvwMembrii->verticalHeader()->setVisible(false);
+    // Fixed heights and widths: measuring hundreds of thousands of rows would hold the window.
+    lvwMembrii->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    lvwMembrii->verticalHeader()->setDefaultSectionSize(lvwMembrii->fontMetrics().height() + 6);
+    lvwMembrii->horizontalHeader()->setStretchLastSection(true);
+    const int latimi[] = {70, 170, 170, 130, 80, 80};
+    for (int i = 0; i < 6; ++i)
+        lvwMembrii->setColumnWidth(i, latimi[i]);
+
+    auto* butoane = new QHBoxLayout;
+    auto buton = [&](QPushButton*& b, const char* nume, const QString& text) {
+        b = new QPushButton(text, this);
+        b->setObjectName(QLatin1String(nume));
+        b->setAutoDefault(false);
+        butoane->addWidget(b);
+    };
+    buton(cmdAdd, "cmdAdd", QStringLiteral("Adauga"));
+    buton(cmdEdit, "cmdEdit", QStringLiteral("Modifica"));
+    buton(cmdDelete, "cmdDelete", QStringLiteral("Sterge"));
+    for (QPushButton* b : {cmdAdd, cmdEdit, cmdDelete}) {
+        b->setEnabled(false);
+        b->setToolTip(QStringLiteral("Persoanele se modifica din cererea lor."));
+    }
+    butoane->addStretch(1);
+    buton(cmdCancel, "cmdCancel", QStringLiteral("Inchide"));
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto* tot = new QVBoxLayout(this);
+    tot->addLayout(cautare);
+    tot->addWidget(indiciu);
+    tot->addWidget(lvwMembrii, 1);
+    tot->addLayout(butoane);
+    resize(900, 560);
+
+    try {
+        model_->Seteaza(ListaMembrii(bd_));
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
+}
+
+void frmMembrii::Txt_KeyPress(int camp) {
+    static constexpr CautareMembrii campuri[] = {CautareMembrii::CNP, CautareMembrii::Prenume, CautareMembrii::Nume};
+    if (camp < 0 || camp > 2) return;
+    const QString text = Txt[size_t(camp)]->text();
+    std::optional<qint64> gasit;
+    try {
+        gasit = CautaInMembrii(bd_, campuri[camp], text, m_);
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+        return;
+    }
+    if (!gasit) return;
+    // A person added after the list was read: the list is read again to show it.
+    std::optional<int> rand = model_->Rand(*gasit);
+    if (!rand) {
+        try {
+            model_->Seteaza(ListaMembrii(bd_));
+        } catch (const Eroare& e) {
+            m_.Critic(e.text());
+            return;
+        }
+        rand = model_->Rand(*gasit);
+        if (!rand) return;
+    }
+    const QModelIndex i = model_->index(*rand, 0);
+    lvwMembrii->selectionModel()->setCurrentIndex(i, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    lvwMembrii->scrollTo(i, QAbstractItemView::PositionAtCenter);
+}
+
+std::optional<qint64> frmMembrii::MembruSelectat() const {
+    const QModelIndexList r = lvwMembrii->selectionModel()->selectedRows();
+    if (r.isEmpty()) return std::nullopt;
+    return model_->Rand(r.first().row()).MembruID;
+}
+
+int frmMembrii::NrRanduri() const {
+    return model_->rowCount();
+}
+
+QStringList frmMembrii::TexteRand(int rand) const {
+    QStringList t;
+    for (int c = 0; c < model_->columnCount(); ++c)
+        t << model_->data(model_->index(rand, c), Qt::DisplayRole).toString();
+    return t;
+}
