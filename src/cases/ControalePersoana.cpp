@@ -154,3 +154,24 @@ QString CasetaSumaInvalida(const DatePersoana& d) {
     }
     return {};
 }
+
+std::vector<qint64> CheiMembrii(BazaDate& db) {
+    Interogare q(db, QStringLiteral("SELECT MembruID FROM Membrii ORDER BY MembruID"));
+    q.Executa();
+    std::vector<qint64> chei;
+    while (q.Urmator())
+        chei.push_back(q.Intreg(0));
+    return chei;
+}
+
+std::vector<RandMembrii> RanduriMembrii(BazaDate& db, qint64 primul, qint64 ultimul) {
+    Interogare q(db, QStringLiteral("SELECT M.MembruID, M.Nume, M.Prenume, M.CNP, T.DenScurt, M.SerieBI, M.NrBI "
+                                    "FROM Membrii M LEFT JOIN TipuriActe T ON T.TipActID = M.TipAct "
+                                    "WHERE M.MembruID >= ? AND M.MembruID <= ? ORDER BY M.MembruID"));
+    q.Leaga(primul).Leaga(ultimul).Executa();
+    std::vector<RandMembrii> randuri;
+    while (q.Urmator())
+        randuri.push_back({q.Intreg(0), q.Valoare(1).toString(), q.Valoare(2).toString(), q.Valoare(3).toString(),
+                           q.Valoare(4).toString(), q.Valoare(5).toString(), q.Valoare(6).toString()});
+    return randuri;
+}

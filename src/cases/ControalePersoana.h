@@ -51,3 +51,9 @@ std::array<QString, 7> TexteAdeverinta(const AdeverintaMembru& a, const std::vec
 // The amount box (objectName) whose text is not a number, so that OK can put the focus there;
 // empty when both read.
 QString CasetaSumaInvalida(const DatePersoana& d);
+
+// frmMembrii reads its rows a page at a time, so that a list of several hundred thousand persons
+// opens at once: first every key in the browser's order, then the rows of the keys in view.
+std::vector<qint64> CheiMembrii(BazaDate& db);
+// The browser's rows whose keys lie from `primul` to `ultimul`, in order.
+std::vector<RandMembrii> RanduriMembrii(BazaDate& db, qint64 primul, qint64 ultimul);

@@ -1,5 +1,6 @@
 #include "cases/frmMembrii.h"
 
+#include "cases/ControalePersoana.h"
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
 
@@ -15,35 +16,37 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <functional>
+#include <unordered_map>
 
-// The rows of ListaMembrii as the view asks for them: a list of several hundred thousand
-// persons costs one vector, not a widget item per cell.
+// The browser's rows as the view asks for them: every key is read at the opening, the texts a page
+// at a time when the view first shows a row of the page.
 class ModelMembrii : public QAbstractTableModel {
 public:
-    explicit ModelMembrii(QObject* parinte) : QAbstractTableModel(parinte) {}
+    ModelMembrii(BazaDate& db, QObject* parinte) : QAbstractTableModel(parinte), db_(db) {}
 
-    void Seteaza(std::vector<RandMembrii> randuri) {
+    void Citeste() {
+        std::vector<qint64> chei = CheiMembrii(db_);
         beginResetModel();
-        randuri_ = std::move(randuri);
+        chei_ = std::move(chei);
+        pagini_.clear();
         endResetModel();
     }
-    // The row of a person; the list is in the order of MembruID.
+    // The row of a person; the keys are in order.
     std::optional<int> Rand(qint64 membruID) const {
-        const auto i = std::lower_bound(randuri_.begin(), randuri_.end(), membruID,
-                                        [](const RandMembrii& r, qint64 id) { return r.MembruID < id; });
-        if (i == randuri_.end() || i->MembruID != membruID) return std::nullopt;
-        return int(i - randuri_.begin());
+        const auto i = std::lower_bound(chei_.begin(), chei_.end(), membruID);
+        if (i == chei_.end() || *i != membruID) return std::nullopt;
+        return int(i - chei_.begin());
     }
-    const RandMembrii& Rand(int i) const { return randuri_[size_t(i)]; }
+    qint64 Cheie(int rand) const { return chei_[size_t(rand)]; }
 
-    int rowCount(const QModelIndex& p = {}) const override { return p.isValid() ? 0 : int(randuri_.size()); }
+    int rowCount(const QModelIndex& p = {}) const override { return p.isValid() ? 0 : int(chei_.size()); }
     int columnCount(const QModelIndex& p = {}) const override { return p.isValid() ? 0 : 7; }
     QVariant data(const QModelIndex& i, int rol) const override {
-        if (rol != Qt::DisplayRole || !i.isValid()) return {};
-        const RandMembrii& r = randuri_[size_t(i.row())];
+        if (rol != Qt::DisplayRole || !i.isValid() || i.row() >= int(chei_.size())) return {};
+        const RandMembrii& r = rand(i.row());
         switch (i.column()) {
         case 0:
-            return QString::number(r.MembruID);
+            return QString::number(chei_[size_t(i.row())]);
         case 1:
             return r.Nume;
         case 2:
@@ -69,7 +72,37 @@ public:
     }
 
 private:
-    std::vector<RandMembrii> randuri_;
+    static constexpr int Pagina = 256;
+
+    const RandMembrii& rand(int i) const {
+        const int pagina = i / Pagina;
+        auto p = pagini_.find(pagina);
+        if (p == pagini_.end()) p = pagini_.emplace(pagina, citestePagina(pagina)).first;
+        return p->second[size_t(i % Pagina)];
+    }
+    // The rows of one page in the places of their keys. A person deleted since the keys were read
+    // leaves an empty row; a failed read leaves the page empty rather than stop the painting.
+    std::vector<RandMembrii> citestePagina(int pagina) const {
+        const size_t inceput = size_t(pagina) * Pagina;
+        const size_t sfarsit = std::min(chei_.size(), inceput + Pagina);
+        std::vector<RandMembrii> r(sfarsit - inceput);
+        std::vector<RandMembrii> citite;
+        try {
+            citite = RanduriMembrii(db_, chei_[inceput], chei_[sfarsit - 1]);
+        } catch (const Eroare&) {
+        }
+        auto c = citite.begin();
+        for (size_t k = inceput; k < sfarsit; ++k) {
+            while (c != citite.end() && c->MembruID < chei_[k])
+                ++c;
+            if (c != citite.end() && c->MembruID == chei_[k]) r[k - inceput] = *c;
+        }
+        return r;
+    }
+
+    BazaDate& db_;
+    std::vector<qint64> chei_;
+    mutable std::unordered_map<int, std::vector<RandMembrii>> pagini_;
 };
 
 namespace {
@@ -112,7 +145,7 @@ frmMembrii::frmMembrii(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(pari
     }
     auto* indiciu = new QLabel(QStringLiteral("Scrieti inceputul si apasati Enter pentru cautare."), this);
 
-    model_ = new ModelMembrii(this);
+    model_ = new ModelMembrii(bd_, this);
     lvwMembrii = new QTableView(this);
     lvwMembrii->setObjectName(QStringLiteral("lvwMembrii"));
     lvwMembrii->setModel(model_);
@@ -155,7 +188,7 @@ frmMembrii::frmMembrii(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(pari
     resize(900, 560);
 
     try {
-        model_->Seteaza(ListaMembrii(bd_));
+        model_->Citeste();
     } catch (const Eroare& e) {
         m_.Critic(e.text());
     }
@@ -177,7 +210,7 @@ void frmMembrii::Txt_KeyPress(int camp) {
     std::optional<int> rand = model_->Rand(*gasit);
     if (!rand) {
         try {
-            model_->Seteaza(ListaMembrii(bd_));
+            model_->Citeste();
         } catch (const Eroare& e) {
             m_.Critic(e.text());
             return;
@@ -193,7 +226,7 @@ void frmMembrii::Txt_KeyPress(int camp) {
 std::optional<qint64> frmMembrii::MembruSelectat() const {
     const QModelIndexList r = lvwMembrii->selectionModel()->selectedRows();
     if (r.isEmpty()) return std::nullopt;
-    return model_->Rand(r.first().row()).MembruID;
+    return model_->Cheie(r.first().row());
 }
 
 int frmMembrii::NrRanduri() const {

@@ -147,6 +147,46 @@ TEST_P(ListePersoanaBaza, CodNecunoscutNuPastreazaPersoanaPreluata) {
     }
 }
 
+TEST_P(ListePersoanaBaza, PaginileBrowseruluiSuntListaInBucati) {
+    BazaDate& db = BazaNoua();
+    {
+        Tranzactie t(db);
+        for (qint64 id = 1; id <= 40; ++id)
+            Interogare(db, T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP, TipAct, SerieBI) "
+                             "VALUES (?, ?, ?, ?, ?, ?)"))
+                .Leaga(id * 3)
+                .Leaga(T("NUME%1").arg(id))
+                .Leaga(T("PRENUME%1").arg(41 - id))
+                .Leaga(T("18501014%1").arg(id, 5, 10, QLatin1Char('0')))
+                .Leaga(id % 3)
+                .Leaga(T("S%1").arg(id))
+                .Executa();
+        t.Confirma();
+    }
+    const std::vector<RandMembrii> toate = ListaMembrii(db);
+    const std::vector<qint64> chei = CheiMembrii(db);
+    ASSERT_EQ(chei.size(), toate.size());
+    for (size_t i = 0; i < chei.size(); ++i)
+        EXPECT_EQ(chei[i], toate[i].MembruID) << i;
+
+    const auto texte = [](const std::vector<RandMembrii>& r, size_t de, size_t pana) {
+        QStringList t;
+        for (size_t i = de; i < pana; ++i)
+            t << QString::number(r[i].MembruID) << r[i].Nume << r[i].Prenume << r[i].CNP << r[i].TipAct << r[i].SerieBI
+              << r[i].NrBI;
+        return t;
+    };
+    // Bounds that are keys, bounds between keys, one key, none.
+    const struct {
+        qint64 primul, ultimul;
+        size_t de, pana;
+    } cazuri[] = {{3, 30, 0, 10}, {31, 62, 10, 20}, {4, 8, 1, 2}, {120, 120, 39, 40}, {121, 500, 40, 40}};
+    for (const auto& c : cazuri)
+        EXPECT_EQ(texte(RanduriMembrii(db, c.primul, c.ultimul), 0, c.pana - c.de), texte(toate, c.de, c.pana))
+            << c.primul << ".." << c.ultimul;
+    EXPECT_EQ(RanduriMembrii(db, 3, 3).front().TipAct, T("BI")) << "the short name of the paper";
+}
+
 PE_AMBELE_MOTOARE(ListePersoanaBaza);
 
 TEST(GridAdeverinte, RandulCuColoaneleAscunse) {

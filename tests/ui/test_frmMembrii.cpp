@@ -217,6 +217,36 @@ TEST_P(FormMembrii, ListaSiCautarea) {
     Captura(f, GetParam(), "frmMembrii.png");
 }
 
+TEST_P(FormMembrii, ListaLungaCititaPePagini) {
+    {
+        Tranzactie t(Bd());
+        for (qint64 id = 100; id < 700; ++id)
+            Interogare(Bd(), T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"))
+                .Leaga(id)
+                .Leaga(T("Nume%1").arg(id))
+                .Leaga(T("Prenume%1").arg(id))
+                .Leaga(T("19001014%1").arg(id, 5, 10, QLatin1Char('0')))
+                .Executa();
+        t.Confirma();
+    }
+    frmMembrii f(Bd(), mesaje);
+    ASSERT_EQ(f.NrRanduri(), 604);
+    // A person deleted after the list was read leaves its row empty; the rows after it keep their places.
+    Interogare(Bd(), T("DELETE FROM CereriMembrii WHERE MembruID = ?")).Leaga(12).Executa();
+    Interogare(Bd(), T("DELETE FROM Membrii WHERE MembruID = ?")).Leaga(12).Executa();
+    EXPECT_EQ(f.TexteRand(3), (QStringList{T("12"), QString(), QString(), QString(), QString(), QString(), QString()}));
+    EXPECT_EQ(f.TexteRand(4).mid(0, 4), (QStringList{T("100"), T("Nume100"), T("Prenume100"), T("1900101400100")}));
+    for (const int rand : {259, 260, 603}) {
+        const qint64 id = 100 + rand - 4;
+        EXPECT_EQ(f.TexteRand(rand).mid(0, 2), (QStringList{QString::number(id), T("Nume%1").arg(id)})) << rand;
+    }
+    f.Txt[0]->setText(T("1900101400699"));
+    f.Txt_KeyPress(0);
+    EXPECT_EQ(Selectat(f), T("699"));
+    EXPECT_EQ(f.lvwMembrii->currentIndex().row(), 603);
+    EXPECT_TRUE(mesaje.mesaje.empty()) << mesaje.Texte().join(T(" | ")).toStdString();
+}
+
 PE_AMBELE_MOTOARE(FormMembrii);
 
 } // namespace
