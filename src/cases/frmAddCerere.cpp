@@ -1,6 +1,10 @@
 #include "cases/frmAddCerere.h"
 
+#include "cases/frmAddActe.h"
+#include "cases/frmAddLocuinta.h"
 #include "cases/frmAddMembru.h"
+#include "cases/frmAddVenituri.h"
+#include "cases/frmBife.h"
 #include "shell/Ceas.h"
 #include "shell/Eroare.h"
 #include "shell/Functii.h"
@@ -106,6 +110,26 @@ frmAddCerere::frmAddCerere(BazaDate& bd, const Setari& setari, Mesaje& m, const 
         frmMotiv f(bd_, m_, this);
         f.exec();
         return f.Rezultat;
+    };
+    DeschideVenituri = [this](StareCerere& s) {
+        frmAddVenituri f(bd_, m_, s, this);
+        ArataModal(f);
+        return f.ESTE_OK;
+    };
+    DeschideBife = [this](StareCerere& s) {
+        frmBife f(bd_, m_, s, this);
+        ArataModal(f);
+        return f.ESTE_OK;
+    };
+    DeschideActe = [this](StareCerere& s) {
+        frmAddActe f(bd_, m_, s, this);
+        ArataModal(f);
+        return f.ESTE_OK;
+    };
+    DeschideLocuinta = [this](StareCerere& s) {
+        frmAddLocuinta f(bd_, m_, s, this);
+        ArataModal(f);
+        return f.ESTE_OK;
     };
     asazaControale();
     incarca(d);

@@ -77,10 +77,9 @@ public:
     // The leave reason of a person removed from the list, nullopt when cancelled.
     std::function<std::optional<MotivIesire>()> DeschideMotiv;
     // The incomes, goods, documents and housing dialogs: true when the clerk confirmed.
-    std::function<bool(StareCerere&)> DeschideVenituri = [](StareCerere&) { return false; };
-    std::function<bool(StareCerere&)> DeschideBife = [](StareCerere&) { return false; };
-    std::function<bool(StareCerere&)> DeschideActe = [](StareCerere&) { return false; };
-    std::function<bool(StareCerere&)> DeschideLocuinta = [](StareCerere&) { return false; };
+    std::function<bool(StareCerere&)> DeschideVenituri, DeschideBife, DeschideActe, DeschideLocuinta;
+    // Shows the sub-dialogs above; tests replace it to work the real dialogs without a modal loop.
+    std::function<int(QDialog&)> ArataModal = [](QDialog& d) { return d.exec(); };
     // Runs after each step of the save, inside its transaction; an exception undoes the save.
     std::function<void(PasSalvare)> DupaPasSalvare;
 

@@ -1,4 +1,5 @@
 #include "cases/frmAddCerere.h"
+#include "cases/frmAddVenituri.h"
 #include "shell/Ceas.h"
 #include "shell/Eroare.h"
 #include "shell/ListaCereri.h"
@@ -8,6 +9,7 @@
 #include "support/DosarTest.h"
 
 #include <QApplication>
+#include <QTableWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
@@ -614,6 +616,33 @@ TEST_P(FormCerere, StareaEsteADialoguluiSiPleacaOdataCuEl) {
     EXPECT_TRUE(g->Lista().lvw.empty());
     EXPECT_TRUE(g->Lista().lvwIesiti.empty());
     EXPECT_EQ(Text(*g, 12)->text(), QString());
+}
+
+// The buttons open the real incomes, goods, documents and housing dialogs on the open state; the
+// incomes confirmed there become the total income box.
+TEST_P(FormCerere, ButoaneleDeschidDialogurileDosarului) {
+    const qint64 id = SalveazaDosar(DosarComplet(Bd()));
+    auto f = Deschide({2, id});
+    QStringList deschise;
+    f->ArataModal = [&](QDialog& d) {
+        deschise << d.objectName();
+        if (auto* v = qobject_cast<frmAddVenituri*>(&d)) {
+            v->Grid->item(1, 1)->setText(QStringLiteral("250,5"));
+            v->cmdOK_Click();
+            return int(QDialog::Accepted);
+        }
+        return int(QDialog::Rejected);
+    };
+    const StareCerere inainte = *f->Stare();
+    for (QPushButton* b : {f->cmdBife, f->cmdActe, f->cmdLocuinta})
+        b->click();
+    EXPECT_EQ(*f->Stare(), inainte) << "cancelled dialogs leave the state as it was";
+    f->cmdVenituri->click();
+    EXPECT_EQ(deschise, (QStringList{QStringLiteral("frmBife"), QStringLiteral("frmAddActe"),
+                                     QStringLiteral("frmAddLocuinta"), QStringLiteral("frmAddVenituri")}));
+    EXPECT_EQ(f->Stare()->Venituri[1], Lei("250.5"));
+    EXPECT_EQ(Text(*f, 12)->text(), TextSuma(SumaVenituri(f->Stare()->Venituri)));
+    EXPECT_NE(Text(*f, 12)->text(), TextSuma(SumaVenituri(inainte.Venituri)));
 }
 
 // The behaviours of the boxes: the free-text combos take a capital and a colour, the bank and
