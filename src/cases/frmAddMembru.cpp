@@ -149,6 +149,8 @@ void frmAddMembru::asazaControale() {
     cnp->setEditable(true);
     cnp->setInsertPolicy(QComboBox::NoInsert);
     cnp->setMinimumContentsLength(15);
+    // Completing a typed code to a known one would put another person's code in the box unseen.
+    cnp->setCompleter(nullptr);
     cnp->laDeschidere = [this] { umpleCNP(); };
     cnp->laPlecare = [this] { cboCNP_LostFocus(); };
     cboCNP = cnp;

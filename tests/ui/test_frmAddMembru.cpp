@@ -242,6 +242,16 @@ TEST_P(FormMembru, CNPScrisSiParasit) {
     EXPECT_EQ(mesaje.Texte(), QStringList{T("CNP-ul acestei persoane se gaseste deja in lista ")});
     EXPECT_EQ(Focus(f), T("cboCNP"));
     EXPECT_EQ(s.MatriceMembri->size(), 1u);
+
+    // The list of the box: the known codes that begin with what is typed, the text left as typed.
+    Cnp(f)->setEditText(T("2850"));
+    Cnp(f)->showPopup();
+    QStringList lista;
+    for (int i = 0; i < Cnp(f)->count(); ++i)
+        lista << Cnp(f)->itemText(i);
+    Cnp(f)->hidePopup();
+    EXPECT_EQ(lista, QStringList{CnpMama});
+    EXPECT_EQ(Cnp(f)->currentText(), T("2850"));
 }
 
 TEST_P(FormMembru, RudeniaSiBifeleConducCadrele) {
