@@ -1,5 +1,6 @@
 #include "cases/frmAddCerere.h"
 
+#include "cases/UiAdeverinte.h"
 #include "cases/frmAddActe.h"
 #include "cases/frmAddLocuinta.h"
 #include "cases/frmAddMembru.h"
@@ -103,6 +104,7 @@ frmAddCerere::frmAddCerere(BazaDate& bd, const Setari& setari, Mesaje& m, const 
     setWindowTitle(d.Adaug == 2 ? QStringLiteral("Modificare cerere") : QStringLiteral("Adaugare cerere"));
     DeschideMembru = [this](StareCerere& s, const ContextPersoana& c) -> std::optional<int> {
         frmAddMembru f(bd_, m_, s, c, this);
+        ConecteazaAdeverinte(f, ArataModal);
         f.exec();
         return f.ESTE_OK ? f.IndexScris : std::nullopt;
     };
