@@ -7,6 +7,7 @@ PACHETE=(
     libsimpleini-dev libsodium-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     postgresql sqlite3 xvfb xauth
+    chromium chromium-driver
 )
 lipsa=()
 for p in "${PACHETE[@]}"; do

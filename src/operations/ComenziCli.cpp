@@ -3,6 +3,7 @@
 #include "cases/CalculCuantum.h"
 #include "cases/DateCerere.h"
 #include "documents/Documente.h"
+#include "operations/PunteWeb.h"
 #include "shell/Ceas.h"
 #include "shell/Eroare.h"
 #include "shell/Foldere.h"
@@ -18,14 +19,16 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <limits>
 
 namespace {
 
-const QString Utilizare = QStringLiteral(
-    "utilizare: ferolanta-cli {init|upgrade|demo --cereri N [--seed S]|cuantum ID [--luna L --an A]|"
-    "document {dispozitie|fisa|declaratie} ID [--sablon FISIER] [--out FISIER] [--data ZZ.LL.AAAA]} [--dir DIR] "
-    "[--db postgresql://...]");
+const QString Utilizare =
+    QStringLiteral("utilizare: ferolanta-cli {init|upgrade|demo --cereri N [--seed S]|cuantum ID [--luna L --an A]|"
+                   "document {dispozitie|fisa|declaratie} ID [--sablon FISIER] [--out FISIER] [--data ZZ.LL.AAAA]|"
+                   "web {cerere|cerere_1a|ancheta} ID [--out DIR]} [--dir DIR] "
+                   "[--db postgresql://...]");
 
 struct EroareArgumente {
     QString text;
@@ -198,6 +201,68 @@ int document(const QCommandLineParser& p, const QString& fel, const QString& idT
     return 1;
 }
 
+// The data of the web page for one request (0: the blank forms), written beside a copy of the page
+// in --out (the current folder by default), and the address that opens it on stdout. The query file
+// and the page are the town hall's copies in the database folder when it has them, else the
+// delivered ones; the settings file is the database folder's.
+int web(const QCommandLineParser& p, const QString& document, const QString& idText, QTextStream& out,
+        QTextStream& err) {
+    if (document != PunteWeb::DocCerere && document != PunteWeb::DocCerere1a && document != PunteWeb::DocAncheta)
+        throw EroareArgumente{QStringLiteral("documentul poate fi cerere, cerere_1a sau ancheta, nu %1").arg(document)};
+    const qint64 id =
+        numarIntre(idText, 0, std::numeric_limits<qint64>::max(), QStringLiteral("ID-ul cererii (0: formular gol)"));
+    const LocatieBD loc = locatie(p);
+    Setari setari;
+    if (const QString ini = QDir(loc.caleBD).filePath(Foldere::FisierSetari); QFile::exists(ini))
+        setari = IncarcaSetari(ini);
+    auto deLuat = [&](const QString& relativ) {
+        const QString local = QDir(loc.caleBD).filePath(relativ);
+        return QFileInfo(local).isFile() ? local : QDir(Foldere::FolderLivrat()).filePath(relativ);
+    };
+    const QString sursaPagina = deLuat(PunteWeb::FolderPagina + QLatin1Char('/') + PunteWeb::Pagina);
+    const QString iesire = QDir::cleanPath(QDir::current().absoluteFilePath(
+        p.isSet(QStringLiteral("out")) ? p.value(QStringLiteral("out")) : QStringLiteral(".")));
+    if (!QDir().mkpath(iesire)) {
+        err << QStringLiteral("Folderul %1 nu poate fi creat.").arg(QDir::toNativeSeparators(iesire)) << Qt::endl;
+        return 1;
+    }
+    PunteWeb::MediuWeb mediu;
+    mediu.fisierInterogari = deLuat(PunteWeb::FisierInterogari);
+    mediu.pagina = QDir(iesire).filePath(PunteWeb::Pagina);
+    mediu.folderProgram = loc.caleBD;
+    mediu.serverCerere = setari.ServerCerere;
+    for (const QString& f : {mediu.fisierInterogari, sursaPagina})
+        if (!QFileInfo(f).isFile()) {
+            err << QStringLiteral("Fisierul %1 nu exista.").arg(QDir::toNativeSeparators(f)) << Qt::endl;
+            return 1;
+        }
+    if (QFileInfo(sursaPagina).canonicalFilePath() != QFileInfo(mediu.pagina).canonicalFilePath()) {
+        QFile::remove(mediu.pagina);
+        if (!QFile::copy(sursaPagina, mediu.pagina)) {
+            err << QStringLiteral("Pagina nu a putut fi copiata in %1.").arg(QDir::toNativeSeparators(iesire))
+                << Qt::endl;
+            return 1;
+        }
+        // The delivered page is read-only; the copy is overwritten at the next run.
+        QFile::setPermissions(mediu.pagina, QFile::permissions(mediu.pagina) | QFileDevice::WriteOwner);
+    }
+
+    MesajeFlux m(err, err);
+    auto db = BazaDate::Deschide(loc);
+    if (id > 0) {
+        Interogare q(*db, QStringLiteral("SELECT 1 FROM Cereri WHERE CerereID = ?"));
+        q.Leaga(id);
+        if (!q.Exista()) {
+            err << QStringLiteral("Cererea cu ID-ul %1 nu exista in baza de date.").arg(id) << Qt::endl;
+            return 1;
+        }
+    }
+    const auto pagina = PunteWeb::StartCerereWeb(*db, mediu, id, document, false, m);
+    if (!pagina) return 1;
+    out << pagina->adresa.toString() << Qt::endl;
+    return 0;
+}
+
 } // namespace
 
 int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err) {
@@ -209,9 +274,9 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
     p.addOption({QStringLiteral("luna"), QStringLiteral("luna de lucru"), QStringLiteral("L")});
     p.addOption({QStringLiteral("an"), QStringLiteral("anul de lucru"), QStringLiteral("A")});
     p.addOption({QStringLiteral("sablon"), QStringLiteral("sablonul documentului"), QStringLiteral("FISIER")});
-    p.addOption({QStringLiteral("out"), QStringLiteral("fisierul scris"), QStringLiteral("FISIER")});
+    p.addOption({QStringLiteral("out"), QStringLiteral("fisierul scris (web: folderul)"), QStringLiteral("FISIER")});
     p.addOption({QStringLiteral("data"), QStringLiteral("data fisei de calcul"), QStringLiteral("ZZ.LL.AAAA")});
-    p.addPositionalArgument(QStringLiteral("comanda"), QStringLiteral("init, upgrade, demo, cuantum, document"));
+    p.addPositionalArgument(QStringLiteral("comanda"), QStringLiteral("init, upgrade, demo, cuantum, document, web"));
     try {
         if (!p.parse(argumente)) throw EroareArgumente{p.errorText()};
         const QStringList poz = p.positionalArguments();
@@ -219,14 +284,19 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         const QString comanda = poz.first();
         const bool cuCerere = comanda == QLatin1String("cuantum");
         const bool cuDocument = comanda == QLatin1String("document");
+        const bool cuWeb = comanda == QLatin1String("web");
         if (cuCerere && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
         if (cuDocument && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste felul documentului")};
         if (cuDocument && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul documentului")};
-        if (poz.size() != (cuDocument ? 3 : cuCerere ? 2 : 1))
+        if (cuWeb && poz.size() == 1)
+            throw EroareArgumente{QStringLiteral("lipseste documentul: cerere, cerere_1a sau ancheta")};
+        if (cuWeb && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
+        if (poz.size() != (cuDocument || cuWeb ? 3 : cuCerere ? 2 : 1))
             throw EroareArgumente{QStringLiteral("prea multe argumente")};
-        if (!cuDocument &&
-            (p.isSet(QStringLiteral("sablon")) || p.isSet(QStringLiteral("out")) || p.isSet(QStringLiteral("data"))))
-            throw EroareArgumente{QStringLiteral("--sablon, --out si --data sunt doar pentru document")};
+        if (!cuDocument && (p.isSet(QStringLiteral("sablon")) || p.isSet(QStringLiteral("data"))))
+            throw EroareArgumente{QStringLiteral("--sablon si --data sunt doar pentru document")};
+        if (!cuDocument && !cuWeb && p.isSet(QStringLiteral("out")))
+            throw EroareArgumente{QStringLiteral("--out este doar pentru document si web")};
         if (comanda != QLatin1String("demo") && (p.isSet(QStringLiteral("cereri")) || p.isSet(QStringLiteral("seed"))))
             throw EroareArgumente{QStringLiteral("--cereri si --seed sunt doar pentru demo")};
         if (!cuCerere && (p.isSet(QStringLiteral("luna")) || p.isSet(QStringLiteral("an"))))
@@ -236,6 +306,7 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (comanda == QLatin1String("demo")) return demo(p, out, err);
         if (cuCerere) return cuantum(p, poz[1], out, err);
         if (cuDocument) return document(p, poz[1], poz[2], out, err);
+        if (cuWeb) return web(p, poz[1], poz[2], out, err);
         throw EroareArgumente{QStringLiteral("comanda necunoscuta: %1").arg(comanda)};
     } catch (const EroareArgumente& e) {
         err << e.text << ". " << Utilizare << Qt::endl;
