@@ -126,7 +126,7 @@ int cuantum(const QCommandLineParser& p, const QString& idText, QTextStream& out
         luna = int(numarIntre(p.value(QStringLiteral("luna")), 1, 12, QStringLiteral("--luna")));
         an = int(numarIntre(p.value(QStringLiteral("an")), 1900, 9999, QStringLiteral("--an")));
     } else if (const QString ini = QDir(loc.caleBD).filePath(Foldere::FisierSetari); QFile::exists(ini)) {
-        const Setari s = IncarcaSetari(ini);
+        const Setari s = IncarcaSetari(ini, false);
         luna = s.LunaSetata;
         an = s.AnSetat;
     } else {
@@ -171,7 +171,7 @@ int document(const QCommandLineParser& p, const QString& fel, const QString& idT
     const LocatieBD loc = locatie(p);
     Setari setari;
     if (const QString ini = QDir(loc.caleBD).filePath(Foldere::FisierSetari); QFile::exists(ini))
-        setari = IncarcaSetari(ini);
+        setari = IncarcaSetari(ini, false);
     OptiuniDocumente o = OptiuniDinSetari(setari, Foldere::FolderLivrat());
     o.DataFisa = dataFisa;
     const QString sablon = p.value(QStringLiteral("sablon"));
@@ -214,7 +214,7 @@ int web(const QCommandLineParser& p, const QString& document, const QString& idT
     const LocatieBD loc = locatie(p);
     Setari setari;
     if (const QString ini = QDir(loc.caleBD).filePath(Foldere::FisierSetari); QFile::exists(ini))
-        setari = IncarcaSetari(ini);
+        setari = IncarcaSetari(ini, false);
     auto deLuat = [&](const QString& relativ) {
         const QString local = QDir(loc.caleBD).filePath(relativ);
         return QFileInfo(local).isFile() ? local : QDir(Foldere::FolderLivrat()).filePath(relativ);

@@ -46,7 +46,7 @@ QString FlagFont(bool b) {
 
 class Cititor {
 public:
-    explicit Cititor(const QString& fisier) : fisier_(fisier) {}
+    Cititor(const QString& fisier, bool scrie) : fisier_(fisier), scrie_(scrie) {}
 
     QString Text(const QString& sectiune, const QString& cheie) const {
         return SF::CitesteIni(fisier_, sectiune, cheie);
@@ -59,25 +59,26 @@ public:
     int OctetScris(const QString& sectiune, const QString& cheie, int implicit) const {
         const int v = Octet(sectiune, cheie, implicit);
         if (v != 0) return v;
-        SF::ScrieIni(fisier_, sectiune, cheie, QString::number(implicit));
+        if (scrie_) SF::ScrieIni(fisier_, sectiune, cheie, QString::number(implicit));
         return implicit;
     }
     QString TextScris(const QString& sectiune, const QString& cheie, const QString& implicit) const {
         const QString v = Text(sectiune, cheie);
         if (!v.isEmpty()) return v;
-        SF::ScrieIni(fisier_, sectiune, cheie, implicit);
+        if (scrie_) SF::ScrieIni(fisier_, sectiune, cheie, implicit);
         return implicit;
     }
 
 private:
     QString fisier_;
+    bool scrie_;
 };
 
 } // namespace
 
-Setari IncarcaSetari(const QString& fisierIni) {
+Setari IncarcaSetari(const QString& fisierIni, bool scrieImplicite) {
     const Setari implicit;
-    const Cititor c(fisierIni);
+    const Cititor c(fisierIni, scrieImplicite);
     Setari s;
     s.CaleBD = c.Text(Generale, QStringLiteral("CaleBD"));
     s.Parola = c.Text(Generale, QStringLiteral("pass"));

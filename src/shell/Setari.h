@@ -74,7 +74,9 @@ struct Setari {
 // default, which is also written to the file at once. A value outside its key's range gives the default
 // in memory and leaves the file as it is. `CaleBD` is given as stored: its empty rule belongs to start-up.
 // Throws Eroare when the file can't be read or a default can't be written.
-Setari IncarcaSetari(const QString& fisierIni);
+// With scrieImplicite false the file is only read: the command-line tool must not change the
+// settings of the office it inspects.
+Setari IncarcaSetari(const QString& fisierIni, bool scrieImplicite = true);
 
 // One key, written at once by the dialog that changes it.
 void ScrieSetare(const QString& fisierIni, const QString& sectiune, const QString& cheie, const QString& valoare);

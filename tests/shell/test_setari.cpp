@@ -86,6 +86,10 @@ const CheieScrisa ScriseInapoi[] = {
 };
 
 TEST_F(FisierSetari, FisierLipsaPrimesteDoarImpliciteleScriseInapoi) {
+    // Read only: the same defaults in memory, nothing written.
+    EXPECT_TRUE(IncarcaSetari(Ini(), false) == Setari{});
+    EXPECT_TRUE(Chei().empty());
+
     const Setari s = IncarcaSetari(Ini());
     EXPECT_TRUE(s == Setari{}) << "a missing file gives the defaults in memory";
     EXPECT_EQ(s.FontSize0, 10);
