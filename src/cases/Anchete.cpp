@@ -111,14 +111,7 @@ VerificareAncheta Anchete::VerificaControale(BazaDate& db, Mesaje& m, const Anch
     VerificareAncheta r;
     if (!VerificaBD(db, m)) return r;
     if (mod == ModAncheta::Modificare) {
-        qint64 n = 0;
-        try {
-            Interogare q(db, QStringLiteral("SELECT COUNT(AnchetaID) FROM Anchete WHERE AnchetaID = ?"));
-            q.Leaga(a.AnchetaID);
-            if (q.Exista()) n = q.Intreg(0);
-        } catch (const Eroare&) {
-            n = 0;
-        }
+        const qint64 n = RanduriCuCheie(db, QStringLiteral("Anchete"), QStringLiteral("AnchetaID"), a.AnchetaID);
         if (n == 0) {
             m.Informatie(Stearsa);
             r.inchide = true;

@@ -224,14 +224,8 @@ VerificareDispozitie Dispozitii::VerificaControale(BazaDate& db, Mesaje& m, cons
     VerificareDispozitie r;
     if (!VerificaBD(db, m)) return r;
     if (mod == ModDispozitie::Modificare) {
-        qint64 n = 0;
-        try {
-            Interogare q(db, QStringLiteral("SELECT COUNT(DispozitieID) FROM Dispozitii WHERE DispozitieID = ?"));
-            q.Leaga(d.DispozitieID);
-            if (q.Exista()) n = q.Intreg(0);
-        } catch (const Eroare&) {
-            n = 0;
-        }
+        const qint64 n =
+            RanduriCuCheie(db, QStringLiteral("Dispozitii"), QStringLiteral("DispozitieID"), d.DispozitieID);
         if (n == 0) {
             m.Informatie(Stearsa);
             r.inchide = true;

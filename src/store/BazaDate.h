@@ -136,3 +136,7 @@ private:
     QSqlRecord rec_;
     int legate_ = 0;
 };
+
+// The rows of `tabela` whose `camp` equals `id`; 0 also when the read fails, which the editors
+// treat as a row removed by another computer.
+qint64 RanduriCuCheie(BazaDate& db, const QString& tabela, const QString& camp, qint64 id);
