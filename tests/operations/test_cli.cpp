@@ -23,8 +23,7 @@ class Cli : public TestBaza {
 protected:
     QStringList Loc() const {
         QStringList a{QStringLiteral("--dir"), Locatie().caleBD};
-        if (!Locatie().url.isEmpty())
-            a << QStringLiteral("--db") << Locatie().url;
+        if (!Locatie().url.isEmpty()) a << QStringLiteral("--db") << Locatie().url;
         return a;
     }
 };
@@ -85,7 +84,8 @@ TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
 
 TEST(CliArgumente, FolderLipsaSauFisierStraindauCodul1) {
     QTemporaryDir dir;
-    const Iesire lipsa = ruleaza({QStringLiteral("init"), QStringLiteral("--dir"), dir.filePath(QStringLiteral("nu-exista"))});
+    const Iesire lipsa =
+        ruleaza({QStringLiteral("init"), QStringLiteral("--dir"), dir.filePath(QStringLiteral("nu-exista"))});
     EXPECT_EQ(lipsa.cod, 1);
     EXPECT_TRUE(lipsa.err.contains(QStringLiteral("nu-exista"))) << lipsa.err.toStdString();
 
@@ -98,7 +98,8 @@ TEST(CliArgumente, FolderLipsaSauFisierStraindauCodul1) {
     EXPECT_TRUE(strain.err.contains(QStringLiteral("Ferolanta.db"))) << strain.err.toStdString();
     EXPECT_EQ(f.size(), 48) << "the foreign file is left as it was";
 
-    const Iesire faraBaza = ruleaza({QStringLiteral("upgrade"), QStringLiteral("--dir"), dir.filePath(QStringLiteral("gol"))});
+    const Iesire faraBaza =
+        ruleaza({QStringLiteral("upgrade"), QStringLiteral("--dir"), dir.filePath(QStringLiteral("gol"))});
     EXPECT_EQ(faraBaza.cod, 1);
 }
 
