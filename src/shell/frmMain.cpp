@@ -1,8 +1,15 @@
 #include "shell/frmMain.h"
 
 #include "cases/Anchete.h"
+#include "cases/Dispozitii.h"
 #include "cases/frmAddAnchete.h"
 #include "cases/frmAddCerere.h"
+#include "cases/frmAddDispozitie.h"
+#include "cases/frmAdeverinte.h"
+#include "cases/frmAnexa2.h"
+#include "cases/frmListaActeExpira.h"
+#include "cases/frmMembrii.h"
+#include "documents/ComenziDocumente.h"
 #include "shell/Ceas.h"
 #include "shell/Eroare.h"
 #include "shell/Functii.h"
@@ -13,6 +20,7 @@
 #include "shell/Pornire.h"
 #include "shell/Program.h"
 #include "shell/Setari.h"
+#include "shell/UiDataOptionala.h"
 #include "shell/frmAbout.h"
 #include "shell/frmChLunaAn.h"
 #include "shell/frmOptiuni.h"
@@ -25,6 +33,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QDateEdit>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QGridLayout>
@@ -49,11 +59,17 @@ namespace {
 // The support line of the status bar.
 const QString ContactSuport = QStringLiteral(" Suport: suport@ferolanta.ro ");
 
+const QString TextOpresteTiparirea = QStringLiteral("Opreste tiparirea");
+const QString TextMnuAnexa2 = QStringLiteral("Tiparire toate dispozitiile ...");
+const QString TextMnuToateDisp = QStringLiteral("Tiparire toate dispozitiile (Anexele 2) ...");
+
 } // namespace
 
 frmMain::frmMain(Program& p, Mesaje& m, QWidget* parinte)
     : QMainWindow(parinte), p_(p), m_(m), model_(new ModelCereri(this)) {
     setObjectName(QStringLiteral("frmMain"));
+    MediuDocumente = MediuDeschidere::Sistem();
+    MediuDocumente.DeschideImplicit = [](const QUrl& u) { return QDesktopServices::openUrl(u); };
     auto* centru = new QWidget(this);
     auto* asezare = new QVBoxLayout(centru);
     auto* imparte = new QSplitter(Qt::Vertical, centru);
@@ -119,10 +135,26 @@ void frmMain::construiesteCautarea(QWidget* sus) {
     buton(cmdAdd, "cmdAdd", QStringLiteral("Adauga cerere"));
     buton(cmdEdit, "cmdEdit", QStringLiteral("Modifica cerere"));
     buton(cmdDelete, "cmdDelete", QStringLiteral("Sterge cerere"));
+    butoane->addSpacing(16);
+    buton(cmdCerere, "cmdCerere", QStringLiteral("Tiparire &cerere"));
+    cmdCerere->setToolTip(QStringLiteral("tiparire cerere si declaratie de venit"));
     buton(cmdSelect, "cmdSelect", QStringLiteral("Cerere..."));
+    buton(cmdDeclaratie, "cmdDeclaratie", QStringLiteral("Declaratie de venit"));
+    buton(cmdFisaCalcul, "cmdFisaCalcul", QStringLiteral("Tiparire &Fisa de calcul"));
+    cmdFisaCalcul->setToolTip(QStringLiteral("Tiparire Fisa de calcul"));
+    auto* lblDataFisa = new QLabel(QStringLiteral("Data emiterii fisei"), sus);
+    butoane->addWidget(lblDataFisa);
+    dtpDataFisa = new UiDataOptionala(sus);
+    dtpDataFisa->setObjectName(QStringLiteral("dtpDataFisa"));
+    dtpDataFisa->setData(QDate());
+    lblDataFisa->setBuddy(dtpDataFisa->editor());
+    butoane->addWidget(dtpDataFisa);
     butoane->addStretch();
     buton(cmdExit, "cmdExit", QStringLiteral("Iesire"));
     cmdSelect->setEnabled(false);
+    cmdCerere->setEnabled(false);
+    connect(cmdFisaCalcul, &QPushButton::clicked, this, &frmMain::cmdFisaCalcul_Click);
+    connect(cmdDeclaratie, &QPushButton::clicked, this, &frmMain::cmdDeclaratie_Click);
     connect(cmdAdd, &QPushButton::clicked, this, &frmMain::cmdAdd_Click);
     connect(cmdEdit, &QPushButton::clicked, this, &frmMain::cmdEdit_Click);
     connect(cmdDelete, &QPushButton::clicked, this, &frmMain::cmdDelete_Click);
@@ -219,8 +251,16 @@ void frmMain::construiesteListeleDeJos(QWidget* jos) {
     buton(dispozitii, randDisp, cmdDelDisp, "cmdDelDisp", QStringLiteral("Sterge dispozitie"));
     buton(dispozitii, randDisp, cmdPrintDisp, "cmdPrintDisp", QStringLiteral("Tipareste dispozitia"));
     randDisp->addStretch();
+    cmdAddDisp->setEnabled(true);
     static_cast<QVBoxLayout*>(dispozitii->layout())->addLayout(randDisp);
+    connect(cmdAddDisp, &QPushButton::clicked, this, &frmMain::cmdAddDisp_Click);
+    connect(cmdEditDisp, &QPushButton::clicked, this, &frmMain::cmdEditDisp_Click);
     connect(cmdDelDisp, &QPushButton::clicked, this, &frmMain::cmdDelDisp_Click);
+    connect(cmdPrintDisp, &QPushButton::clicked, this, &frmMain::cmdPrintDisp_Click);
+    connect(lvwDispozitii, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* i) {
+        lvwDispozitii->setCurrentItem(i);
+        cmdEditDisp_Click();
+    });
     connect(cmdAddAncheta, &QPushButton::clicked, this, &frmMain::cmdAddAncheta_Click);
     connect(cmdEditAncheta, &QPushButton::clicked, this, &frmMain::cmdEditAncheta_Click);
     connect(cmdDelAncheta, &QPushButton::clicked, this, &frmMain::cmdDelAncheta_Click);
@@ -233,6 +273,8 @@ void frmMain::construiesteListeleDeJos(QWidget* jos) {
     picNotific->setStyleSheet(
         QStringLiteral("QLabel { background: #fff8c0; border: 1px solid #b09000; padding: 8px; }"));
     picNotific->setAlignment(Qt::AlignCenter);
+    picNotific->setCursor(Qt::PointingHandCursor);
+    picNotific->installEventFilter(this);
     picNotific->hide();
     timerNotificare_ = new QTimer(this);
     timerNotificare_->setInterval(100);
@@ -288,13 +330,23 @@ void frmMain::construiesteMeniurile() {
     meniu(acte, "mnuCerereSelectata", QStringLiteral("Listare Cerere Selectata ..."), false);
 
     QMenu* baza = meniuPrincipal("mnuBazaDate", QStringLiteral("Baza date"));
-    meniu(baza, "mnuAdev", QStringLiteral("Adeverinte scolarizare..."), false);
-    meniu(baza, "mnuMembrii", QStringLiteral("Membrii..."), false);
-    meniu(baza, "mnuToateDisp", QStringLiteral("Generare dispozitii ..."), false);
-    meniu(baza, "mnuAnexa2", QStringLiteral("Tiparire toate dispozitiile ..."), false);
+    connect(meniu(baza, "mnuAdev", QStringLiteral("Adeverinte scolarizare..."), true), &QAction::triggered, this,
+            [this] {
+                frmAdeverinte f(p_.bd, m_, this);
+                ArataModal(f);
+            });
+    connect(meniu(baza, "mnuMembrii", QStringLiteral("Membrii..."), true), &QAction::triggered, this, [this] {
+        frmMembrii f(p_.bd, m_, this);
+        ArataModal(f);
+    });
+    mnuToateDisp = meniu(baza, "mnuToateDisp", QStringLiteral("Generare dispozitii ..."), true);
+    connect(mnuToateDisp, &QAction::triggered, this, &frmMain::mnuToateDisp_Click);
+    mnuAnexa2 = meniu(baza, "mnuAnexa2", TextMnuAnexa2, true);
+    connect(mnuAnexa2, &QAction::triggered, this, &frmMain::mnuAnexa2_Click);
 
     QMenu* rapoarte = meniuPrincipal("mnuRapoarte", QStringLiteral("Rapoarte"));
-    meniu(rapoarte, "mnuFisa", QStringLiteral("Fisa de calcul ..."), false);
+    connect(meniu(rapoarte, "mnuFisa", QStringLiteral("Fisa de calcul ..."), true), &QAction::triggered, this,
+            &frmMain::cmdFisaCalcul_Click);
     meniu(rapoarte, "mnuBorderou", QStringLiteral("Borderou..."), false);
     meniu(rapoarte, "mnuRap", QStringLiteral("Rapoarte ..."), false);
     meniu(rapoarte, "mnuRap2", QStringLiteral("Rapoarte2 ..."), false);
@@ -495,9 +547,158 @@ void frmMain::ListaDispozitii(qint64 cerereID) {
     }
     const RandCerere* r = model_->Rand(RandSelectat());
     lblDispozitii->setText(PaneluriCerere::TitluDispozitii(r ? r->Solicitant : QString(), randuri.size()));
-    // Editing and printing come with the disposition editor and the documents.
-    cmdDelDisp->setEnabled(!randuri.empty());
+    for (QPushButton* b : {cmdEditDisp, cmdDelDisp, cmdPrintDisp})
+        b->setEnabled(!randuri.empty());
     if (!randuri.empty()) lvwDispozitii->setCurrentItem(lvwDispozitii->topLevelItem(0));
+}
+
+qint64 frmMain::CerereSelectata() const {
+    const RandCerere* r = model_->Rand(RandSelectat());
+    return r ? r->CerereID : 0;
+}
+
+qint64 frmMain::DispozitieSelectata() const {
+    const QTreeWidgetItem* item = lvwDispozitii->currentItem();
+    return item ? item->data(0, Qt::UserRole).toLongLong() : 0;
+}
+
+void frmMain::SelecteazaDispozitia(qint64 dispozitieID) {
+    for (int i = 0; i < lvwDispozitii->topLevelItemCount(); ++i)
+        if (lvwDispozitii->topLevelItem(i)->data(0, Qt::UserRole).toLongLong() == dispozitieID) {
+            lvwDispozitii->setCurrentItem(lvwDispozitii->topLevelItem(i));
+            return;
+        }
+}
+
+void frmMain::RescrieRandul(qint64 cerereID) {
+    const int rand = model_->RandulCererii(cerereID);
+    if (rand < 0) return;
+    const RandCerere nou = ListaCereri::Citeste(p_.bd, cerereID);
+    if (nou.CerereID != 0) model_->Inlocuieste(rand, nou);
+}
+
+void frmMain::cmdAddDisp_Click() {
+    try {
+        const qint64 cerereID = CerereSelectata();
+        if (!Dispozitii::PoateAdauga(p_.bd, m_, cerereID)) return;
+        frmAddDispozitie f(p_.bd, m_, 1, cerereID, 0, this);
+        if (!f.Deschisa()) return;
+        ArataModal(f);
+        if (!f.ESTE_OK) return;
+        ListaDispozitii(cerereID);
+        SelecteazaDispozitia(f.DispozitieID());
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
+}
+
+void frmMain::cmdEditDisp_Click() {
+    try {
+        const qint64 dispozitieID = DispozitieSelectata();
+        if (!Dispozitii::PoateModifica(p_.bd, m_, dispozitieID)) return;
+        frmAddDispozitie f(p_.bd, m_, 2, 0, dispozitieID, this);
+        if (!f.Deschisa()) return;
+        ArataModal(f);
+        if (!f.ESTE_OK) return;
+        ListaDispozitii(CerereSelectata());
+        SelecteazaDispozitia(dispozitieID);
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
+}
+
+TiparireDocumente frmMain::Tiparire() const {
+    TiparireDocumente t;
+    t.optiuni = OptiuniDinSetari(p_.setari, p_.applicationPath);
+    t.optiuni.DataFisa = dtpDataFisa->data();
+    t.folder = p_.applicationPath;
+    t.AppWord = p_.setari.AppWord;
+    t.mediu = MediuDocumente;
+    return t;
+}
+
+void frmMain::cmdPrintDisp_Click() {
+    try {
+        ComenziDocumente::TiparesteDispozitie(p_.bd, DispozitieSelectata(), Tiparire(), m_);
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
+}
+
+void frmMain::cmdFisaCalcul_Click() {
+    try {
+        ComenziDocumente::TiparesteFisa(p_.bd, CerereSelectata(), Tiparire(), m_);
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
+}
+
+void frmMain::cmdDeclaratie_Click() {
+    try {
+        ComenziDocumente::TiparesteDeclaratie(p_.bd, CerereSelectata(), Tiparire(), m_);
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
+}
+
+void frmMain::mnuAnexa2_Click() {
+    TiparireToateDispozitiile(mnuAnexa2, TextMnuAnexa2);
+}
+
+void frmMain::mnuToateDisp_Click() {
+    TiparireToateDispozitiile(mnuToateDisp, TextMnuToateDisp);
+}
+
+void frmMain::TiparireToateDispozitiile(QAction* comanda, const QString& textInapoi) {
+    if (comanda->text() == TextOpresteTiparirea) {
+        StopTiparire = true;
+        comanda->setText(textInapoi);
+        return;
+    }
+    if (!VerificaBD(p_.bd, m_)) return;
+    SelectieTiparire selectie;
+    try {
+        frmAnexa2 f(p_.bd, m_, p_.setari.LunaSetata, p_.setari.AnSetat, this);
+        ArataModal(f);
+        // A generation may have given the selected request a disposition of its own.
+        if (f.Generate > 0 && CerereSelectata() != 0) ListaDispozitii(CerereSelectata());
+        if (!f.ESTE_OK) return;
+        selectie = f.Selectie;
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+        return;
+    }
+    StopTiparire = false;
+    comanda->setText(TextOpresteTiparirea);
+    try {
+        std::vector<qint64> chei;
+        for (const DispozitieDeTiparit& d :
+             Dispozitii::SelecteazaPentruTiparire(p_.bd, m_, selectie, p_.setari.AnSetat))
+            chei.push_back(d.DispozitieID);
+        if (!chei.empty()) ComenziDocumente::TiparesteDispozitiile(p_.bd, chei, Tiparire(), m_);
+    } catch (const Eroare& e) {
+        m_.Critic(e.text());
+    }
+    comanda->setText(textInapoi);
+}
+
+void frmMain::picNotific_Click() {
+    frmListaActeExpira f(p_.bd, m_, this);
+    f.AscundeNotificarea = [this] {
+        timerNotificare_->stop();
+        picNotific->hide();
+    };
+    f.DeschideCerere = [this](qint64 cerereID, qint64 membruID) {
+        frmAddCerere e(p_.bd, p_.setari, m_, DeschidereCerere{2, cerereID, true, membruID}, this);
+        if (!e.Gasita()) {
+            m_.Informatie(TextRandNegasit);
+            return false;
+        }
+        ArataModal(e);
+        if (e.ESTE_OK) RescrieRandul(cerereID);
+        return e.ESTE_OK;
+    };
+    ArataModal(f);
 }
 
 void frmMain::ListaAnchete(qint64 cerereID) {
@@ -574,9 +775,10 @@ void frmMain::cmdDelDisp_Click() {
         m_.Informatie(QStringLiteral("Selectati o dispozitie!"));
         return;
     }
-    if (!VerificaBD(p_.bd, m_)) return;
     const int index = lvwDispozitii->indexOfTopLevelItem(item);
     try {
+        // Re-read first: a disposition removed on another computer is not asked about.
+        if (!Dispozitii::PoateModifica(p_.bd, m_, item->data(0, Qt::UserRole).toLongLong())) return;
         if (!m_.Intrebare(QStringLiteral("Sigur doriti sa stergeti dispozitia %1 ?").arg(item->text(1)), {}, false))
             return;
         if (!PaneluriCerere::StergeDispozitie(p_.bd, item->data(0, Qt::UserRole).toLongLong()))
@@ -588,7 +790,8 @@ void frmMain::cmdDelDisp_Click() {
     delete lvwDispozitii->takeTopLevelItem(index);
     const int ramase = lvwDispozitii->topLevelItemCount();
     if (ramase > 0) lvwDispozitii->setCurrentItem(lvwDispozitii->topLevelItem(std::min(index, ramase - 1)));
-    cmdDelDisp->setEnabled(ramase > 0);
+    for (QPushButton* b : {cmdEditDisp, cmdDelDisp, cmdPrintDisp})
+        b->setEnabled(ramase > 0);
 }
 
 void frmMain::cmdAdd_Click() {
@@ -703,6 +906,9 @@ bool frmMain::eventFilter(QObject* obiect, QEvent* e) {
         }
     } else if (e->type() == QEvent::MouseButtonRelease && obiect == sbrMain[2]) {
         ArataLunaLucru(false);
+        return true;
+    } else if (e->type() == QEvent::MouseButtonRelease && obiect == picNotific) {
+        picNotific_Click();
         return true;
     }
     return QMainWindow::eventFilter(obiect, e);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/DeschideDocument.h"
 #include "shell/ListaCereri.h"
 
 #include <QDialog>
@@ -20,6 +21,8 @@ class QTableView;
 class QTabWidget;
 class QTimer;
 class QTreeWidget;
+class UiDataOptionala;
+struct TiparireDocumente;
 
 // The one top-level window: the search and the request list above, the lists of the selected
 // request below, the menus and the status bar.
@@ -39,7 +42,15 @@ public:
     int RandSelectat() const;
     void ScrieLunaActiva();
     void ListaDispozitii(qint64 cerereID);
+    void cmdAddDisp_Click();
+    void cmdEditDisp_Click();
     void cmdDelDisp_Click();
+    void cmdPrintDisp_Click();
+    void cmdFisaCalcul_Click();
+    void cmdDeclaratie_Click();
+    void mnuToateDisp_Click();
+    void mnuAnexa2_Click();
+    void picNotific_Click();
     void ListaAnchete(qint64 cerereID);
     void cmdAddAncheta_Click();
     void cmdEditAncheta_Click();
@@ -48,6 +59,10 @@ public:
 
     // Shows a modal dialog; tests replace it to fill the dialog and press its buttons.
     std::function<int(QDialog&)> ArataModal = [](QDialog& d) { return d.exec(); };
+    // How written documents reach the word processor; tests replace it so that nothing starts.
+    MediuDeschidere MediuDocumente;
+    // Set by a click on "Opreste tiparirea" while the dispositions are being printed.
+    bool StopTiparire = false;
     void TimerMSG_UPD_Timer();
 
     ModelCereri* model() const { return model_; }
@@ -61,6 +76,10 @@ public:
     QPushButton* cmdEdit = nullptr;
     QPushButton* cmdDelete = nullptr;
     QPushButton* cmdSelect = nullptr;
+    QPushButton* cmdCerere = nullptr;
+    QPushButton* cmdDeclaratie = nullptr;
+    QPushButton* cmdFisaCalcul = nullptr;
+    UiDataOptionala* dtpDataFisa = nullptr; // "Data emiterii fisei"; empty: today
     QPushButton* cmdExit = nullptr;
     QLabel* lblRezul = nullptr;
     QTableView* lvwCereri = nullptr;
@@ -80,6 +99,8 @@ public:
     QPushButton* cmdDelDisp = nullptr;
     QPushButton* cmdPrintDisp = nullptr;
     QLabel* picNotific = nullptr;
+    QAction* mnuToateDisp = nullptr;
+    QAction* mnuAnexa2 = nullptr;
     std::array<QLabel*, 5> sbrMain{};
 
 protected:
@@ -101,6 +122,12 @@ private:
     void ArataLunaLucru(bool dinMeniu);
     void ArataNotificarea();
     void resizeEvent(QResizeEvent* e) override;
+    void TiparireToateDispozitiile(QAction* comanda, const QString& textInapoi);
+    TiparireDocumente Tiparire() const;
+    qint64 CerereSelectata() const;
+    qint64 DispozitieSelectata() const;
+    void SelecteazaDispozitia(qint64 dispozitieID);
+    void RescrieRandul(qint64 cerereID);
 
     Program& p_;
     Mesaje& m_;
