@@ -44,6 +44,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSplitter>
@@ -146,6 +147,8 @@ void frmMain::construiesteCautarea(QWidget* sus) {
     butoane->addWidget(lblDataFisa);
     dtpDataFisa = new UiDataOptionala(sus);
     dtpDataFisa->setObjectName(QStringLiteral("dtpDataFisa"));
+    // Empty, the sheet is dated the day it is printed; ticked, it starts from today.
+    dtpDataFisa->setData(Ceas::Azi());
     dtpDataFisa->setData(QDate());
     lblDataFisa->setBuddy(dtpDataFisa->editor());
     butoane->addWidget(dtpDataFisa);
@@ -153,6 +156,17 @@ void frmMain::construiesteCautarea(QWidget* sus) {
     buton(cmdExit, "cmdExit", QStringLiteral("Iesire"));
     cmdSelect->setEnabled(false);
     cmdCerere->setEnabled(false);
+    mnuCerere = new QMenu(QStringLiteral("Cerere"), cmdSelect);
+    mnuCerere->setObjectName(QStringLiteral("mnuCerere"));
+    const auto formular = [this](const char* nume, const QString& text, ComenziWeb::Comanda c) {
+        QAction* a = mnuCerere->addAction(text);
+        a->setObjectName(QString::fromLatin1(nume));
+        connect(a, &QAction::triggered, this, [this, c] { TiparesteWeb(c); });
+    };
+    formular("mnuAnexa1", QStringLiteral("Anexa 1"), ComenziWeb::Comanda::mnuAnexa1);
+    formular("mnuAnexa1a", QStringLiteral("Anexa 1a"), ComenziWeb::Comanda::mnuAnexa1a);
+    cmdSelect->setMenu(mnuCerere);
+    connect(cmdCerere, &QPushButton::clicked, this, [this] { TiparesteWeb(ComenziWeb::Comanda::cmdCerere); });
     connect(cmdFisaCalcul, &QPushButton::clicked, this, &frmMain::cmdFisaCalcul_Click);
     connect(cmdDeclaratie, &QPushButton::clicked, this, &frmMain::cmdDeclaratie_Click);
     connect(cmdAdd, &QPushButton::clicked, this, &frmMain::cmdAdd_Click);
@@ -261,6 +275,8 @@ void frmMain::construiesteListeleDeJos(QWidget* jos) {
         lvwDispozitii->setCurrentItem(i);
         cmdEditDisp_Click();
     });
+    connect(cmdPrintAncheta, &QPushButton::clicked, this,
+            [this] { TiparesteWeb(ComenziWeb::Comanda::cmdPrintAncheta); });
     connect(cmdAddAncheta, &QPushButton::clicked, this, &frmMain::cmdAddAncheta_Click);
     connect(cmdEditAncheta, &QPushButton::clicked, this, &frmMain::cmdEditAncheta_Click);
     connect(cmdDelAncheta, &QPushButton::clicked, this, &frmMain::cmdDelAncheta_Click);
@@ -324,10 +340,13 @@ void frmMain::construiesteMeniurile() {
     connect(meniu(dataGen, "mnuExit", QStringLiteral("Iesire"), true), &QAction::triggered, this, &frmMain::Iesire);
 
     QMenu* acte = meniuPrincipal("mnuActe", QStringLiteral("Acte"));
-    meniu(acte, "mnuCerereGoala", QStringLiteral("Listare Cerere Goala ..."), false);
-    meniu(acte, "mnucerereMod", QStringLiteral("Listare Cerere modificare Goala"), false);
-    meniu(acte, "mnuAnchetaGoala", QStringLiteral("Listare Ancheta Goala ..."), false);
-    meniu(acte, "mnuCerereSelectata", QStringLiteral("Listare Cerere Selectata ..."), false);
+    const auto web = [&](const char* nume, const QString& text, ComenziWeb::Comanda c) {
+        connect(meniu(acte, nume, text, true), &QAction::triggered, this, [this, c] { TiparesteWeb(c); });
+    };
+    web("mnuCerereGoala", QStringLiteral("Listare Cerere Goala ..."), ComenziWeb::Comanda::mnuCerereGoala);
+    web("mnucerereMod", QStringLiteral("Listare Cerere modificare Goala"), ComenziWeb::Comanda::mnucerereMod);
+    web("mnuAnchetaGoala", QStringLiteral("Listare Ancheta Goala ..."), ComenziWeb::Comanda::mnuAnchetaGoala);
+    web("mnuCerereSelectata", QStringLiteral("Listare Cerere Selectata ..."), ComenziWeb::Comanda::mnuAnexa1);
 
     QMenu* baza = meniuPrincipal("mnuBazaDate", QStringLiteral("Baza date"));
     connect(meniu(baza, "mnuAdev", QStringLiteral("Adeverinte scolarizare..."), true), &QAction::triggered, this,
@@ -443,6 +462,8 @@ void frmMain::resizeEvent(QResizeEvent* e) {
 }
 
 void frmMain::TimerMSG_UPD_Timer() {
+    ActivareComenzi();
+    cmdPrintAncheta->setEnabled(cmdCerere->isEnabled());
     // The printed forms use this font.
     if (!FontInstalat(QStringLiteral("Monotype Corsiva")))
         m_.Informatie(QStringLiteral("Fontul 'Monotype Corsiva' nu este instalat."));
@@ -482,6 +503,7 @@ void frmMain::cmdCauta_Click() {
     } catch (const Eroare& e) {
         m_.Critic(e.text());
     }
+    ActivareComenzi();
     GolireFiltre();
     QApplication::restoreOverrideCursor();
 }
@@ -639,6 +661,35 @@ void frmMain::cmdDeclaratie_Click() {
     } catch (const Eroare& e) {
         m_.Critic(e.text());
     }
+}
+
+void frmMain::ActivareComenzi() {
+    ComenziWeb::StareComenzi s;
+    s.cmdEdit = cmdEdit->isEnabled();
+    s.cmdDelete = cmdDelete->isEnabled();
+    s.cmdCerere = cmdCerere->isEnabled();
+    s.cmdSelect = cmdSelect->isEnabled();
+    s.cmdPrintAncheta = cmdPrintAncheta->isEnabled();
+    s.cmdFisaCalcul = cmdFisaCalcul->isEnabled();
+    s.cmdAddAncheta = cmdAddAncheta->isEnabled();
+    s.cmdAddDisp = cmdAddDisp->isEnabled();
+    const auto mediu = PunteWeb::MediuWeb::DinApplicationPath(p_.applicationPath, p_.setari.ServerCerere);
+    s = ComenziWeb::ActivareComenzi(model_->rowCount(), s, ComenziWeb::FisiereWebExista(mediu));
+    cmdEdit->setEnabled(s.cmdEdit);
+    cmdDelete->setEnabled(s.cmdDelete);
+    cmdCerere->setEnabled(s.cmdCerere);
+    cmdSelect->setEnabled(s.cmdSelect);
+    cmdPrintAncheta->setEnabled(s.cmdPrintAncheta);
+    cmdFisaCalcul->setEnabled(s.cmdFisaCalcul);
+    cmdAddAncheta->setEnabled(s.cmdAddAncheta);
+    cmdAddDisp->setEnabled(s.cmdAddDisp);
+}
+
+void frmMain::TiparesteWeb(ComenziWeb::Comanda c) {
+    const auto mediu = PunteWeb::MediuWeb::DinApplicationPath(p_.applicationPath, p_.setari.ServerCerere);
+    const auto pagina = ComenziWeb::Tipareste(p_.bd, mediu, c, CerereSelectata(), m_);
+    // A browser that does not start leaves nothing to tell: the page simply does not appear.
+    if (pagina) DeschidePagina(*pagina);
 }
 
 void frmMain::mnuAnexa2_Click() {
@@ -805,6 +856,8 @@ void frmMain::cmdAdd_Click() {
         model_->Adauga(r);
         lblRezul->setText(ListaCereri::TextRezultat(model_->rowCount()));
         SelecteazaRand(model_->rowCount() - 1);
+        // The first request of an empty list brings its commands on.
+        ActivareComenzi();
         lvwCereri->setFocus();
     } catch (const Eroare& e) {
         m_.Critic(e.text());
@@ -862,6 +915,7 @@ void frmMain::cmdDelete_Click() {
     SelecteazaRand(std::min(rand, model_->rowCount() - 1));
     lblRezul->setText(model_->rowCount() == 0 ? QStringLiteral("0 cereri")
                                               : QStringLiteral("%1 cereri").arg(model_->rowCount()));
+    ActivareComenzi();
 }
 
 void frmMain::ArataLunaLucru(bool dinMeniu) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/ComenziWeb.h"
 #include "documents/DeschideDocument.h"
 #include "shell/ListaCereri.h"
 
@@ -14,6 +15,7 @@ struct Program;
 class QAction;
 class QComboBox;
 class QLabel;
+class QMenu;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
@@ -51,6 +53,10 @@ public:
     void mnuToateDisp_Click();
     void mnuAnexa2_Click();
     void picNotific_Click();
+    // The forms printed by the web page: the selected request's, or a blank one.
+    void TiparesteWeb(ComenziWeb::Comanda c);
+    // The commands that follow the request list, and the web ones only while the page is there.
+    void ActivareComenzi();
     void ListaAnchete(qint64 cerereID);
     void cmdAddAncheta_Click();
     void cmdEditAncheta_Click();
@@ -61,6 +67,8 @@ public:
     std::function<int(QDialog&)> ArataModal = [](QDialog& d) { return d.exec(); };
     // How written documents reach the word processor; tests replace it so that nothing starts.
     MediuDeschidere MediuDocumente;
+    // Opens the web page in the browser; tests replace it so that nothing starts.
+    std::function<bool(const PunteWeb::PaginaWeb&)> DeschidePagina = PunteWeb::DeschidePagina;
     // Set by a click on "Opreste tiparirea" while the dispositions are being printed.
     bool StopTiparire = false;
     void TimerMSG_UPD_Timer();
@@ -101,6 +109,7 @@ public:
     QLabel* picNotific = nullptr;
     QAction* mnuToateDisp = nullptr;
     QAction* mnuAnexa2 = nullptr;
+    QMenu* mnuCerere = nullptr; // the pop-up of cmdSelect
     std::array<QLabel*, 5> sbrMain{};
 
 protected:

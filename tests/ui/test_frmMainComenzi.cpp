@@ -188,6 +188,12 @@ TEST_P(ComenziFereastra, AdaugareaDispozitieiRefuzaInOrdineApoiDeschideEditorul)
     ASSERT_NE(f.lvwDispozitii->currentItem(), nullptr);
     EXPECT_EQ(f.lvwDispozitii->currentItem()->text(1), QStringLiteral("46"));
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii WHERE CerereID = 7 AND NrDisp = 46")), 1);
+
+    const QString capturi = qEnvironmentVariable("FEROLANTA_CAPTURI");
+    if (!capturi.isEmpty() && GetParam() == Motor::SQLite) {
+        f.opt->setCurrentIndex(3);
+        EXPECT_TRUE(f.grab().save(QDir(capturi).filePath(QStringLiteral("frmMain_dispozitii.png"))));
+    }
 }
 
 TEST_P(ComenziFereastra, ModificareaDispozitieiSiButoaneleCareMergImpreuna) {
@@ -428,6 +434,11 @@ TEST_P(ComenziFereastra, NotificareaDeschideListaActelorSiCerereaPePersoana) {
     setari.NotificareActe = true;
     frmMain& f = Deschide();
     ASSERT_TRUE(f.picNotific->isVisible());
+    const QString capturi = qEnvironmentVariable("FEROLANTA_CAPTURI");
+    if (!capturi.isEmpty() && GetParam() == Motor::SQLite) {
+        QTest::qWait(2500); // the notice slides in
+        EXPECT_TRUE(f.grab().save(QDir(capturi).filePath(QStringLiteral("frmMain_notificare.png"))));
+    }
 
     // A double click in the list opens the request editor on that request, with its person.
     int editoare = 0;
