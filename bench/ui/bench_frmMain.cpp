@@ -1,0 +1,117 @@
+#include "Comun.h"
+
+#include "cases/Dispozitii.h"
+#include "cases/frmAnexa2.h"
+#include "shell/ModelCereri.h"
+#include "shell/Program.h"
+#include "shell/Setari.h"
+#include "shell/frmMain.h"
+#include "store/BazaDate.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+#include <benchmark/benchmark.h>
+
+// The main window's print commands on the demo database of 100,000 requests (SQLite, a copy with
+// the town hall's row), the documents written into a data folder with the delivered templates and
+// handed to a recorder instead of a word processor:
+//   RandSiDispozitie   a request selected (its inquiries and dispositions listed) and its newest
+//                      disposition printed through cmdPrintDisp. Budget: 50 ms.
+//   TiparireLuna       mnuAnexa2 on the month with most grants: the selection and one Disp.rtf of
+//                      all of them. Budget: 5 s.
+//   ferolanta_bench_ui --benchmark_filter='RandSiDispozitie|TiparireLuna'
+
+namespace {
+
+constexpr int Cereri = 100000;
+
+struct Fereastra {
+    std::unique_ptr<BazaDate> db;
+    QTemporaryDir folder;
+    Setari setari;
+    std::unique_ptr<Program> program;
+    MesajeTacute m;
+    std::unique_ptr<frmMain> f;
+    qint64 deschise = 0;
+
+    Fereastra() {
+        db = BazaDate::Deschide(BazaDemoSQLite(Cereri, true));
+        Interogare(*db, QStringLiteral("DELETE FROM DatePrimarie")).Executa();
+        Interogare(*db, QStringLiteral("INSERT INTO DatePrimarie (Denumire, Judet, Localitate, Primar, Secretar, "
+                                       "TipLocalitate) VALUES (?, ?, ?, ?, ?, 1)"))
+            .Leaga(QStringLiteral("Primaria Comunei Branesti"))
+            .Leaga(QStringLiteral("Ilfov"))
+            .Leaga(QStringLiteral("Branesti"))
+            .Leaga(QStringLiteral("Ion Ionescu"))
+            .Leaga(QStringLiteral("Maria Georgescu"))
+            .Executa();
+        QDir(folder.path()).mkpath(QStringLiteral("Acte"));
+        const QDir acte(QStringLiteral(FEROLANTA_SURSA "/Acte"));
+        for (const QString& s : acte.entryList({QStringLiteral("*.rtf")}, QDir::Files))
+            QFile::copy(acte.filePath(s), QDir(folder.path()).filePath(QStringLiteral("Acte/") + s));
+        program = std::make_unique<Program>(Program{*db, setari, folder.path()});
+        f = std::make_unique<frmMain>(*program, m);
+        f->MediuDocumente.DeschideImplicit = [this](const QUrl&) {
+            ++deschise;
+            return true;
+        };
+    }
+};
+
+void RandSiDispozitie(benchmark::State& st) {
+    Fereastra e;
+    const int randuri = e.f->model()->rowCount();
+    if (randuri == 0) {
+        st.SkipWithError("lista de cereri e goala");
+        return;
+    }
+    qint64 pas = 0, tiparite = 0;
+    for (auto _ : st) {
+        // Spread over the list, so that no page stays warm by accident.
+        e.f->SelecteazaRand(int((pas++ * 7919) % randuri));
+        const qint64 inainte = e.deschise;
+        e.f->cmdPrintDisp_Click();
+        tiparite += e.deschise - inainte;
+    }
+    // Requests without a disposition, or without children, print nothing: the share that did.
+    st.counters["tiparite"] = double(tiparite) / double(std::max<qint64>(pas, 1));
+}
+
+void TiparireLuna(benchmark::State& st) {
+    Fereastra e;
+    Interogare q(*e.db, QStringLiteral("SELECT D.An, D.Luna, COUNT(*) FROM Dispozitii D INNER JOIN Cereri C ON "
+                                       "C.CerereID = D.CerereID WHERE D.Actiune = 1 AND C.TipCerere = 1 AND "
+                                       "C.NrCopii > 0 GROUP BY D.An, D.Luna ORDER BY COUNT(*) DESC"));
+    q.Executa();
+    if (!q.Urmator()) {
+        st.SkipWithError("nicio acordare in baza demonstrativa");
+        return;
+    }
+    e.setari.AnSetat = std::int16_t(q.Intreg(0));
+    const int luna = int(q.Intreg(1));
+    e.f->ArataModal = [luna](QDialog& d) {
+        auto& x = static_cast<frmAnexa2&>(d);
+        x.cboCerere[0]->setCurrentIndex(x.cboCerere[0]->findData(1));
+        x.cboTipDisp->setCurrentIndex(x.cboTipDisp->findData(1));
+        x.cboLuna->setCurrentIndex(x.cboLuna->findData(luna));
+        x.txtDispozitieMin->setText(QStringLiteral("0"));
+        x.txtDispozitieMax->setText(QStringLiteral("999999999"));
+        x.cmdOK_Click();
+        return x.result();
+    };
+    for (auto _ : st)
+        e.f->mnuAnexa2_Click();
+    if (e.deschise != qint64(st.iterations())) st.SkipWithError("documentul nu s-a deschis la fiecare rulare");
+    st.counters["dispozitii"] = double(q.Intreg(2));
+    st.counters["MB"] = double(QFileInfo(QDir(e.folder.path()).filePath(QStringLiteral("Disp.rtf"))).size()) / 1e6;
+}
+
+} // namespace
+
+BENCHMARK(RandSiDispozitie)->Unit(benchmark::kMillisecond);
+BENCHMARK(TiparireLuna)->Unit(benchmark::kMillisecond);
