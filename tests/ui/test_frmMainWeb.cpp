@@ -120,6 +120,10 @@ TEST_P(FereastraWeb, ComenzileDauPaginiiDocumentulSiCererea) {
     f.TimerMSG_UPD_Timer(); // the web commands come on with the list
     mesaje.mesaje.clear();  // the font of the printed forms may be missing here
     ASSERT_TRUE(f.cmdCerere->isEnabled());
+    const QString capturi = qEnvironmentVariable("FEROLANTA_CAPTURI");
+    if (!capturi.isEmpty() && GetParam() == Motor::SQLite) {
+        EXPECT_TRUE(f.grab().save(QDir(capturi).filePath(QStringLiteral("frmMain_web.png"))));
+    }
     ASSERT_EQ(f.cmdSelect->menu(), f.mnuCerere);
     QAction* anexa1 = f.mnuCerere->findChild<QAction*>(QStringLiteral("mnuAnexa1"));
     QAction* anexa1a = f.mnuCerere->findChild<QAction*>(QStringLiteral("mnuAnexa1a"));
