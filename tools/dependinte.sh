@@ -6,7 +6,7 @@ PACHETE=(
     qt6-base-dev libqt6sql6-sqlite libqt6sql6-psql libgl-dev
     libsimpleini-dev libsodium-dev
     libgtest-dev libgmock-dev libbenchmark-dev
-    postgresql sqlite3 xvfb xauth e2fsprogs
+    postgresql sqlite3 xvfb xauth
     chromium chromium-driver
 )
 lipsa=()

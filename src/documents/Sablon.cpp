@@ -131,7 +131,7 @@ bool ScrieDocument(const QString& cale, const QByteArray& continut, const QStrin
     const QFileDevice::FileError eroare = f.error();
     f.cancelWriting();
     const QFileInfo fi(cale);
-    if (fi.exists() && (!fi.isWritable() || eroare == QFileDevice::PermissionsError ||
+    if (fi.exists() && (fi.isDir() || !fi.isWritable() || eroare == QFileDevice::PermissionsError ||
                         eroare == QFileDevice::RenameError || eroare == QFileDevice::OpenError)) {
         m.Avertisment(mesajDeschis);
         return false;

@@ -17,7 +17,6 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProcess>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
@@ -113,18 +112,16 @@ protected:
 
     // A file that cannot be written, as one that the word processor holds open. Its permissions
     // do not stop the superuser, for whom the file is made immutable instead.
+    // A document that can't be written over, as when the word processor still holds it: a folder
+    // in its place refuses the write even to root, on any file system.
     void Blocheaza(const QString& cale) {
-        ASSERT_TRUE(QFile::setPermissions(cale, QFile::ReadOwner | QFile::ReadUser));
-        if (QFileInfo(cale).isWritable()) {
-            ASSERT_EQ(QProcess::execute(QStringLiteral("chattr"), {QStringLiteral("+i"), cale}), 0)
-                << "no way to make a file unwritable here";
-            blocat = cale;
-        }
-        ASSERT_FALSE(QFileInfo(cale).isWritable());
+        ASSERT_TRUE(!QFileInfo::exists(cale) || QFile::remove(cale));
+        ASSERT_TRUE(QDir().mkdir(cale));
+        blocat = cale;
     }
     void Deblocheaza() {
         if (blocat.isEmpty()) return;
-        QProcess::execute(QStringLiteral("chattr"), {QStringLiteral("-i"), blocat});
+        QDir(blocat).removeRecursively();
         blocat.clear();
     }
 
@@ -272,7 +269,6 @@ TEST_P(ComenziFereastra, TiparireaDispozitieiScrieDispRtfSiIlDeschide) {
     EXPECT_EQ(m.Texte(), QStringList{QStringLiteral("Inchideti documentul deschis anterior!")});
     EXPECT_TRUE(deschise.isEmpty());
     Deblocheaza();
-    ASSERT_TRUE(QFile::remove(Cale(QStringLiteral("Disp.rtf"))));
 
     // A kind without a template: nothing said, nothing written.
     Interogare(Bd(), QStringLiteral("UPDATE Dispozitii SET Actiune = 9")).Executa();
