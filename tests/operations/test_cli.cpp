@@ -1,4 +1,4 @@
-#include "operations/ComenziCli.h"
+#include "operations/CliTest.h"
 #include "support/BazaTest.h"
 
 #include <QDir>
@@ -6,54 +6,34 @@
 
 namespace {
 
-struct Iesire {
-    int cod;
-    QString out, err;
-};
-
-Iesire ruleaza(QStringList argumente) {
-    QString out, err;
-    QTextStream o(&out), e(&err);
-    argumente.prepend(QStringLiteral("ferolanta-cli"));
-    const int cod = RuleazaCli(argumente, o, e);
-    return {cod, out, err};
-}
-
-class Cli : public TestBaza {
-protected:
-    QStringList Loc() const {
-        QStringList a{QStringLiteral("--dir"), Locatie().caleBD};
-        if (!Locatie().url.isEmpty()) a << QStringLiteral("--db") << Locatie().url;
-        return a;
-    }
-};
+class Cli : public TestCli {};
 
 TEST_P(Cli, InitApoiUpgradeFaraSchimbari) {
-    const Iesire init = ruleaza(QStringList{QStringLiteral("init")} + Loc());
+    const IesireCli init = Ruleaza(QStringList{QStringLiteral("init")});
     ASSERT_EQ(init.cod, 0) << init.err.toStdString();
     EXPECT_TRUE(init.out.contains(QStringLiteral("Baza de date a fost creata")));
     for (const char* f : {"venituri.txt", "bife.txt", "acte.txt"})
         EXPECT_TRUE(QFile::exists(QDir(Locatie().caleBD).filePath(QString::fromLatin1(f)))) << f;
 
-    const Iesire upgrade = ruleaza(QStringList{QStringLiteral("upgrade")} + Loc());
+    const IesireCli upgrade = Ruleaza(QStringList{QStringLiteral("upgrade")});
     EXPECT_EQ(upgrade.cod, 0) << upgrade.err.toStdString();
     EXPECT_EQ(upgrade.out, QString());
     EXPECT_EQ(upgrade.err, QString());
 
-    const Iesire iar = ruleaza(QStringList{QStringLiteral("init")} + Loc());
+    const IesireCli iar = Ruleaza(QStringList{QStringLiteral("init")});
     EXPECT_EQ(iar.cod, 1);
     EXPECT_TRUE(iar.err.startsWith(QStringLiteral("Exista deja o baza de date"))) << iar.err.toStdString();
 }
 
 TEST_P(Cli, UpgradeSpuneCeSchimbaSiEsueazaCuCatalogLipsa) {
-    ASSERT_EQ(ruleaza(QStringList{QStringLiteral("init")} + Loc()).cod, 0);
+    ASSERT_EQ(Ruleaza(QStringList{QStringLiteral("init")}).cod, 0);
     {
         auto db = BazaDate::Deschide(Locatie());
         db->Executa(QStringLiteral("DELETE FROM ListaActe WHERE NrAct = 28"));
         db->Executa(QStringLiteral("DELETE FROM DateGen WHERE Tip = 34 AND DataID = 4"));
     }
     QFile::remove(QDir(Locatie().caleBD).filePath(QStringLiteral("acte.txt")));
-    const Iesire r = ruleaza(QStringList{QStringLiteral("upgrade")} + Loc());
+    const IesireCli r = Ruleaza(QStringList{QStringLiteral("upgrade")});
     EXPECT_EQ(r.cod, 1);
     EXPECT_TRUE(r.out.contains(QStringLiteral("DateGen: adaugat Tip 34 DataID 4 EURO"))) << r.out.toStdString();
     EXPECT_TRUE(r.out.contains(QStringLiteral("In tabela Acte exista 27 randuri")));
@@ -74,7 +54,7 @@ TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
         {QStringLiteral("init"), QStringLiteral("upgrade")},
     };
     for (const auto& c : cazuri) {
-        const Iesire r = ruleaza(c);
+        const IesireCli r = RuleazaLinie(c);
         EXPECT_EQ(r.cod, 2) << c.join(' ').toStdString();
         EXPECT_EQ(r.err.count(QLatin1Char('\n')), 1) << r.err.toStdString();
         EXPECT_TRUE(r.err.contains(QStringLiteral("utilizare: ferolanta-cli"))) << r.err.toStdString();
@@ -84,8 +64,8 @@ TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
 
 TEST(CliArgumente, FolderLipsaSauFisierStraindauCodul1) {
     QTemporaryDir dir;
-    const Iesire lipsa =
-        ruleaza({QStringLiteral("init"), QStringLiteral("--dir"), dir.filePath(QStringLiteral("nu-exista"))});
+    const IesireCli lipsa =
+        RuleazaLinie({QStringLiteral("init"), QStringLiteral("--dir"), dir.filePath(QStringLiteral("nu-exista"))});
     EXPECT_EQ(lipsa.cod, 1);
     EXPECT_TRUE(lipsa.err.contains(QStringLiteral("nu-exista"))) << lipsa.err.toStdString();
 
@@ -93,13 +73,13 @@ TEST(CliArgumente, FolderLipsaSauFisierStraindauCodul1) {
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.write("acesta nu este un fisier SQLite, ci o scrisoare\n");
     f.close();
-    const Iesire strain = ruleaza({QStringLiteral("upgrade"), QStringLiteral("--dir"), dir.path()});
+    const IesireCli strain = RuleazaLinie({QStringLiteral("upgrade"), QStringLiteral("--dir"), dir.path()});
     EXPECT_EQ(strain.cod, 1);
     EXPECT_TRUE(strain.err.contains(QStringLiteral("Ferolanta.db"))) << strain.err.toStdString();
     EXPECT_EQ(f.size(), 48) << "the foreign file is left as it was";
 
-    const Iesire faraBaza =
-        ruleaza({QStringLiteral("upgrade"), QStringLiteral("--dir"), dir.filePath(QStringLiteral("gol"))});
+    const IesireCli faraBaza =
+        RuleazaLinie({QStringLiteral("upgrade"), QStringLiteral("--dir"), dir.filePath(QStringLiteral("gol"))});
     EXPECT_EQ(faraBaza.cod, 1);
 }
 

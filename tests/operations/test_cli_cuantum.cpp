@@ -1,5 +1,5 @@
 #include "cases/SalvareCerere.h"
-#include "operations/ComenziCli.h"
+#include "operations/CliTest.h"
 #include "shell/Ceas.h"
 #include "store/Demo.h"
 #include "support/BazaTest.h"
@@ -11,32 +11,14 @@
 
 namespace {
 
-struct Iesire {
-    int cod;
-    QString out, err;
-};
-
-Iesire ruleaza(QStringList argumente) {
-    QString out, err;
-    QTextStream o(&out), e(&err);
-    argumente.prepend(QStringLiteral("ferolanta-cli"));
-    const int cod = RuleazaCli(argumente, o, e);
-    return {cod, out, err};
-}
-
-class CliCuantum : public TestBaza {
+class CliCuantum : public TestCli {
 protected:
     void TearDown() override {
         Ceas::SeteazaAzi(QDate());
         TestBaza::TearDown();
     }
-    QStringList Loc() const {
-        QStringList a{QStringLiteral("--dir"), Locatie().caleBD};
-        if (!Locatie().url.isEmpty()) a << QStringLiteral("--db") << Locatie().url;
-        return a;
-    }
-    Iesire Cuantum(qint64 id, QStringList extra = {}) {
-        return ruleaza(QStringList{QStringLiteral("cuantum"), QString::number(id)} + extra + Loc());
+    IesireCli Cuantum(qint64 id, QStringList extra = {}) {
+        return Ruleaza(QStringList{QStringLiteral("cuantum"), QString::number(id)} + extra);
     }
 };
 
@@ -81,8 +63,8 @@ TEST_P(CliCuantum, PeDateDemoRegasesteCuantumulSalvat) {
     int cuSuma = 0;
     for (const Cerere& c : cereri) {
         SCOPED_TRACE(c.id);
-        const Iesire r = Cuantum(c.id, {QStringLiteral("--luna"), QString::number(c.dataStare.month()),
-                                        QStringLiteral("--an"), QString::number(c.dataStare.year())});
+        const IesireCli r = Cuantum(c.id, {QStringLiteral("--luna"), QString::number(c.dataStare.month()),
+                                           QStringLiteral("--an"), QString::number(c.dataStare.year())});
         ASSERT_EQ(r.cod, 0) << r.err.toStdString();
         const QStringList parti = r.out.trimmed().split(u' ');
         ASSERT_EQ(parti.size(), 2) << r.out.toStdString();
@@ -117,7 +99,7 @@ TEST_P(CliCuantum, LunaDeLucruDinArgumenteSetariSauAzi) {
     const QString avertisment =
         QStringLiteral("Numarul de copii salvati in baza de date este diferit\nsi se va recalcula.\n");
 
-    Iesire r =
+    IesireCli r =
         Cuantum(1, {QStringLiteral("--luna"), QStringLiteral("3"), QStringLiteral("--an"), QStringLiteral("2015")});
     EXPECT_EQ(r.cod, 0);
     EXPECT_EQ(r.out, martie);
@@ -169,7 +151,7 @@ TEST(CliCuantumArgumente, ArgumenteGresiteDauCodul2) {
     QTemporaryDir dir;
     for (QStringList c : cazuri) {
         c << QStringLiteral("--dir") << dir.path();
-        const Iesire r = ruleaza(c);
+        const IesireCli r = RuleazaLinie(c);
         EXPECT_EQ(r.cod, 2) << c.join(' ').toStdString();
         EXPECT_EQ(r.err.count(QLatin1Char('\n')), 1) << r.err.toStdString();
         EXPECT_TRUE(r.err.contains(QStringLiteral("cuantum ID [--luna L --an A]"))) << r.err.toStdString();

@@ -1,6 +1,6 @@
 #include "documents/DateDocumenteTest.h"
 #include "documents/Sablon.h"
-#include "operations/ComenziCli.h"
+#include "operations/CliTest.h"
 #include "shell/Ceas.h"
 #include "support/BazaTest.h"
 
@@ -8,26 +8,13 @@
 
 namespace {
 
-struct Iesire {
-    int cod;
-    QString out, err;
-};
-
-Iesire ruleaza(QStringList argumente) {
-    QString out, err;
-    QTextStream o(&out), e(&err);
-    argumente.prepend(QStringLiteral("ferolanta-cli"));
-    const int cod = RuleazaCli(argumente, o, e);
-    return {cod, out, err};
-}
-
-class CliDocument : public TestBaza {
+class CliDocument : public TestCli {
 protected:
     void SetUp() override {
         TestBaza::SetUp();
         if (IsSkipped()) return;
         Ceas::SeteazaAzi(QDate(2025, 6, 2));
-        ASSERT_EQ(ruleaza(QStringList{QStringLiteral("init")} + Loc()).cod, 0);
+        ASSERT_EQ(Ruleaza(QStringList{QStringLiteral("init")}).cod, 0);
         auto db = BazaDate::Deschide(Locatie());
         ScriePrimarie(*db, PrimarieA());
         ScrieCerere(*db, CerereA());
@@ -41,11 +28,6 @@ protected:
         Ceas::SeteazaAzi(QDate());
         TestBaza::TearDown();
     }
-    QStringList Loc() const {
-        QStringList a{QStringLiteral("--dir"), Locatie().caleBD};
-        if (!Locatie().url.isEmpty()) a << QStringLiteral("--db") << Locatie().url;
-        return a;
-    }
     QString In(const char* nume) const { return iesiri.filePath(QString::fromLatin1(nume)); }
 
     QTemporaryDir iesiri;
@@ -53,8 +35,8 @@ protected:
 };
 
 TEST_P(CliDocument, ScrieCeleTreiDocumenteCuNumeleLorFixe) {
-    const Iesire d =
-        ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("dispozitie"), QStringLiteral("3")} + Loc());
+    const IesireCli d =
+        Ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("dispozitie"), QStringLiteral("3")});
     ASSERT_EQ(d.cod, 0) << d.err.toStdString();
     EXPECT_EQ(d.out, QStringLiteral("Documentul a fost scris: %1\n").arg(QDir::toNativeSeparators(In("Disp.rtf"))));
     const QByteArray disp = CitesteTot(In("Disp.rtf"));
@@ -63,15 +45,14 @@ TEST_P(CliDocument, ScrieCeleTreiDocumenteCuNumeleLorFixe) {
     EXPECT_TRUE(disp.contains("{\\b Popa Vasile}, CNP 1850312410015"));
     EXPECT_TRUE(disp.contains("{\\b 82 lei}"));
 
-    const Iesire f = ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("fisa"), QStringLiteral("7"),
-                                         QStringLiteral("--data"), QStringLiteral("15.06.2025")} +
-                             Loc());
+    const IesireCli f = Ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("fisa"), QStringLiteral("7"),
+                                            QStringLiteral("--data"), QStringLiteral("15.06.2025")});
     ASSERT_EQ(f.cod, 0) << f.err.toStdString();
     EXPECT_TRUE(CitesteTot(In("FisaCerere.rtf")).contains("15.06.2025"));
 
-    const Iesire c = ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("declaratie"), QStringLiteral("7"),
-                                         QStringLiteral("--out"), QStringLiteral("alt/../d.rtf")} +
-                             Loc());
+    const IesireCli c =
+        Ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("declaratie"), QStringLiteral("7"),
+                            QStringLiteral("--out"), QStringLiteral("alt/../d.rtf")});
     ASSERT_EQ(c.cod, 0) << c.err.toStdString();
     EXPECT_FALSE(QFile::exists(In("Declar.rtf")));
     EXPECT_TRUE(CitesteTot(In("d.rtf")).contains("Ionescu Dan"));
@@ -86,10 +67,9 @@ TEST_P(CliDocument, SetarileFolderuluiBazeiSiSablonulDat) {
     ASSERT_TRUE(s.open(QIODevice::WriteOnly));
     s.write("{\\rtf1{\\pntxta )}}#Motiv#|#Adresa#}\r\n");
     s.close();
-    const Iesire r =
-        ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("dispozitie"), QStringLiteral("3"),
-                            QStringLiteral("--sablon"), In("s.rtf"), QStringLiteral("--out"), In("m.rtf")} +
-                Loc());
+    const IesireCli r =
+        Ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("dispozitie"), QStringLiteral("3"),
+                            QStringLiteral("--sablon"), In("s.rtf"), QStringLiteral("--out"), In("m.rtf")});
     ASSERT_EQ(r.cod, 0) << r.err.toStdString();
     EXPECT_EQ(CitesteTot(In("m.rtf")), "{\\rtf1{\\pntxta )}}Motiv din cerere|" +
                                            TextRtf(U("Brănești, sat Florilor, nr. 12, sc. B, ap. 4")) + "}");
@@ -112,7 +92,7 @@ TEST_P(CliDocument, EsecurileSpunDeCeSiNuScriuNimic) {
          QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!\n")},
     };
     for (const auto& c : cazuri) {
-        const Iesire r = ruleaza(QStringList{QStringLiteral("document")} + c.argumente + Loc());
+        const IesireCli r = Ruleaza(QStringList{QStringLiteral("document")} + c.argumente);
         EXPECT_EQ(r.cod, 1) << c.argumente.join(u' ').toStdString();
         EXPECT_EQ(r.err, c.eroare);
         EXPECT_EQ(r.out, QString());
@@ -121,8 +101,8 @@ TEST_P(CliDocument, EsecurileSpunDeCeSiNuScriuNimic) {
         auto db = BazaDate::Deschide(Locatie());
         Interogare(*db, QStringLiteral("UPDATE Dispozitii SET Actiune = 0")).Executa();
     }
-    const Iesire r =
-        ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("dispozitie"), QStringLiteral("3")} + Loc());
+    const IesireCli r =
+        Ruleaza(QStringList{QStringLiteral("document"), QStringLiteral("dispozitie"), QStringLiteral("3")});
     EXPECT_EQ(r.cod, 1);
     EXPECT_TRUE(r.err.startsWith(QStringLiteral("Dispozitia 3 are un tip (Actiune)"))) << r.err.toStdString();
     EXPECT_EQ(QDir(iesiri.path()).entryList(QDir::Files), QStringList{QStringLiteral("fara.rtf")});
@@ -145,7 +125,7 @@ TEST(CliDocumentArgumente, ArgumenteGresiteDauCodul2) {
         {QStringLiteral("init"), QStringLiteral("--out"), QStringLiteral("x.rtf")},
     };
     for (const auto& c : cazuri) {
-        const Iesire r = ruleaza(c);
+        const IesireCli r = RuleazaLinie(c);
         EXPECT_EQ(r.cod, 2) << c.join(u' ').toStdString();
         EXPECT_EQ(r.err.count(QLatin1Char('\n')), 1) << r.err.toStdString();
         EXPECT_TRUE(r.err.contains(QStringLiteral("utilizare: ferolanta-cli"))) << r.err.toStdString();

@@ -1,4 +1,4 @@
-#include "operations/ComenziCli.h"
+#include "operations/CliTest.h"
 #include "operations/PunteWebTest.h"
 #include "support/BazaTest.h"
 
@@ -6,41 +6,22 @@
 
 namespace {
 
-struct Iesire {
-    int cod;
-    QString out, err;
-};
-
-Iesire ruleaza(QStringList argumente) {
-    QString out, err;
-    QTextStream o(&out), e(&err);
-    argumente.prepend(QStringLiteral("ferolanta-cli"));
-    const int cod = RuleazaCli(argumente, o, e);
-    return {cod, out, err};
-}
-
-class CliWeb : public TestBaza {
+class CliWeb : public TestCli {
 protected:
     void SetUp() override {
         TestBaza::SetUp();
         if (IsSkipped()) return;
-        ASSERT_EQ(ruleaza(QStringList{QStringLiteral("init")} + Loc()).cod, 0);
+        ASSERT_EQ(Ruleaza(QStringList{QStringLiteral("init")}).cod, 0);
         auto db = BazaDate::Deschide(Locatie());
         ScrieDosarWeb(*db);
-    }
-    QStringList Loc() const {
-        QStringList a{QStringLiteral("--dir"), Locatie().caleBD};
-        if (!Locatie().url.isEmpty()) a << QStringLiteral("--db") << Locatie().url;
-        return a;
     }
     QTemporaryDir iesiri;
 };
 
 TEST_P(CliWeb, ScrieDateleLangaOCopieAPaginiiSiTiparesteAdresa) {
     const QString folder = QDir(iesiri.path()).filePath(QStringLiteral("formulare"));
-    const Iesire r = ruleaza(QStringList{QStringLiteral("web"), QStringLiteral("cerere_1a"), QStringLiteral("7"),
-                                         QStringLiteral("--out"), folder} +
-                             Loc());
+    const IesireCli r = Ruleaza(QStringList{QStringLiteral("web"), QStringLiteral("cerere_1a"), QStringLiteral("7"),
+                                            QStringLiteral("--out"), folder});
     ASSERT_EQ(r.cod, 0) << r.err.toStdString();
     const QString pagina = QDir(folder).filePath(QStringLiteral("StartCerereWeb.html"));
     QUrl asteptat = QUrl::fromLocalFile(pagina);
@@ -57,9 +38,8 @@ TEST_P(CliWeb, ScrieDateleLangaOCopieAPaginiiSiTiparesteAdresa) {
     // The settings of the database folder go into the file, and a second run overwrites both files.
     ScrieText(QDir(Locatie().caleBD).filePath(QStringLiteral("setari207.ini")),
               QStringLiteral("[Generale]\nDataCerereTiparita=2\nNrCerereTiparita=1\nServerCerere=https://alt.ro/\n"));
-    const Iesire gol = ruleaza(QStringList{QStringLiteral("web"), QStringLiteral("ancheta"), QStringLiteral("0"),
-                                           QStringLiteral("--out"), folder} +
-                               Loc());
+    const IesireCli gol = Ruleaza(QStringList{QStringLiteral("web"), QStringLiteral("ancheta"), QStringLiteral("0"),
+                                              QStringLiteral("--out"), folder});
     ASSERT_EQ(gol.cod, 0) << gol.err.toStdString();
     EXPECT_EQ(CitesteText(QDir(folder).filePath(QStringLiteral("vb6_output.js"))),
               QStringLiteral("SETARI_INI='dct:2;nct:1;';\nlocation.hash='#ancheta_asf_vmg';SERVER_CERERE='https://"
@@ -67,9 +47,8 @@ TEST_P(CliWeb, ScrieDateleLangaOCopieAPaginiiSiTiparesteAdresa) {
 }
 
 TEST_P(CliWeb, CerereaCareNuExistaDaCodul1) {
-    const Iesire r = ruleaza(QStringList{QStringLiteral("web"), QStringLiteral("cerere"), QStringLiteral("404"),
-                                         QStringLiteral("--out"), iesiri.path()} +
-                             Loc());
+    const IesireCli r = Ruleaza(QStringList{QStringLiteral("web"), QStringLiteral("cerere"), QStringLiteral("404"),
+                                            QStringLiteral("--out"), iesiri.path()});
     EXPECT_EQ(r.cod, 1);
     EXPECT_EQ(r.err, QStringLiteral("Cererea cu ID-ul 404 nu exista in baza de date.\n"));
     EXPECT_TRUE(r.out.isEmpty());
@@ -91,7 +70,7 @@ TEST(CliWebArgumente, ArgumenteGresiteDauCodul2) {
         {QStringLiteral("upgrade"), QStringLiteral("--out"), QStringLiteral("x")},
     };
     for (const auto& c : cazuri) {
-        const Iesire r = ruleaza(c);
+        const IesireCli r = RuleazaLinie(c);
         EXPECT_EQ(r.cod, 2) << c.join(u' ').toStdString();
         EXPECT_EQ(r.err.count(QLatin1Char('\n')), 1) << r.err.toStdString();
         EXPECT_TRUE(r.err.contains(QStringLiteral("utilizare: ferolanta-cli"))) << r.err.toStdString();
