@@ -140,23 +140,10 @@ inline QString AspecteAncheta() {
 
 inline void ScrieDosarWeb(BazaDate& db) {
     ScriePrimarie(db, PrimarieA());
-    CerereDocTest c;
-    c.CerereID = 7;
-    c.NrCerere = 125;
-    c.DataCerere = QDate(2015, 2, 10);
-    c.TipCerere = 1;
-    c.NrMembrii = 3;
-    c.NrCopii = 1;
-    c.VenitTotal = Suma("1200.5");
+    CerereDocTest c = CerereA();
     c.VenitpeMembru = Suma("400.1667");
     c.Cuantum = Suma("164");
     c.MotivStare = U("Linia 1\nLinia 2");
-    c.Judet = U("Ilfov");
-    c.Localitate = U("Brănești");
-    c.Strada = U("Florilor");
-    c.Nr = U("12");
-    c.Sc = U("B");
-    c.Ap = U("4");
     c.Persoane = {{70, NumeTitular(), PrenumeTitular(), QString::fromLatin1(CnpTitular), 1, 1, 3},
                   {72, U("Popescu"), U("Mihai"), U("5100203410034"), 3, 8, QVariant()},
                   {71, U("Popescu"), U("Ioana"), U("2870506410021"), 2, 4, 2}};
