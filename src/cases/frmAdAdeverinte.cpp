@@ -1,11 +1,12 @@
 #include "cases/frmAdAdeverinte.h"
 
-#include "shell/Ceas.h"
+#include "cases/UiCampuriAdeverinta.h"
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
 #include "shell/Pornire.h"
+#include "shell/UiButoane.h"
 #include "shell/UiDataOptionala.h"
-#include "store/Schema.h"
+#include "shell/UiFormular.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -21,10 +22,6 @@ frmAdAdeverinte::frmAdAdeverinte(BazaDate& db, Mesaje& m, int adaug, const Adeve
     setObjectName(QStringLiteral("frmAdAdeverinte"));
     setWindowTitle(Adaug == 2 ? QStringLiteral("Modificare adeverinta") : QStringLiteral("Adaugare adeverinta"));
     asazaControale();
-    for (UiDataOptionala* d : dtpData) {
-        d->setData(Ceas::Azi());
-        d->setData(QDate());
-    }
     try {
         const TipuriAdeverinte tipuri = TipuriAdeverinte::Citeste(db_);
         for (const TipAdeverinta& t : tipuri.Toate())
@@ -48,49 +45,20 @@ void frmAdAdeverinte::asazaControale() {
     auto* asezare = new QVBoxLayout(this);
     auto* formular = new QFormLayout;
     formular->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    auto valoare = [&](const char* nume) {
-        auto* l = new QLabel(this);
-        l->setObjectName(QLatin1String(nume));
-        l->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        l->setMinimumWidth(220);
-        return l;
-    };
-    lblNrCerere = valoare("lblNrCerere");
+    lblNrCerere = EtichetaValoare(this, "lblNrCerere", 220);
     formular->addRow(QStringLiteral("Nr. cerere:"), lblNrCerere);
-    lblTitular = valoare("lblTitular");
+    lblTitular = EtichetaValoare(this, "lblTitular", 220);
     formular->addRow(QStringLiteral("Titular:"), lblTitular);
-    lblScolar = valoare("lblScolar");
+    lblScolar = EtichetaValoare(this, "lblScolar", 220);
     formular->addRow(QStringLiteral("Scolar:"), lblScolar);
-    txtNrAdev = new QLineEdit(this);
-    txtNrAdev->setObjectName(QStringLiteral("txtNrAdev"));
-    if (const CampSchema* c = Schema::Camp(QStringLiteral("Adeverinte"), QStringLiteral("NrAdev")); c && c->marime > 0)
-        txtNrAdev->setMaxLength(c->marime);
-    formular->addRow(QStringLiteral("Nr. adeverinta:"), txtNrAdev);
-    const QString etichete[3] = {QStringLiteral("Data adeverintei:"), QStringLiteral("Data depunerii:"),
-                                 QStringLiteral("Data expirarii:")};
-    for (size_t i = 0; i < dtpData.size(); ++i) {
-        dtpData[i] = new UiDataOptionala(this);
-        dtpData[i]->setObjectName(QStringLiteral("dtpData_%1").arg(i));
-        formular->addRow(etichete[i], dtpData[i]);
-    }
+    txtNrAdev = CampuriAdeverinta(this, formular, "txtNrAdev", dtpData);
     cboTipAdev = new QComboBox(this);
     cboTipAdev->setObjectName(QStringLiteral("cboTipAdev"));
     cboTipAdev->setMinimumContentsLength(28);
     formular->addRow(QStringLiteral("Tip adeverinta:"), cboTipAdev);
     asezare->addLayout(formular);
 
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdOK->setDefault(true);
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    asezare->addLayout(butoane);
-    connect(cmdOK, &QPushButton::clicked, this, &frmAdAdeverinte::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    asezare->addLayout(RandOkRenunta(this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }));
 }
 
 AdeverintaScolara frmAdAdeverinte::citesteControalele() const {

@@ -1,10 +1,10 @@
 #include "cases/frmAddAct.h"
 
-#include "shell/Ceas.h"
+#include "cases/UiCampuriAdeverinta.h"
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
+#include "shell/UiButoane.h"
 #include "shell/UiDataOptionala.h"
-#include "store/Schema.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -30,11 +30,6 @@ frmAddAct::frmAddAct(BazaDate& db, Mesaje& m, std::vector<AdeverintaMembru>& act
         cboTipAct->addItem(t.Continut, t.DataID);
     cboTipAct->setCurrentIndex(-1);
 
-    // An empty box shows today once it is ticked.
-    for (UiDataOptionala* d : dtpData) {
-        d->setData(Ceas::Azi());
-        d->setData(QDate());
-    }
     if (mod_ == ModAct::Modificare) {
         const DateAct d = Adeverinte::DinAct(acte_, index_, tipuri);
         cboTipAct->setCurrentIndex(cboTipAct->findData(d.TipAdeverinta));
@@ -53,32 +48,10 @@ void frmAddAct::asazaControale() {
     cboTipAct->setObjectName(QStringLiteral("cboTipAct"));
     cboTipAct->setMinimumContentsLength(28);
     formular->addRow(QStringLiteral("Tip adeverinta:"), cboTipAct);
-    txtNrAct = new QLineEdit(this);
-    txtNrAct->setObjectName(QStringLiteral("txtNrAct"));
-    if (const CampSchema* c = Schema::Camp(QStringLiteral("Adeverinte"), QStringLiteral("NrAdev")); c && c->marime > 0)
-        txtNrAct->setMaxLength(c->marime);
-    formular->addRow(QStringLiteral("Nr. adeverinta:"), txtNrAct);
-    const QString etichete[3] = {QStringLiteral("Data adeverintei:"), QStringLiteral("Data depunerii:"),
-                                 QStringLiteral("Data expirarii:")};
-    for (size_t i = 0; i < dtpData.size(); ++i) {
-        dtpData[i] = new UiDataOptionala(this);
-        dtpData[i]->setObjectName(QStringLiteral("dtpData_%1").arg(i));
-        formular->addRow(etichete[i], dtpData[i]);
-    }
+    txtNrAct = CampuriAdeverinta(this, formular, "txtNrAct", dtpData);
     asezare->addLayout(formular);
 
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdOK->setDefault(true);
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    asezare->addLayout(butoane);
-    connect(cmdOK, &QPushButton::clicked, this, &frmAddAct::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    asezare->addLayout(RandOkRenunta(this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }));
 }
 
 DateAct frmAddAct::citesteControalele() const {

@@ -4,6 +4,7 @@
 #include "cases/VenituriBunuri.h"
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
+#include "shell/UiButoane.h"
 
 #include <QHBoxLayout>
 #include <QListWidget>
@@ -21,18 +22,7 @@ frmAddActe::frmAddActe(BazaDate& bd, Mesaje& m, StareCerere& stare, QWidget* par
     lstBife->setTextElideMode(Qt::ElideNone);
     asezare->addWidget(lstBife);
 
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdOK->setDefault(true);
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    asezare->addLayout(butoane);
-    connect(cmdOK, &QPushButton::clicked, this, &frmAddActe::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    asezare->addLayout(RandOkRenunta(this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }));
 
     try {
         const std::vector<ElementCatalog> acte = CitesteListaActe(bd);

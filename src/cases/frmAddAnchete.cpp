@@ -4,7 +4,9 @@
 #include "shell/Eroare.h"
 #include "shell/Functii.h"
 #include "shell/Mesaje.h"
+#include "shell/UiButoane.h"
 #include "shell/UiDataOptionala.h"
+#include "shell/UiFormular.h"
 #include "store/Schema.h"
 
 #include <QComboBox>
@@ -22,14 +24,6 @@ const char* const CampText[12] = {"Intocmitor", "NrCamere", "SuprUtila",  "Bunur
                                   "Cladiri",    "Spatii",   "AlteBunuri", "StareSanatate", "Nevoi",  "Aspecte"};
 // The DateGen list of each cboCerere.
 constexpr int TipLista[4] = {4, 5, 7, 8};
-
-std::optional<int> ales(const QComboBox* c) {
-    return c->currentIndex() < 0 ? std::nullopt : std::optional<int>(c->currentData().toInt());
-}
-
-void alege(QComboBox* c, const std::optional<int>& dataID) {
-    c->setCurrentIndex(dataID ? c->findData(*dataID) : -1);
-}
 
 } // namespace
 
@@ -60,13 +54,7 @@ void frmAddAnchete::asazaControale() {
     auto* grila = new QGridLayout(this);
     grila->setColumnStretch(1, 1);
     grila->setColumnStretch(3, 1);
-    int rand = 0;
-    auto eticheta = [&](const QString& text, QWidget* control, int coloana, int latime = 1) {
-        auto* l = new QLabel(text, this);
-        l->setBuddy(control);
-        grila->addWidget(l, rand, coloana);
-        grila->addWidget(control, rand, coloana + 1, 1, latime);
-    };
+    GrilaEtichete gr{grila, this};
     auto text = [&](int i) {
         auto* t = new QLineEdit(this);
         t->setObjectName(QStringLiteral("txtCerere_%1").arg(i));
@@ -82,72 +70,51 @@ void frmAddAnchete::asazaControale() {
         cboCerere[size_t(i)] = c;
         return c;
     };
-    auto valoare = [&](const char* nume) {
-        auto* l = new QLabel(this);
-        l->setObjectName(QLatin1String(nume));
-        l->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        l->setMinimumWidth(90);
-        return l;
-    };
 
     dtpData = new UiDataOptionala(this);
     dtpData->setObjectName(QStringLiteral("dtpData"));
-    eticheta(QStringLiteral("Data efectuarii anchetei:"), dtpData, 0);
-    eticheta(QStringLiteral("Intocmita de:"), text(0), 2);
-    ++rand;
-    lblDataExp = valoare("lblDataExp");
-    eticheta(QStringLiteral("Ancheta valabila pana la data:"), lblDataExp, 0);
-    lblMotiv = valoare("lblMotiv");
-    eticheta(QStringLiteral("Motivul expirarii:"), lblMotiv, 2);
-    ++rand;
-    lblNrMembrii = valoare("lblNrMembrii");
-    eticheta(QStringLiteral("Nr membrii in familie:"), lblNrMembrii, 0);
-    lblNrCopii = valoare("lblNrCopii");
-    eticheta(QStringLiteral("din care copii pana la 18 ani"), lblNrCopii, 2);
-    ++rand;
-    auto* linie = new QFrame(this);
-    linie->setFrameShape(QFrame::HLine);
-    linie->setFrameShadow(QFrame::Sunken);
-    grila->addWidget(linie, rand++, 0, 1, 4);
+    gr.pe(0, QStringLiteral("Data efectuarii anchetei:"), dtpData);
+    gr.pe(2, QStringLiteral("Intocmita de:"), text(0));
+    ++gr.rand;
+    lblDataExp = EtichetaValoare(this, "lblDataExp", 90);
+    gr.pe(0, QStringLiteral("Ancheta valabila pana la data:"), lblDataExp);
+    lblMotiv = EtichetaValoare(this, "lblMotiv", 90);
+    gr.pe(2, QStringLiteral("Motivul expirarii:"), lblMotiv);
+    ++gr.rand;
+    lblNrMembrii = EtichetaValoare(this, "lblNrMembrii", 90);
+    gr.pe(0, QStringLiteral("Nr membrii in familie:"), lblNrMembrii);
+    lblNrCopii = EtichetaValoare(this, "lblNrCopii", 90);
+    gr.pe(2, QStringLiteral("din care copii pana la 18 ani"), lblNrCopii);
+    ++gr.rand;
+    grila->addWidget(LinieOrizontala(this), gr.rand++, 0, 1, 4);
 
-    eticheta(QStringLiteral("Tipul locuintei:"), lista(0), 0);
-    eticheta(QStringLiteral("Regim juridic:"), lista(1), 2);
-    ++rand;
-    eticheta(QStringLiteral("Nr camere(*):"), text(1), 0);
-    eticheta(QStringLiteral("Suprafata (mp):"), text(2), 2);
-    ++rand;
-    eticheta(QStringLiteral("Bunuri folosinta indelungata:"), text(3), 0, 3);
-    ++rand;
-    eticheta(QStringLiteral("Conditii de igiena:"), text(4), 0, 3);
-    ++rand;
-    eticheta(QStringLiteral("3. Locuieste impreuna cu alte"), lista(2), 0);
-    eticheta(QStringLiteral("4. Familia detine in proprietate"), lista(3), 2);
-    ++rand;
-    eticheta(QStringLiteral("Terenuri"), text(5), 0);
-    eticheta(QStringLiteral("Cladiri:"), text(6), 2);
-    ++rand;
-    eticheta(QStringLiteral("Spatii locative:"), text(7), 0);
-    eticheta(QStringLiteral("Alte bunuri:"), text(8), 2);
-    ++rand;
-    eticheta(QStringLiteral("5.Starea de sanatate a membrilor"), text(9), 0, 3);
-    ++rand;
-    eticheta(QStringLiteral("6. Nevoi speciale ale membrilor"), text(10), 0, 3);
-    ++rand;
-    eticheta(QStringLiteral("B. Alte aspecte constatate"), text(11), 0, 3);
-    ++rand;
+    gr.pe(0, QStringLiteral("Tipul locuintei:"), lista(0));
+    gr.pe(2, QStringLiteral("Regim juridic:"), lista(1));
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("Nr camere(*):"), text(1));
+    gr.pe(2, QStringLiteral("Suprafata (mp):"), text(2));
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("Bunuri folosinta indelungata:"), text(3), 3);
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("Conditii de igiena:"), text(4), 3);
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("3. Locuieste impreuna cu alte"), lista(2));
+    gr.pe(2, QStringLiteral("4. Familia detine in proprietate"), lista(3));
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("Terenuri"), text(5));
+    gr.pe(2, QStringLiteral("Cladiri:"), text(6));
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("Spatii locative:"), text(7));
+    gr.pe(2, QStringLiteral("Alte bunuri:"), text(8));
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("5.Starea de sanatate a membrilor"), text(9), 3);
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("6. Nevoi speciale ale membrilor"), text(10), 3);
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("B. Alte aspecte constatate"), text(11), 3);
+    ++gr.rand;
 
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdOK->setDefault(true);
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    grila->addLayout(butoane, rand, 0, 1, 4);
-    connect(cmdOK, &QPushButton::clicked, this, &frmAddAnchete::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    grila->addLayout(RandOkRenunta(this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }), gr.rand, 0, 1, 4);
 }
 
 void frmAddAnchete::incarcaListe() {
@@ -164,10 +131,10 @@ void frmAddAnchete::arata(const Ancheta& a) {
                                a.Cladiri,    a.Spatii,   a.AlteBunuri, a.StareSanatate, a.Nevoi,  a.Aspecte};
     for (size_t i = 0; i < txtCerere.size(); ++i)
         txtCerere[i]->setText(texte[i]);
-    alege(cboCerere[0], a.TipLocuinta);
-    alege(cboCerere[1], a.RegimJuridic);
-    alege(cboCerere[2], a.TipLocuire);
-    alege(cboCerere[3], a.TipDetinere);
+    AlegeCheia(cboCerere[0], a.TipLocuinta);
+    AlegeCheia(cboCerere[1], a.RegimJuridic);
+    AlegeCheia(cboCerere[2], a.TipLocuire);
+    AlegeCheia(cboCerere[3], a.TipDetinere);
     arataExpirare(a.DataExpirarii, a.Motiv, QString::number(a.NrMembrii), QString::number(a.NrCopii));
 }
 
@@ -206,10 +173,10 @@ Ancheta frmAddAnchete::citesteControalele() const {
                           &a.Cladiri,    &a.Spatii,   &a.AlteBunuri, &a.StareSanatate, &a.Nevoi,  &a.Aspecte};
     for (size_t i = 0; i < txtCerere.size(); ++i)
         *texte[i] = txtCerere[i]->text();
-    a.TipLocuinta = ales(cboCerere[0]);
-    a.RegimJuridic = ales(cboCerere[1]);
-    a.TipLocuire = ales(cboCerere[2]);
-    a.TipDetinere = ales(cboCerere[3]);
+    a.TipLocuinta = CheieAleasa(cboCerere[0]);
+    a.RegimJuridic = CheieAleasa(cboCerere[1]);
+    a.TipLocuire = CheieAleasa(cboCerere[2]);
+    a.TipDetinere = CheieAleasa(cboCerere[3]);
     return a;
 }
 

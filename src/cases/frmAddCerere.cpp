@@ -11,7 +11,9 @@
 #include "shell/Functii.h"
 #include "shell/Mesaje.h"
 #include "shell/Setari.h"
+#include "shell/UiButoane.h"
 #include "shell/UiDataOptionala.h"
+#include "shell/UiFormular.h"
 #include "store/Schema.h"
 
 #include <QCheckBox>
@@ -221,19 +223,13 @@ void frmAddCerere::asazaControale() {
     asezare->addWidget(construiesteTotalurile());
 
     auto* butoane = new QHBoxLayout;
-    auto buton = [&](QPushButton*& b, const char* nume, const QString& text) {
-        b = new QPushButton(text, this);
-        b->setObjectName(QLatin1String(nume));
-        b->setAutoDefault(false);
-        butoane->addWidget(b);
-    };
-    buton(cmdVenituri, "cmdVenituri", QStringLiteral("Venituri..."));
-    buton(cmdBife, "cmdBife", QStringLiteral("Bunuri..."));
-    buton(cmdActe, "cmdActe", QStringLiteral("Acte doveditoare..."));
-    buton(cmdLocuinta, "cmdLocuinta", QStringLiteral("Locuinta..."));
+    cmdVenituri = Buton(this, butoane, "cmdVenituri", QStringLiteral("Venituri..."));
+    cmdBife = Buton(this, butoane, "cmdBife", QStringLiteral("Bunuri..."));
+    cmdActe = Buton(this, butoane, "cmdActe", QStringLiteral("Acte doveditoare..."));
+    cmdLocuinta = Buton(this, butoane, "cmdLocuinta", QStringLiteral("Locuinta..."));
     butoane->addStretch(1);
-    buton(cmdOK, "cmdOK", QStringLiteral("OK"));
-    buton(cmdCancel, "cmdCancel", QStringLiteral("Renunta"));
+    cmdOK = Buton(this, butoane, "cmdOK", QStringLiteral("OK"));
+    cmdCancel = Buton(this, butoane, "cmdCancel", QStringLiteral("Renunta"));
     asezare->addLayout(butoane);
     resize(1180, 760);
 }
@@ -241,36 +237,30 @@ void frmAddCerere::asazaControale() {
 QWidget* frmAddCerere::construiesteCererea() {
     auto* g = new QGroupBox(QStringLiteral("Cerere"), this);
     auto* grila = new QGridLayout(g);
-    int rand = 0;
-    auto eticheta = [&](const QString& text, QWidget* w, int coloana = 0, int latime = 1) {
-        auto* l = new QLabel(text, g);
-        l->setBuddy(w);
-        grila->addWidget(l, rand, coloana);
-        grila->addWidget(w, rand, coloana + 1, 1, latime);
-    };
-    eticheta(QStringLiteral("Nr. dosar:"), txtCerere[0]);
-    eticheta(QStringLiteral("Nr. cerere:"), txtCerere[1], 2);
-    ++rand;
-    eticheta(QStringLiteral("Data cererii:"), dtpData[0]);
-    eticheta(QStringLiteral("Data aprobarii:"), dtpData[1], 2);
-    ++rand;
+    GrilaEtichete gr{grila, g};
+    gr.pe(0, QStringLiteral("Nr. dosar:"), txtCerere[0]);
+    gr.pe(2, QStringLiteral("Nr. cerere:"), txtCerere[1]);
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("Data cererii:"), dtpData[0]);
+    gr.pe(2, QStringLiteral("Data aprobarii:"), dtpData[1]);
+    ++gr.rand;
     auto* nou = new QGroupBox(QStringLiteral("Nr. nou dosar/cerere"), g);
     auto* n = new QHBoxLayout(nou);
     n->addWidget(new QLabel(QStringLiteral("Dosar:"), nou));
     n->addWidget(txtCerere[29]);
     n->addWidget(new QLabel(QStringLiteral("Cerere:"), nou));
     n->addWidget(txtCerere[30]);
-    grila->addWidget(nou, rand++, 0, 1, 4);
-    eticheta(QStringLiteral("Tip alocatie:"), cboCerere[3], 0, 3);
-    ++rand;
-    eticheta(QStringLiteral("Statut:"), cboCerere[4], 0, 3);
-    ++rand;
-    eticheta(QStringLiteral("Motiv statut:"), cboCerere[5], 0, 3);
-    ++rand;
-    eticheta(QStringLiteral("Luni retroactiv:"), txtCerere[txtLuniRetro]);
+    grila->addWidget(nou, gr.rand++, 0, 1, 4);
+    gr.pe(0, QStringLiteral("Tip alocatie:"), cboCerere[3], 3);
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("Statut:"), cboCerere[4], 3);
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("Motiv statut:"), cboCerere[5], 3);
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("Luni retroactiv:"), txtCerere[txtLuniRetro]);
     grila->setColumnStretch(1, 1);
     grila->setColumnStretch(3, 1);
-    grila->setRowStretch(rand + 1, 1);
+    grila->setRowStretch(gr.rand + 1, 1);
     return g;
 }
 
@@ -400,15 +390,9 @@ QWidget* frmAddCerere::construiesteMembrii() {
     auto* randLvw = new QHBoxLayout;
     randLvw->addWidget(lista(lvw, "lvw", ColoaneLista()), 1);
     auto* comenzi = new QVBoxLayout;
-    auto buton = [&](QPushButton*& b, const char* nume, const QString& text) {
-        b = new QPushButton(text, g);
-        b->setObjectName(QLatin1String(nume));
-        b->setAutoDefault(false);
-        comenzi->addWidget(b);
-    };
-    buton(cmdAdd, "cmdAdd", QStringLiteral("Adauga persoana"));
-    buton(cmdEdit, "cmdEdit", QStringLiteral("Modifica persoana"));
-    buton(cmdDelete, "cmdDelete", QStringLiteral("Elimina persoana"));
+    cmdAdd = Buton(g, comenzi, "cmdAdd", QStringLiteral("Adauga persoana"));
+    cmdEdit = Buton(g, comenzi, "cmdEdit", QStringLiteral("Modifica persoana"));
+    cmdDelete = Buton(g, comenzi, "cmdDelete", QStringLiteral("Elimina persoana"));
     comenzi->addStretch(1);
     randLvw->addLayout(comenzi);
     v->addLayout(randLvw, 3);

@@ -4,6 +4,8 @@
 #include "shell/Eroare.h"
 #include "shell/Functii.h"
 #include "shell/Mesaje.h"
+#include "shell/UiButoane.h"
+#include "shell/UiFormular.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -20,14 +22,6 @@
 namespace {
 
 constexpr int LungimeMaxima[5] = {8, 4, 8, 8, 255};
-
-std::optional<int> ales(const QComboBox* c) {
-    return c->currentIndex() < 0 ? std::nullopt : std::optional<int>(c->currentData().toInt());
-}
-
-void alege(QComboBox* c, const std::optional<int>& valoare) {
-    c->setCurrentIndex(valoare ? c->findData(*valoare) : -1);
-}
 
 } // namespace
 
@@ -62,20 +56,7 @@ void frmAddDispozitie::asazaControale() {
     auto* grila = new QGridLayout(this);
     grila->setColumnStretch(1, 1);
     grila->setColumnStretch(3, 1);
-    int rand = 0;
-    auto eticheta = [&](const QString& text, QWidget* control, int coloana, int latime = 1) {
-        auto* l = new QLabel(text, this);
-        l->setBuddy(control);
-        grila->addWidget(l, rand, coloana);
-        grila->addWidget(control, rand, coloana + 1, 1, latime);
-    };
-    auto valoare = [&](const char* nume) {
-        auto* l = new QLabel(this);
-        l->setObjectName(QLatin1String(nume));
-        l->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        l->setMinimumWidth(90);
-        return l;
-    };
+    GrilaEtichete gr{grila, this};
     auto text = [&](int i, QWidget* parinte) {
         auto* t = new QLineEdit(parinte);
         t->setObjectName(QStringLiteral("txtDispoz_%1").arg(i));
@@ -99,35 +80,32 @@ void frmAddDispozitie::asazaControale() {
     mare.setBold(true);
     mare.setPointSizeF(mare.pointSizeF() * 1.3);
     lblInfo->setFont(mare);
-    grila->addWidget(lblInfo, rand++, 0, 1, 4);
+    grila->addWidget(lblInfo, gr.rand++, 0, 1, 4);
 
-    lblNrCerere = valoare("lblNrCerere");
-    eticheta(QStringLiteral("Nr cerere:"), lblNrCerere, 0);
-    lblDataCerere = valoare("lblDataCerere");
-    eticheta(QStringLiteral("Data cerere:"), lblDataCerere, 2);
-    ++rand;
-    auto* linie = new QFrame(this);
-    linie->setFrameShape(QFrame::HLine);
-    linie->setFrameShadow(QFrame::Sunken);
-    grila->addWidget(linie, rand++, 0, 1, 4);
+    lblNrCerere = EtichetaValoare(this, "lblNrCerere", 90);
+    gr.pe(0, QStringLiteral("Nr cerere:"), lblNrCerere);
+    lblDataCerere = EtichetaValoare(this, "lblDataCerere", 90);
+    gr.pe(2, QStringLiteral("Data cerere:"), lblDataCerere);
+    ++gr.rand;
+    grila->addWidget(LinieOrizontala(this), gr.rand++, 0, 1, 4);
 
-    eticheta(QStringLiteral("Nr dispozitie:"), text(0, this), 0);
+    gr.pe(0, QStringLiteral("Nr dispozitie:"), text(0, this));
     dtpData = new QDateEdit(this);
     dtpData->setObjectName(QStringLiteral("dtpData"));
     dtpData->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
     dtpData->setCalendarPopup(true);
     dtpData->setMinimumDate(QDate(1900, 1, 1));
     dtpData->installEventFilter(this);
-    eticheta(QStringLiteral("Data dispozitie:"), dtpData, 2);
-    ++rand;
-    eticheta(QStringLiteral("Tip dispozitie"), lista(0), 0, 3);
-    ++rand;
-    eticheta(QStringLiteral("Incepand cu luna:"), lista(1), 0);
+    gr.pe(2, QStringLiteral("Data dispozitie:"), dtpData);
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("Tip dispozitie"), lista(0), 3);
+    ++gr.rand;
+    gr.pe(0, QStringLiteral("Incepand cu luna:"), lista(1));
     for (int i = 0; i < 12; ++i)
         cboDispoz[1]->addItem(LuniAn()[i], i + 1);
     cboDispoz[1]->setCurrentIndex(-1);
-    eticheta(QStringLiteral("anul:"), text(1, this), 2);
-    ++rand;
+    gr.pe(2, QStringLiteral("anul:"), text(1, this));
+    ++gr.rand;
 
     // The amount block: the amount, and for a change the new one beside it.
     picMiddle = new QWidget(this);
@@ -147,30 +125,22 @@ void frmAddDispozitie::asazaControale() {
     lblInSumaLei = new QLabel(QStringLiteral("lei"), picMiddle);
     lblInSumaLei->setObjectName(QStringLiteral("lblInSumaLei"));
     suma->addWidget(lblInSumaLei);
-    grila->addWidget(picMiddle, rand++, 0, 1, 4);
+    grila->addWidget(picMiddle, gr.rand++, 0, 1, 4);
 
     lblMotiv = new QLabel(this);
     lblMotiv->setObjectName(QStringLiteral("lblMotiv"));
-    grila->addWidget(lblMotiv, rand, 0);
-    grila->addWidget(text(4, this), rand++, 1, 1, 3);
+    grila->addWidget(lblMotiv, gr.rand, 0);
+    grila->addWidget(text(4, this), gr.rand++, 1, 1, 3);
     lblMotiv->setBuddy(txtDispoz[4]);
-    grila->setRowStretch(rand++, 1);
+    grila->setRowStretch(gr.rand++, 1);
 
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    grila->addLayout(butoane, rand, 0, 1, 4);
+    grila->addLayout(RandOkRenunta(
+                         this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }, EnterOK::Focalizat),
+                     gr.rand, 0, 1, 4);
     setMinimumWidth(560);
 
     arataBlocurile();
     connect(cboDispoz[0], &QComboBox::currentIndexChanged, this, &frmAddDispozitie::cboDispoz_Click);
-    connect(cmdOK, &QPushButton::clicked, this, &frmAddDispozitie::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmAddDispozitie::arata(const DeschidereDispozitie& d) {
@@ -178,8 +148,8 @@ void frmAddDispozitie::arata(const DeschidereDispozitie& d) {
     lblDataCerere->setText(FormatData(d.DataCerere));
     txtDispoz[0]->setText(d.d.NrDisp);
     if (d.d.DataDisp.isValid()) dtpData->setDate(d.d.DataDisp);
-    alege(cboDispoz[0], d.d.Actiune);
-    alege(cboDispoz[1], d.d.Luna);
+    AlegeCheia(cboDispoz[0], d.d.Actiune);
+    AlegeCheia(cboDispoz[1], d.d.Luna);
     txtDispoz[1]->setText(d.d.An);
     txtDispoz[2]->setText(d.d.Suma);
     txtDispoz[3]->setText(d.d.SumaNoua);
@@ -187,7 +157,7 @@ void frmAddDispozitie::arata(const DeschidereDispozitie& d) {
 }
 
 void frmAddDispozitie::cboDispoz_Click() {
-    Dispozitii::AplicaActiune(blocuri_, ales(cboDispoz[0]));
+    Dispozitii::AplicaActiune(blocuri_, CheieAleasa(cboDispoz[0]));
     arataBlocurile();
 }
 
@@ -208,8 +178,8 @@ Dispozitie frmAddDispozitie::citesteControalele() const {
     d.CerereID = cerereID_;
     d.NrDisp = txtDispoz[0]->text();
     d.DataDisp = dtpData->date();
-    d.Actiune = ales(cboDispoz[0]);
-    d.Luna = ales(cboDispoz[1]);
+    d.Actiune = CheieAleasa(cboDispoz[0]);
+    d.Luna = CheieAleasa(cboDispoz[1]);
     d.An = txtDispoz[1]->text();
     d.Suma = txtDispoz[2]->text();
     d.SumaNoua = txtDispoz[3]->text();
@@ -239,15 +209,9 @@ void frmAddDispozitie::cmdOK_Click() {
 }
 
 bool frmAddDispozitie::eventFilter(QObject* obiect, QEvent* e) {
-    if (e->type() == QEvent::KeyPress) {
-        const int tasta = static_cast<QKeyEvent*>(e)->key();
-        if (tasta == Qt::Key_Return || tasta == Qt::Key_Enter) {
-            focusNextChild();
-            return true;
-        }
-    } else if (e->type() == QEvent::FocusIn) {
-        // Deferred, so that the click which brought the focus doesn't undo the selection.
-        if (auto* t = qobject_cast<QLineEdit*>(obiect)) QTimer::singleShot(0, t, &QLineEdit::selectAll);
+    if (EnterCaTab(obiect, e)) {
+        focusNextChild();
+        return true;
     }
     return QDialog::eventFilter(obiect, e);
 }

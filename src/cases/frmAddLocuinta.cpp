@@ -3,6 +3,7 @@
 #include "cases/StareCerere.h"
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
+#include "shell/UiButoane.h"
 #include "shell/UiDataOptionala.h"
 #include "store/Schema.h"
 
@@ -112,19 +113,8 @@ void frmAddLocuinta::asazaControale() {
     asezare->addWidget(fraPolita);
     asezare->addStretch(1);
 
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdOK->setAutoDefault(false);
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    cmdCancel->setAutoDefault(false);
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    asezare->addLayout(butoane);
-    connect(cmdOK, &QPushButton::clicked, this, &frmAddLocuinta::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    asezare->addLayout(RandOkRenunta(
+        this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }, EnterOK::Niciunul));
 }
 
 void frmAddLocuinta::arata(const DateLocuinta& d) {
@@ -173,15 +163,10 @@ void frmAddLocuinta::cmdOK_Click() {
 }
 
 bool frmAddLocuinta::eventFilter(QObject* obiect, QEvent* e) {
-    if (e->type() == QEvent::KeyPress && !qobject_cast<QPushButton*>(obiect)) {
-        const int tasta = static_cast<QKeyEvent*>(e)->key();
-        if (tasta == Qt::Key_Return || tasta == Qt::Key_Enter) {
-            focusNextChild();
-            return true;
-        }
-    } else if (e->type() == QEvent::FocusIn) {
-        // Deferred, so that the click which brought the focus doesn't undo the selection.
-        if (auto* t = qobject_cast<QLineEdit*>(obiect)) QTimer::singleShot(0, t, &QLineEdit::selectAll);
+    // Enter on a button is left to the button.
+    if (!qobject_cast<QPushButton*>(obiect) && EnterCaTab(obiect, e)) {
+        focusNextChild();
+        return true;
     }
     return QDialog::eventFilter(obiect, e);
 }

@@ -2,7 +2,9 @@
 
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
+#include "shell/UiButoane.h"
 #include "shell/UiDataOptionala.h"
+#include "shell/UiFormular.h"
 #include "store/Schema.h"
 
 #include <QCheckBox>
@@ -123,27 +125,16 @@ void frmAddMembru::asazaControale() {
         dtpData[size_t(i)] = d;
         return d;
     };
-    // A grid of label-control pairs, filled row by row.
-    struct Grila {
-        QGridLayout* g;
-        int rand = 0;
-        void pe(int coloana, const QString& eticheta, QWidget* w, int latime = 1) {
-            auto* l = new QLabel(eticheta);
-            l->setBuddy(w);
-            g->addWidget(l, rand, coloana);
-            g->addWidget(w, rand, coloana + 1, 1, latime);
-        }
-    };
     auto grila = [](QWidget* pe) {
         auto* g = new QGridLayout(pe);
         g->setColumnStretch(1, 1);
         g->setColumnStretch(3, 1);
-        return Grila{g};
+        return GrilaEtichete{g};
     };
 
     // Identity.
     auto* grpIdentitate = new QGroupBox(QStringLiteral("Date de identificare"), this);
-    Grila gi = grila(grpIdentitate);
+    GrilaEtichete gi = grila(grpIdentitate);
     auto* cnp = new ComboCNP(this);
     cnp->setObjectName(QStringLiteral("cboCNP"));
     cnp->setEditable(true);
@@ -203,7 +194,7 @@ void frmAddMembru::asazaControale() {
     // The adult's and the child's frames share one place: only one shows.
     picTitular = new QGroupBox(QStringLiteral("Adult: studii si ocupatie"), this);
     picTitular->setObjectName(QStringLiteral("picTitular"));
-    Grila gt = grila(picTitular);
+    GrilaEtichete gt = grila(picTitular);
     gt.pe(0, QStringLiteral("Studii:"), lista(cboStudii), 3);
     ++gt.rand;
     gt.pe(0, QStringLiteral("Ocupatie:"), lista(cboOcupatie), 3);
@@ -211,7 +202,7 @@ void frmAddMembru::asazaControale() {
 
     picElev = new QGroupBox(QStringLiteral("Copil: situatia scolara"), this);
     picElev->setObjectName(QStringLiteral("picElev"));
-    Grila ge = grila(picElev);
+    GrilaEtichete ge = grila(picElev);
     ge.pe(0, QStringLiteral("Situatia scolara:"), lista(cboSituatieScolara), 3);
     ++ge.rand;
     ge.pe(0, QStringLiteral("Unitatea scolara:"), lista(cboUScolara));
@@ -246,7 +237,7 @@ void frmAddMembru::asazaControale() {
         g->setContentsMargins(20, 0, 0, 0);
         g->setColumnStretch(1, 1);
         g->setColumnStretch(3, 1);
-        Grila gp{g};
+        GrilaEtichete gp{g};
         gp.pe(0, QStringLiteral("Perioada:"), text(p1, c1));
         gp.pe(2, QStringLiteral("Tara:"), text(t1, ct1));
         ++gp.rand;
@@ -268,7 +259,7 @@ void frmAddMembru::asazaControale() {
 
     // Rights and income.
     auto* grpDrepturi = new QGroupBox(QStringLiteral("Drepturi si venituri"), this);
-    Grila gd = grila(grpDrepturi);
+    GrilaEtichete gd = grila(grpDrepturi);
     gd.g->addWidget(bifa(chkVMG, QStringLiteral("Beneficiaza de venit minim garantat")), gd.rand++, 0, 1, 4);
     gd.g->addWidget(bifa(chkAlocatie, QStringLiteral("Beneficiaza de alocatie de stat")), gd.rand++, 0, 1, 4);
     gd.g->addWidget(bifa(chkIncalzire, QStringLiteral("Beneficiaza de ajutor pentru incalzire")), gd.rand++, 0, 1, 4);
@@ -279,7 +270,7 @@ void frmAddMembru::asazaControale() {
 
     // The state of the person on this request.
     auto* grpStare = new QGroupBox(QStringLiteral("Situatia membrului"), this);
-    Grila gs = grila(grpStare);
+    GrilaEtichete gs = grila(grpStare);
     gs.pe(0, QStringLiteral("Statut membru:"), lista(cboStareMembru), 3);
     ++gs.rand;
     gs.pe(0, QStringLiteral("Data schimbarii:"), data(dtpDataStare));
@@ -324,16 +315,10 @@ void frmAddMembru::asazaControale() {
     Grid->setMinimumHeight(110);
     ha->addWidget(Grid, 1);
     auto* vb = new QVBoxLayout;
-    auto buton = [&](QPushButton*& b, const char* nume, const QString& text) {
-        b = new QPushButton(text, this);
-        b->setObjectName(QLatin1String(nume));
-        b->setAutoDefault(false);
-        vb->addWidget(b);
-    };
-    buton(cmdAddRand, "cmdAddRand", QStringLiteral("Adauga"));
-    buton(cmdModAct, "cmdModAct", QStringLiteral("Modifica"));
-    buton(cmdDelRand, "cmdDelRand", QStringLiteral("Sterge"));
-    buton(cmdIstoricAdv, "cmdIstoricAdv", QStringLiteral("Istoric"));
+    cmdAddRand = Buton(this, vb, "cmdAddRand", QStringLiteral("Adauga"));
+    cmdModAct = Buton(this, vb, "cmdModAct", QStringLiteral("Modifica"));
+    cmdDelRand = Buton(this, vb, "cmdDelRand", QStringLiteral("Sterge"));
+    cmdIstoricAdv = Buton(this, vb, "cmdIstoricAdv", QStringLiteral("Istoric"));
     vb->addStretch(1);
     ha->addLayout(vb);
 
@@ -348,21 +333,11 @@ void frmAddMembru::asazaControale() {
     sus->addLayout(stanga, 1);
     sus->addLayout(dreapta, 1);
 
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdOK->setAutoDefault(false);
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    cmdCancel->setAutoDefault(false);
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-
     auto* tot = new QVBoxLayout(this);
     tot->addLayout(sus);
     tot->addWidget(grpAdev, 1);
-    tot->addLayout(butoane);
+    tot->addLayout(RandOkRenunta(
+        this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }, EnterOK::Niciunul, true, [this] { cmdCancel_Click(); }));
 
     // Nothing chosen yet: neither frame until the kinship says which.
     picTitular->hide();
@@ -381,8 +356,6 @@ void frmAddMembru::umpleListe() {
 }
 
 void frmAddMembru::conecteaza() {
-    connect(cmdOK, &QPushButton::clicked, this, &frmAddMembru::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmAddMembru::cmdCancel_Click);
     connect(cmdAddRand, &QPushButton::clicked, this, [this] { AdaugaAdeverinta(*this); });
     connect(cmdModAct, &QPushButton::clicked, this, [this] { ModificaAdeverinta(*this); });
     connect(cmdDelRand, &QPushButton::clicked, this, [this] { StergeAdeverinta(*this); });
@@ -655,17 +628,8 @@ frmMotiv::frmMotiv(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(parinte)
     g->addWidget(lValuta, 2, 2);
     g->addWidget(cboMembru[1], 2, 3);
 
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdOK->setDefault(true);
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
     g->setRowMinimumHeight(3, 8);
-    g->addLayout(butoane, 4, 0, 1, 4);
+    g->addLayout(RandOkRenunta(this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }), 4, 0, 1, 4);
 
     try {
         const ListePersoana l = IncarcaListePersoana(bd);
@@ -680,8 +644,6 @@ frmMotiv::frmMotiv(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(parinte)
     cboMembru[1]->setCurrentIndex(-1);
 
     connect(chkVenit, &QCheckBox::toggled, txtMembru, &QLineEdit::setEnabled);
-    connect(cmdOK, &QPushButton::clicked, this, &frmMotiv::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmMotiv::cmdOK_Click() {

@@ -1,8 +1,10 @@
 #include "cases/frmAddVenituri.h"
 
 #include "cases/StareCerere.h"
+#include "cases/UiGrilaSume.h"
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
+#include "shell/UiButoane.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -40,11 +42,7 @@ frmAddVenituri::frmAddVenituri(BazaDate& bd, Mesaje& m, StareCerere& stare, QWid
     Grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     Grid->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Fixed);
     Grid->setColumnWidth(ColoanaSuma, 120);
-    Grid->verticalHeader()->setDefaultSectionSize(Grid->fontMetrics().height() + 8);
-    Grid->setSelectionMode(QAbstractItemView::SingleSelection);
-    Grid->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
-                          QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
-    Grid->setWordWrap(false);
+    PregatesteGrilaSume(Grid);
     asezare->addWidget(Grid);
 
     lblTotalVenituri = new QLabel(this);
@@ -55,22 +53,14 @@ frmAddVenituri::frmAddVenituri(BazaDate& bd, Mesaje& m, StareCerere& stare, QWid
     lblTotalVenituri->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     asezare->addWidget(lblTotalVenituri);
 
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdOK->setAutoDefault(false);
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    cmdCancel->setAutoDefault(false);
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    asezare->addLayout(butoane);
+    asezare->addLayout(RandOkRenunta(
+        this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }, EnterOK::Niciunul));
 
     umple();
-    connect(Grid, &QTableWidget::cellChanged, this, &frmAddVenituri::Grid_Change);
-    connect(cmdOK, &QPushButton::clicked, this, &frmAddVenituri::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    ConecteazaColoanaSume(
+        Grid, ColoanaSuma, m_, [this](size_t rand, const QString& text) { grila_.Seteaza(rand, text); },
+        [this](size_t rand) { return TextCelula(grila_.Suma(rand)); },
+        [this] { lblTotalVenituri->setText(grila_.TextTotal()); });
     resize(860, 600);
 }
 
@@ -89,22 +79,6 @@ void frmAddVenituri::umple() {
         coduri << QString::number(randuri[i].Nr);
     }
     Grid->setVerticalHeaderLabels(coduri);
-    lblTotalVenituri->setText(grila_.TextTotal());
-}
-
-void frmAddVenituri::Grid_Change(int rand, int coloana) {
-    if (seUmple_ || coloana != ColoanaSuma) return;
-    QTableWidgetItem* celula = Grid->item(rand, coloana);
-    if (!celula) return;
-    try {
-        grila_.Seteaza(size_t(rand), celula->text());
-    } catch (const Eroare& e) {
-        m_.Avertisment(e.text());
-    }
-    // The cell shows the amount as read, or the one it had before a refused text.
-    seUmple_ = true;
-    celula->setText(TextCelula(grila_.Suma(size_t(rand))));
-    seUmple_ = false;
     lblTotalVenituri->setText(grila_.TextTotal());
 }
 

@@ -30,11 +30,9 @@ public:
     QPushButton* cmdCancel;
 
 private:
-    void Grid_Change(int rand, int coloana);
     void umple();
 
     Mesaje& m_;
     StareCerere& stare_;
     GrilaVenituri grila_;
-    bool seUmple_ = false;
 };

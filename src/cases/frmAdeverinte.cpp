@@ -29,34 +29,16 @@ frmAdeverinte::frmAdeverinte(BazaDate& db, Mesaje& m, QWidget* parinte) : QDialo
     auto* asezare = new QVBoxLayout(this);
     lvwAdeverinte = new QTreeWidget(this);
     lvwAdeverinte->setObjectName(QStringLiteral("lvwAdeverinte"));
-    lvwAdeverinte->setRootIsDecorated(false);
-    lvwAdeverinte->setUniformRowHeights(true);
-    lvwAdeverinte->setAllColumnsShowFocus(true);
-    lvwAdeverinte->setSelectionMode(QAbstractItemView::SingleSelection);
-    lvwAdeverinte->setHeaderLabels({QStringLiteral("ID"), QStringLiteral("Nr Cerere"), QStringLiteral("Nume Titular"),
-                                    QStringLiteral("Nume Scolar"), QStringLiteral("Data nast"),
-                                    QStringLiteral("Varsta"), QStringLiteral("Nr Adev"), QStringLiteral("Data Dep"),
-                                    QStringLiteral("Data Adev"), QStringLiteral("Data expirarii"),
-                                    QStringLiteral("Tip adeverinta")});
+    PregatesteLista(lvwAdeverinte,
+                    {QStringLiteral("ID"), QStringLiteral("Nr Cerere"), QStringLiteral("Nume Titular"),
+                     QStringLiteral("Nume Scolar"), QStringLiteral("Data nast"), QStringLiteral("Varsta"),
+                     QStringLiteral("Nr Adev"), QStringLiteral("Data Dep"), QStringLiteral("Data Adev"),
+                     QStringLiteral("Data expirarii"), QStringLiteral("Tip adeverinta")},
+                    false);
     asezare->addWidget(lvwAdeverinte);
-    auto* butoane = new QHBoxLayout;
-    auto buton = [&](QPushButton*& b, const char* nume, const QString& text) {
-        b = new QPushButton(text, this);
-        b->setObjectName(QString::fromLatin1(nume));
-        b->setAutoDefault(false);
-        butoane->addWidget(b);
-    };
-    buton(cmdAdd, "cmdAdd", QStringLiteral("Adauga"));
-    buton(cmdEdit, "cmdEdit", QStringLiteral("Modifica"));
-    buton(cmdDelete, "cmdDelete", QStringLiteral("Sterge"));
-    butoane->addStretch(1);
-    buton(cmdClose, "cmdClose", QStringLiteral("Inchide"));
-    asezare->addLayout(butoane);
-    connect(cmdAdd, &QPushButton::clicked, this, &frmAdeverinte::cmdAdd_Click);
-    connect(cmdEdit, &QPushButton::clicked, this, &frmAdeverinte::cmdEdit_Click);
-    connect(cmdDelete, &QPushButton::clicked, this, &frmAdeverinte::cmdDelete_Click);
-    connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
-    connect(lvwAdeverinte, &QTreeWidget::itemDoubleClicked, this, &frmAdeverinte::cmdEdit_Click);
+    asezare->addLayout(
+        RandComenziLista(this, lvwAdeverinte, cmdAdd, cmdEdit, cmdDelete, cmdClose,
+                         {[this] { cmdAdd_Click(); }, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); }}));
 
     resize(1000, 460);
     Incarca();
@@ -85,8 +67,7 @@ void frmAdeverinte::Incarca(qint64 selectat) {
         iteme << i;
     }
     lvwAdeverinte->addTopLevelItems(iteme);
-    for (int c = 0; c < lvwAdeverinte->columnCount(); ++c)
-        lvwAdeverinte->resizeColumnToContents(c);
+    LatimiColoane(lvwAdeverinte);
     if (!ales && !iteme.isEmpty()) ales = iteme.first();
     if (ales) {
         lvwAdeverinte->setCurrentItem(ales);
@@ -95,15 +76,12 @@ void frmAdeverinte::Incarca(qint64 selectat) {
 }
 
 void frmAdeverinte::cmdAdd_Click() {
-    const auto selectate = lvwAdeverinte->selectedItems();
-    if (selectate.isEmpty()) {
-        m_.Informatie(FaraSelectie);
-        return;
-    }
+    const QTreeWidgetItem* r = RandAles(lvwAdeverinte, m_, FaraSelectie);
+    if (!r) return;
     // The new certificate goes to the pupil of the selected row, on the same request.
     AdeverintaScolara rec;
-    rec.CerereID = selectate.first()->data(ColID, RolCerere).toLongLong();
-    rec.MembruID = selectate.first()->data(ColID, RolMembru).toLongLong();
+    rec.CerereID = r->data(ColID, RolCerere).toLongLong();
+    rec.MembruID = r->data(ColID, RolMembru).toLongLong();
     rec.TipAdeverinta = Adeverinte::TipScoala;
     frmAdAdeverinte f(db_, m_, 1, rec, this);
     ArataModal(f);
@@ -111,37 +89,20 @@ void frmAdeverinte::cmdAdd_Click() {
 }
 
 void frmAdeverinte::cmdEdit_Click() {
-    const auto selectate = lvwAdeverinte->selectedItems();
-    if (selectate.isEmpty()) {
-        m_.Informatie(FaraSelectie);
-        return;
-    }
-    QTreeWidgetItem* r = selectate.first();
+    QTreeWidgetItem* r = RandAles(lvwAdeverinte, m_, FaraSelectie);
     std::optional<AdeverintaScolara> rec;
-    try {
-        rec = Adeverinte::CitesteAdeverinta(db_, r->data(ColID, Qt::UserRole).toLongLong());
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
+    if (!r || !RecitesteRandul(lvwAdeverinte, r, m_, [&](qint64 cheie) {
+            return (rec = Adeverinte::CitesteAdeverinta(db_, cheie)).has_value();
+        }))
         return;
-    }
-    if (!rec) {
-        m_.Informatie(TextRandNegasit);
-        StergeRand(lvwAdeverinte, r);
-        return;
-    }
     frmAdAdeverinte f(db_, m_, 2, *rec, this);
     ArataModal(f);
     if (f.ESTE_OK) Incarca(f.RecAdev.AdevID);
 }
 
 void frmAdeverinte::cmdDelete_Click() {
-    const auto selectate = lvwAdeverinte->selectedItems();
-    if (selectate.isEmpty()) {
-        m_.Informatie(FaraSelectie);
-        return;
-    }
-    if (!VerificaBD(db_, m_)) return;
-    QTreeWidgetItem* r = selectate.first();
+    QTreeWidgetItem* r = RandAles(lvwAdeverinte, m_, FaraSelectie);
+    if (!r || !VerificaBD(db_, m_)) return;
     try {
         if (Adeverinte::StergeAdeverintaScolara(db_, m_, r->data(ColID, Qt::UserRole).toLongLong(), r->text(ColNrAdev)))
             StergeRand(lvwAdeverinte, r);

@@ -5,6 +5,8 @@
 #include "shell/Eroare.h"
 #include "shell/Functii.h"
 #include "shell/Mesaje.h"
+#include "shell/UiButoane.h"
+#include "shell/UiFormular.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -20,10 +22,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-std::optional<int> ales(const QComboBox* c) {
-    return c->currentIndex() < 0 ? std::nullopt : std::optional<int>(c->currentData().toInt());
-}
 
 void luni(QComboBox* c, int luna) {
     for (int i = 0; i < 12; ++i)
@@ -155,27 +153,18 @@ void frmAnexa2::asazaControale() {
     gg->addLayout(randGenerare, 3, 0, 1, 4);
     principal->addWidget(generare);
 
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    principal->addLayout(butoane);
+    principal->addLayout(RandOkRenunta(
+        this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }, EnterOK::Focalizat));
 
     connect(cmdGenerate, &QPushButton::clicked, this, &frmAnexa2::cmdGenerate_Click);
-    connect(cmdOK, &QPushButton::clicked, this, &frmAnexa2::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmAnexa2::cmdGenerate_Click() {
     ParametriGenerare p;
     p.NrStart = txtDispoz[0]->text();
-    p.TipCerere = ales(cboTipCerere);
+    p.TipCerere = CheieAleasa(cboTipCerere);
     p.DataDisp = dtpData->date();
-    p.Luna = ales(cboDispoz_1);
+    p.Luna = CheieAleasa(cboDispoz_1);
     p.An = txtDispoz[1]->text();
     RezultatGenerare r;
     try {
@@ -214,9 +203,9 @@ RezultatGenerare frmAnexa2::genereazaCuProgres(ParametriGenerare p) {
 }
 
 void frmAnexa2::cmdOK_Click() {
-    Selectie.Actiune = ales(cboCerere[0]);
-    Selectie.TipCerere = ales(cboTipDisp);
-    Selectie.Luna = ales(cboLuna);
+    Selectie.Actiune = CheieAleasa(cboCerere[0]);
+    Selectie.TipCerere = CheieAleasa(cboTipDisp);
+    Selectie.Luna = CheieAleasa(cboLuna);
     Selectie.NrMin = txtDispozitieMin->text();
     Selectie.NrMax = txtDispozitieMax->text();
     ESTE_OK = true;

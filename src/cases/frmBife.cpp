@@ -1,9 +1,11 @@
 #include "cases/frmBife.h"
 
 #include "cases/StareCerere.h"
+#include "cases/UiGrilaSume.h"
 #include "shell/Eroare.h"
 #include "shell/Functii.h"
 #include "shell/Mesaje.h"
+#include "shell/UiButoane.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -66,11 +68,7 @@ frmBife::frmBife(BazaDate& bd, Mesaje& m, StareCerere& stare, QWidget* parinte)
     Grid->setColumnWidth(1, 40);
     Grid->setColumnWidth(3, 100);
     Grid->setColumnWidth(ColoanaCantitate, 140);
-    Grid->verticalHeader()->setDefaultSectionSize(Grid->fontMetrics().height() + 8);
-    Grid->setSelectionMode(QAbstractItemView::SingleSelection);
-    Grid->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
-                          QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
-    Grid->setWordWrap(false);
+    PregatesteGrilaSume(Grid);
     asezare->addWidget(Grid, 5);
 
     auto* jos = new QHBoxLayout;
@@ -84,21 +82,17 @@ frmBife::frmBife(BazaDate& bd, Mesaje& m, StareCerere& stare, QWidget* parinte)
     jos->addWidget(eticheta);
     jos->addWidget(txtVenituri);
     jos->addStretch(1);
-    auto buton = [&](const char* nume, const QString& text) {
-        auto* b = new QPushButton(text, this);
-        b->setObjectName(QLatin1String(nume));
-        b->setAutoDefault(false);
-        jos->addWidget(b);
-        return b;
-    };
-    cmdPreview = buton("cmdPreview", QStringLiteral("Previzualizare"));
-    cmdPrint = buton("cmdPrint", QStringLiteral("Tipareste"));
-    cmdOK = buton("cmdOK", QStringLiteral("OK"));
-    cmdCancel = buton("cmdCancel", QStringLiteral("Renunta"));
+    cmdPreview = Buton(this, jos, "cmdPreview", QStringLiteral("Previzualizare"));
+    cmdPrint = Buton(this, jos, "cmdPrint", QStringLiteral("Tipareste"));
+    cmdOK = Buton(this, jos, "cmdOK", QStringLiteral("OK"));
+    cmdCancel = Buton(this, jos, "cmdCancel", QStringLiteral("Renunta"));
     asezare->addLayout(jos);
 
     umple();
-    connect(Grid, &QTableWidget::cellChanged, this, &frmBife::Grid_Change);
+    ConecteazaColoanaSume(
+        Grid, ColoanaCantitate, m_, [this](size_t rand, const QString& text) { grila_.Seteaza(rand, text); },
+        [this](size_t rand) { return TextCelula(grila_.Cantitate(rand)); },
+        [this] { txtVenituri->setText(FormatSuma(grila_.Valoare())); });
     connect(cmdPreview, &QPushButton::clicked, this, &frmBife::cmdPreview_Click);
     connect(cmdPrint, &QPushButton::clicked, this, &frmBife::cmdPrint_Click);
     connect(cmdOK, &QPushButton::clicked, this, &frmBife::cmdOK_Click);
@@ -135,21 +129,6 @@ void frmBife::umple() {
         cantitate->setBackground(FundalCantitate);
         Grid->setItem(r, ColoanaCantitate, cantitate);
     }
-    txtVenituri->setText(FormatSuma(grila_.Valoare()));
-}
-
-void frmBife::Grid_Change(int rand, int coloana) {
-    if (seUmple_ || coloana != ColoanaCantitate) return;
-    QTableWidgetItem* celula = Grid->item(rand, coloana);
-    if (!celula) return;
-    try {
-        grila_.Seteaza(size_t(rand), celula->text());
-    } catch (const Eroare& e) {
-        m_.Avertisment(e.text());
-    }
-    seUmple_ = true;
-    celula->setText(TextCelula(grila_.Cantitate(size_t(rand))));
-    seUmple_ = false;
     txtVenituri->setText(FormatSuma(grila_.Valoare()));
 }
 

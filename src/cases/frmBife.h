@@ -44,12 +44,10 @@ public:
     QPushButton* cmdCancel;
 
 private:
-    void Grid_Change(int rand, int coloana);
     void umple();
 
     Mesaje& m_;
     StareCerere& stare_;
     CatalogBife catalog_;
     GrilaBunuri grila_;
-    bool seUmple_ = false;
 };

@@ -3,6 +3,7 @@
 #include "cases/ControalePersoana.h"
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
+#include "shell/UiButoane.h"
 
 #include <QAbstractTableModel>
 #include <QGridLayout>
@@ -163,21 +164,15 @@ frmMembrii::frmMembrii(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(pari
         lvwMembrii->setColumnWidth(i, latimi[i]);
 
     auto* butoane = new QHBoxLayout;
-    auto buton = [&](QPushButton*& b, const char* nume, const QString& text) {
-        b = new QPushButton(text, this);
-        b->setObjectName(QLatin1String(nume));
-        b->setAutoDefault(false);
-        butoane->addWidget(b);
-    };
-    buton(cmdAdd, "cmdAdd", QStringLiteral("Adauga"));
-    buton(cmdEdit, "cmdEdit", QStringLiteral("Modifica"));
-    buton(cmdDelete, "cmdDelete", QStringLiteral("Sterge"));
+    cmdAdd = Buton(this, butoane, "cmdAdd", QStringLiteral("Adauga"));
+    cmdEdit = Buton(this, butoane, "cmdEdit", QStringLiteral("Modifica"));
+    cmdDelete = Buton(this, butoane, "cmdDelete", QStringLiteral("Sterge"));
     for (QPushButton* b : {cmdAdd, cmdEdit, cmdDelete}) {
         b->setEnabled(false);
         b->setToolTip(QStringLiteral("Persoanele se modifica din cererea lor."));
     }
     butoane->addStretch(1);
-    buton(cmdCancel, "cmdCancel", QStringLiteral("Inchide"));
+    cmdCancel = Buton(this, butoane, "cmdCancel", QStringLiteral("Inchide"));
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* tot = new QVBoxLayout(this);

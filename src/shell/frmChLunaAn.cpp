@@ -6,6 +6,7 @@
 #include "shell/Program.h"
 #include "shell/ServiciuFisiere.h"
 #include "shell/Setari.h"
+#include "shell/UiButoane.h"
 #include "shell/Val.h"
 
 #include <QFormLayout>
@@ -23,17 +24,8 @@ frmChLunaAn::frmChLunaAn(Program& p, Mesaje& m, QWidget* parinte) : QDialog(pari
     txtAn->setObjectName(QStringLiteral("txtAn"));
     forma->addRow(QStringLiteral("Luna:"), txtLuna);
     forma->addRow(QStringLiteral("Anul:"), txtAn);
-    auto* butoane = new QHBoxLayout;
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdOK->setDefault(true);
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    forma->addRow(butoane);
-    connect(cmdOK, &QPushButton::clicked, this, &frmChLunaAn::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    forma->addRow(RandOkRenunta(
+        this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }, EnterOK::Implicit, false));
 }
 
 void frmChLunaAn::cmdOK_Click() {

@@ -3,6 +3,7 @@
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
 #include "shell/ServiciuFisiere.h"
+#include "shell/UiButoane.h"
 
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -27,18 +28,9 @@ frmGeneral::frmGeneral(const QString& fisierSetari, const QString& caleBD, Mesaj
     rand->addWidget(Txt);
     rand->addWidget(cmdBrowse);
     asezare->addLayout(rand);
-    auto* butoane = new QHBoxLayout;
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    butoane->addStretch();
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    asezare->addLayout(butoane);
+    asezare->addLayout(RandOkRenunta(
+        this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }, EnterOK::Focalizat));
     connect(cmdBrowse, &QPushButton::clicked, this, &frmGeneral::cmdBrowse_Click);
-    connect(cmdOK, &QPushButton::clicked, this, &frmGeneral::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmGeneral::cmdBrowse_Click() {

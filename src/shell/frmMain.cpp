@@ -20,6 +20,7 @@
 #include "shell/Pornire.h"
 #include "shell/Program.h"
 #include "shell/Setari.h"
+#include "shell/UiButoane.h"
 #include "shell/UiDataOptionala.h"
 #include "shell/frmAbout.h"
 #include "shell/frmChLunaAn.h"
@@ -128,20 +129,15 @@ void frmMain::construiesteCautarea(QWidget* sus) {
     asezare->addWidget(fraCaut);
 
     auto* butoane = new QHBoxLayout;
-    auto buton = [&](QPushButton*& b, const char* nume, const QString& text) {
-        b = new QPushButton(text, sus);
-        b->setObjectName(QString::fromLatin1(nume));
-        butoane->addWidget(b);
-    };
-    buton(cmdAdd, "cmdAdd", QStringLiteral("Adauga cerere"));
-    buton(cmdEdit, "cmdEdit", QStringLiteral("Modifica cerere"));
-    buton(cmdDelete, "cmdDelete", QStringLiteral("Sterge cerere"));
+    cmdAdd = Buton(sus, butoane, "cmdAdd", QStringLiteral("Adauga cerere"));
+    cmdEdit = Buton(sus, butoane, "cmdEdit", QStringLiteral("Modifica cerere"));
+    cmdDelete = Buton(sus, butoane, "cmdDelete", QStringLiteral("Sterge cerere"));
     butoane->addSpacing(16);
-    buton(cmdCerere, "cmdCerere", QStringLiteral("Tiparire &cerere"));
+    cmdCerere = Buton(sus, butoane, "cmdCerere", QStringLiteral("Tiparire &cerere"));
     cmdCerere->setToolTip(QStringLiteral("tiparire cerere si declaratie de venit"));
-    buton(cmdSelect, "cmdSelect", QStringLiteral("Cerere..."));
-    buton(cmdDeclaratie, "cmdDeclaratie", QStringLiteral("Declaratie de venit"));
-    buton(cmdFisaCalcul, "cmdFisaCalcul", QStringLiteral("Tiparire &Fisa de calcul"));
+    cmdSelect = Buton(sus, butoane, "cmdSelect", QStringLiteral("Cerere..."));
+    cmdDeclaratie = Buton(sus, butoane, "cmdDeclaratie", QStringLiteral("Declaratie de venit"));
+    cmdFisaCalcul = Buton(sus, butoane, "cmdFisaCalcul", QStringLiteral("Tiparire &Fisa de calcul"));
     cmdFisaCalcul->setToolTip(QStringLiteral("Tiparire Fisa de calcul"));
     auto* lblDataFisa = new QLabel(QStringLiteral("Data emiterii fisei"), sus);
     butoane->addWidget(lblDataFisa);
@@ -153,7 +149,7 @@ void frmMain::construiesteCautarea(QWidget* sus) {
     lblDataFisa->setBuddy(dtpDataFisa->editor());
     butoane->addWidget(dtpDataFisa);
     butoane->addStretch();
-    buton(cmdExit, "cmdExit", QStringLiteral("Iesire"));
+    cmdExit = Buton(sus, butoane, "cmdExit", QStringLiteral("Iesire"));
     cmdSelect->setEnabled(false);
     cmdCerere->setEnabled(false);
     mnuCerere = new QMenu(QStringLiteral("Cerere"), cmdSelect);

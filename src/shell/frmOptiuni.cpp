@@ -2,6 +2,7 @@
 
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
+#include "shell/UiButoane.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
@@ -143,17 +144,8 @@ void frmOptiuni::AsazaControale() {
     vRapoarte->addStretch();
     tabOptiuni->addTab(rapoarte, QStringLiteral("Rapoarte"));
 
-    auto* butoane = new QHBoxLayout;
-    cmdOK = Control(new QPushButton(QStringLiteral("OK"), this), "cmdOK");
-    cmdCancel = Control(new QPushButton(QStringLiteral("Renunta"), this), "cmdCancel");
-    cmdOK->setDefault(true);
-    butoane->addStretch();
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    asezare->addLayout(butoane);
+    asezare->addLayout(RandOkRenunta(this, cmdOK, cmdCancel, [this] { OK(); }));
 
-    connect(cmdOK, &QPushButton::clicked, this, &frmOptiuni::OK);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(cmdFont, &QPushButton::clicked, this, &frmOptiuni::cmdFont_Click);
     connect(cmdCuloare, &QPushButton::clicked, this, &frmOptiuni::cmdCuloare_Click);
     connect(cmdDelColor, &QPushButton::clicked, this, &frmOptiuni::cmdDelColor_Click);

@@ -3,6 +3,8 @@
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
 #include "shell/Pornire.h"
+#include "shell/UiButoane.h"
+#include "store/UiListe.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -22,43 +24,24 @@ frmAdMotive::frmAdMotive(BazaDate& bd, Mesaje& m, std::optional<Motiv> rec, QWid
     txtDenumire->setMinimumWidth(300);
     txtDenumire->setToolTip(QStringLiteral("Denumirea Motivului poate fi de maxim 50 de caractere alfanumerice"));
     forma->addRow(QStringLiteral("Denumire motiv"), txtDenumire);
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch();
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdOK->setDefault(true);
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    forma->addRow(butoane);
-    connect(cmdOK, &QPushButton::clicked, this, &frmAdMotive::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    forma->addRow(RandOkRenunta(this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }));
 }
 
 void frmAdMotive::cmdOK_Click() {
-    if (!VerificaBD(bd_, m_)) return;
-    try {
-        const Motiv mt{Rec.MotivID, txtDenumire->text()};
-        if (const auto refuz = VerificaMotiv(bd_, mt.Denumire, Adaug ? std::nullopt : std::optional(Rec.MotivID))) {
-            m_.Informatie(*refuz);
-            txtDenumire->setFocus();
-            txtDenumire->selectAll();
-            return;
-        }
-        if (Adaug) {
+    const Motiv mt{Rec.MotivID, txtDenumire->text()};
+    const auto verifica = [&] {
+        return VerificaMotiv(bd_, mt.Denumire, Adaug ? std::nullopt : std::optional(Rec.MotivID));
+    };
+    const auto scrie = [&] {
+        if (Adaug)
             Rec = AdaugaMotiv(bd_, mt);
-        } else {
-            if (!ModificaMotiv(bd_, mt)) {
-                m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
-                return;
-            }
+        else if (ModificaMotiv(bd_, mt))
             Rec = mt;
-        }
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+        else
+            return false;
+        return true;
+    };
+    if (!ScrieRandLista(bd_, m_, txtDenumire, verifica, scrie)) return;
     ESTE_OK = true;
     accept();
 }

@@ -3,6 +3,8 @@
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
 #include "shell/Pornire.h"
+#include "shell/UiButoane.h"
+#include "store/UiListe.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -28,43 +30,24 @@ frmAdSate::frmAdSate(BazaDate& bd, Mesaje& m, std::optional<Strada> rec, QWidget
     txtDenumire->setMinimumWidth(260);
     camp(txtOfPostal, "txtOfPostal", QStringLiteral("Oficiul Postal"), Rec.OfPostal);
     camp(txtCodPostal, "txtCodPostal", QStringLiteral("Cod Postal"), Rec.CodPostal);
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch();
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdOK->setDefault(true);
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    forma->addRow(butoane);
-    connect(cmdOK, &QPushButton::clicked, this, &frmAdSate::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    forma->addRow(RandOkRenunta(this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }));
 }
 
 void frmAdSate::cmdOK_Click() {
-    if (!VerificaBD(bd_, m_)) return;
-    try {
-        const Strada s{Rec.StradaID, txtDenumire->text(), txtOfPostal->text(), txtCodPostal->text()};
-        if (const auto refuz = VerificaStrada(bd_, s.Denumire, Adaug ? std::nullopt : std::optional(Rec.StradaID))) {
-            m_.Informatie(*refuz);
-            txtDenumire->setFocus();
-            txtDenumire->selectAll();
-            return;
-        }
-        if (Adaug) {
+    const Strada s{Rec.StradaID, txtDenumire->text(), txtOfPostal->text(), txtCodPostal->text()};
+    const auto verifica = [&] {
+        return VerificaStrada(bd_, s.Denumire, Adaug ? std::nullopt : std::optional(Rec.StradaID));
+    };
+    const auto scrie = [&] {
+        if (Adaug)
             Rec = AdaugaStrada(bd_, s);
-        } else {
-            if (!ModificaStrada(bd_, s)) {
-                m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
-                return;
-            }
+        else if (ModificaStrada(bd_, s))
             Rec = s;
-        }
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+        else
+            return false;
+        return true;
+    };
+    if (!ScrieRandLista(bd_, m_, txtDenumire, verifica, scrie)) return;
     ESTE_OK = true;
     accept();
 }

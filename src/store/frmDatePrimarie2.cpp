@@ -3,6 +3,7 @@
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
 #include "shell/Pornire.h"
+#include "shell/UiButoane.h"
 
 #include <QComboBox>
 #include <QCompleter>
@@ -77,17 +78,8 @@ frmDatePrimarie2::frmDatePrimarie2(BazaDate& bd, Mesaje& m, QWidget* parinte) : 
     eticheta->setBuddy(cbo);
     forma->addRow(eticheta, cbo);
 
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch();
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdCancel = new QPushButton(QStringLiteral("Renunta"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    butoane->addWidget(cmdOK);
-    butoane->addWidget(cmdCancel);
-    forma->addRow(butoane);
-    connect(cmdOK, &QPushButton::clicked, this, &frmDatePrimarie2::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    forma->addRow(RandOkRenunta(
+        this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }, EnterOK::Focalizat));
 
     try {
         txtText[Judet]->setCompleter(ListaAjutatoare(Judete(bd_), this));
@@ -140,15 +132,9 @@ void frmDatePrimarie2::cmdOK_Click() {
 }
 
 bool frmDatePrimarie2::eventFilter(QObject* obiect, QEvent* e) {
-    if (e->type() == QEvent::KeyPress) {
-        const int tasta = static_cast<QKeyEvent*>(e)->key();
-        if (tasta == Qt::Key_Return || tasta == Qt::Key_Enter) {
-            focusNextChild();
-            return true;
-        }
-    } else if (e->type() == QEvent::FocusIn) {
-        // Deferred, so that the click which brought the focus doesn't undo the selection.
-        if (auto* t = qobject_cast<QLineEdit*>(obiect)) QTimer::singleShot(0, t, &QLineEdit::selectAll);
+    if (EnterCaTab(obiect, e)) {
+        focusNextChild();
+        return true;
     }
     return QDialog::eventFilter(obiect, e);
 }

@@ -13,6 +13,12 @@
 
 using namespace DateReferinta;
 
+namespace {
+
+const QString FaraSelectie = QStringLiteral("Selectati mai intai un Motiv");
+
+} // namespace
+
 frmMotive::frmMotive(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(parinte), bd_(bd), m_(m) {
     setObjectName(QStringLiteral("frmMotive"));
     setWindowTitle(QStringLiteral("Motive"));
@@ -21,24 +27,9 @@ frmMotive::frmMotive(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(parint
     lvwMotive->setObjectName(QStringLiteral("lvwMotive"));
     PregatesteLista(lvwMotive, {QStringLiteral("ID"), QStringLiteral("Motiv")});
     asezare->addWidget(lvwMotive);
-    auto* butoane = new QHBoxLayout;
-    auto buton = [&](QPushButton*& b, const char* nume, const QString& text) {
-        b = new QPushButton(text, this);
-        b->setObjectName(QString::fromLatin1(nume));
-        b->setAutoDefault(false);
-        butoane->addWidget(b);
-    };
-    buton(cmdAdd, "cmdAdd", QStringLiteral("Adauga"));
-    buton(cmdEdit, "cmdEdit", QStringLiteral("Modifica"));
-    buton(cmdDelete, "cmdDelete", QStringLiteral("Sterge"));
-    butoane->addStretch();
-    buton(cmdClose, "cmdClose", QStringLiteral("Inchide"));
-    asezare->addLayout(butoane);
-    connect(cmdAdd, &QPushButton::clicked, this, &frmMotive::cmdAdd_Click);
-    connect(cmdEdit, &QPushButton::clicked, this, &frmMotive::cmdEdit_Click);
-    connect(cmdDelete, &QPushButton::clicked, this, &frmMotive::cmdDelete_Click);
-    connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
-    connect(lvwMotive, &QTreeWidget::itemDoubleClicked, this, &frmMotive::cmdEdit_Click);
+    asezare->addLayout(
+        RandComenziLista(this, lvwMotive, cmdAdd, cmdEdit, cmdDelete, cmdClose,
+                         {[this] { cmdAdd_Click(); }, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); }}));
 
     try {
         for (const Motiv& mt : Motive(bd_))
@@ -58,42 +49,23 @@ void frmMotive::cmdAdd_Click() {
 }
 
 void frmMotive::cmdEdit_Click() {
-    RandLista* r = RandSelectat(lvwMotive);
-    if (!r) {
-        m_.Informatie(QStringLiteral("Selectati mai intai un Motiv"));
-        return;
-    }
+    QTreeWidgetItem* r = RandAles(lvwMotive, m_, FaraSelectie);
     std::optional<Motiv> mt;
-    try {
-        mt = CitesteMotiv(bd_, r->Cheie());
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
+    if (!r ||
+        !RecitesteRandul(lvwMotive, r, m_, [&](qint64 cheie) { return (mt = CitesteMotiv(bd_, cheie)).has_value(); }))
         return;
-    }
-    if (!mt) {
-        m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
-        StergeRand(lvwMotive, r);
-        return;
-    }
     frmAdMotive f(bd_, m_, *mt, this);
     ArataModal(f);
     if (f.ESTE_OK) r->setText(1, f.Rec.Denumire);
 }
 
 void frmMotive::cmdDelete_Click() {
-    RandLista* r = RandSelectat(lvwMotive);
-    if (!r) {
-        m_.Informatie(QStringLiteral("Selectati mai intai un Motiv"));
+    QTreeWidgetItem* r = RandAles(lvwMotive, m_, FaraSelectie);
+    if (!r || !VerificaBD(bd_, m_)) return;
+    std::optional<Motiv> mt;
+    if (!RecitesteRandul(lvwMotive, r, m_, [&](qint64 cheie) { return (mt = CitesteMotiv(bd_, cheie)).has_value(); }))
         return;
-    }
-    if (!VerificaBD(bd_, m_)) return;
     try {
-        const std::optional<Motiv> mt = CitesteMotiv(bd_, r->Cheie());
-        if (!mt) {
-            m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
-            StergeRand(lvwMotive, r);
-            return;
-        }
         if (!m_.Intrebare(QStringLiteral("Sigur doriti sa stergeti Motivul ") + mt->Denumire + QStringLiteral(" ?"), {},
                           false))
             return;

@@ -22,24 +22,9 @@ frmSate::frmSate(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(parinte), 
     PregatesteLista(lvwSate, {QStringLiteral("ID"), QStringLiteral("Denumire sat /strada"), QStringLiteral("Of Postal"),
                               QStringLiteral("Cod Postal")});
     asezare->addWidget(lvwSate);
-    auto* butoane = new QHBoxLayout;
-    auto buton = [&](QPushButton*& b, const char* nume, const QString& text) {
-        b = new QPushButton(text, this);
-        b->setObjectName(QString::fromLatin1(nume));
-        b->setAutoDefault(false);
-        butoane->addWidget(b);
-    };
-    buton(cmdAdd, "cmdAdd", QStringLiteral("Adauga"));
-    buton(cmdEdit, "cmdEdit", QStringLiteral("Modifica"));
-    buton(cmdDelete, "cmdDelete", QStringLiteral("Sterge"));
-    butoane->addStretch();
-    buton(cmdClose, "cmdClose", QStringLiteral("Inchide"));
-    asezare->addLayout(butoane);
-    connect(cmdAdd, &QPushButton::clicked, this, &frmSate::cmdAdd_Click);
-    connect(cmdEdit, &QPushButton::clicked, this, &frmSate::cmdEdit_Click);
-    connect(cmdDelete, &QPushButton::clicked, this, &frmSate::cmdDelete_Click);
-    connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
-    connect(lvwSate, &QTreeWidget::itemDoubleClicked, this, &frmSate::cmdEdit_Click);
+    asezare->addLayout(
+        RandComenziLista(this, lvwSate, cmdAdd, cmdEdit, cmdDelete, cmdClose,
+                         {[this] { cmdAdd_Click(); }, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); }}));
 
     try {
         for (const Strada& s : Strazi(bd_)) {
@@ -71,42 +56,23 @@ void frmSate::cmdAdd_Click() {
 }
 
 void frmSate::cmdEdit_Click() {
-    RandLista* r = RandSelectat(lvwSate);
-    if (!r) {
-        m_.Informatie(QStringLiteral("Selectati mai intai un sat / strada /"));
-        return;
-    }
+    QTreeWidgetItem* r = RandAles(lvwSate, m_, QStringLiteral("Selectati mai intai un sat / strada /"));
     std::optional<Strada> s;
-    try {
-        s = CitesteStrada(bd_, r->Cheie());
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
+    if (!r ||
+        !RecitesteRandul(lvwSate, r, m_, [&](qint64 cheie) { return (s = CitesteStrada(bd_, cheie)).has_value(); }))
         return;
-    }
-    if (!s) {
-        m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
-        StergeRand(lvwSate, r);
-        return;
-    }
     frmAdSate f(bd_, m_, *s, this);
     ArataModal(f);
     if (f.ESTE_OK) ScrieRand(r, f.Rec);
 }
 
 void frmSate::cmdDelete_Click() {
-    RandLista* r = RandSelectat(lvwSate);
-    if (!r) {
-        m_.Informatie(QStringLiteral("Selectati mai intai un sat /strada"));
+    QTreeWidgetItem* r = RandAles(lvwSate, m_, QStringLiteral("Selectati mai intai un sat /strada"));
+    if (!r || !VerificaBD(bd_, m_)) return;
+    std::optional<Strada> s;
+    if (!RecitesteRandul(lvwSate, r, m_, [&](qint64 cheie) { return (s = CitesteStrada(bd_, cheie)).has_value(); }))
         return;
-    }
-    if (!VerificaBD(bd_, m_)) return;
     try {
-        const std::optional<Strada> s = CitesteStrada(bd_, r->Cheie());
-        if (!s) {
-            m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
-            StergeRand(lvwSate, r);
-            return;
-        }
         if (StradaFolosita(bd_, s->Denumire)) {
             m_.Informatie(QStringLiteral("Strada / satul ") + s->Denumire +
                           QStringLiteral(" nu poate fi sters pentru ca face parte din cel putin o cerere"));
