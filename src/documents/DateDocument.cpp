@@ -1,8 +1,10 @@
 #include "documents/DateDocument.h"
 
+#include "cases/DateCerere.h"
 #include "shell/Functii.h"
 #include "shell/Setari.h"
 #include "store/BazaDate.h"
+#include "store/DateReferinta.h"
 
 #include <QDir>
 
@@ -15,18 +17,16 @@ OptiuniDocumente OptiuniDinSetari(const Setari& s, const QString& applicationPat
 }
 
 std::optional<PrimarieDocument> CitestePrimaria(BazaDate& db) {
-    Interogare q(db, QStringLiteral("SELECT Judet, Localitate, Primar, Secretar, CodFiscal, AsSocial, TipLocalitate "
-                                    "FROM DatePrimarie"));
-    q.Executa();
-    if (!q.Urmator()) return std::nullopt;
+    const auto r = DateReferinta::CitesteRandPrimarie(db);
+    if (!r) return std::nullopt;
     PrimarieDocument p;
-    p.Judet = Camp::Text(q, QStringLiteral("Judet"));
-    p.Localitate = Camp::Text(q, QStringLiteral("Localitate"));
-    p.Primar = Camp::Text(q, QStringLiteral("Primar"));
-    p.Secretar = Camp::Text(q, QStringLiteral("Secretar"));
-    p.CodFiscal = Camp::Text(q, QStringLiteral("CodFiscal"));
-    p.AsSocial = Camp::Text(q, QStringLiteral("AsSocial"));
-    p.TipLocalitate = Camp::Intreg(q, QStringLiteral("TipLocalitate"));
+    p.Judet = r->Text("Judet");
+    p.Localitate = r->Text("Localitate");
+    p.Primar = r->Text("Primar");
+    p.Secretar = r->Text("Secretar");
+    p.CodFiscal = r->Text("CodFiscal");
+    p.AsSocial = r->Text("AsSocial");
+    p.TipLocalitate = r->TipLocalitate;
     return p;
 }
 
@@ -45,6 +45,25 @@ QString TextAdresa(const AdresaFamilie& a, const QString& strSat, bool numePropr
 QString TextData(const QDate& d) {
     return FormatData(d);
 }
+
+namespace TextOptional {
+
+std::optional<QString> Numar(const std::optional<qint64>& v) {
+    if (!v) return std::nullopt;
+    return QString::number(*v);
+}
+
+std::optional<QString> Data(const std::optional<QDate>& v) {
+    if (!v) return std::nullopt;
+    return TextData(*v);
+}
+
+std::optional<QString> Suma(const std::optional<Bani>& v) {
+    if (!v) return std::nullopt;
+    return TextSuma(*v);
+}
+
+} // namespace TextOptional
 
 QString NumeIntreg(const std::optional<QString>& nume, const std::optional<QString>& prenume) {
     return nume.value_or(QString()) + QLatin1Char(' ') + prenume.value_or(QString());

@@ -41,6 +41,13 @@ QString TextAdresa(const AdresaFamilie& a, const QString& strSat, bool numePropr
 // A date as documents write it: dd.mm.yyyy.
 QString TextData(const QDate& d);
 
+// The texts of nullable values as documents write them; a null stays null.
+namespace TextOptional {
+std::optional<QString> Numar(const std::optional<qint64>& v);
+std::optional<QString> Data(const std::optional<QDate>& v);
+std::optional<QString> Suma(const std::optional<Bani>& v);
+} // namespace TextOptional
+
 // "Nume Prenume"; a missing part counts as empty.
 QString NumeIntreg(const std::optional<QString>& nume, const std::optional<QString>& prenume);
 

@@ -9,22 +9,11 @@
 #include <map>
 #include <utility>
 
+using namespace TextOptional;
+
 namespace {
 
 const QString Puncte = QStringLiteral(".....................");
-
-std::optional<QString> Numar(const std::optional<qint64>& v) {
-    if (!v) return std::nullopt;
-    return QString::number(*v);
-}
-std::optional<QString> Data(const std::optional<QDate>& v) {
-    if (!v) return std::nullopt;
-    return TextData(*v);
-}
-std::optional<QString> Suma(const std::optional<Bani>& v) {
-    if (!v) return std::nullopt;
-    return TextSuma(*v);
-}
 
 QByteArray Marcaj(const char* inceput, int n) {
     return QByteArray(inceput) + QByteArray::number(n) + '#';

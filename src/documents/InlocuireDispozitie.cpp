@@ -10,6 +10,8 @@
 
 #include <unordered_map>
 
+using namespace TextOptional;
+
 namespace {
 
 struct FormaSex {
@@ -45,19 +47,6 @@ constexpr FormaSex FormeSex[] = {
 };
 
 const Bani TreaptaBarem = *Bani::DinText(u"0.4");
-
-std::optional<QString> Numar(const std::optional<qint64>& v) {
-    if (!v) return std::nullopt;
-    return QString::number(*v);
-}
-std::optional<QString> Data(const std::optional<QDate>& v) {
-    if (!v) return std::nullopt;
-    return TextData(*v);
-}
-std::optional<QString> Suma(const std::optional<Bani>& v) {
-    if (!v) return std::nullopt;
-    return TextSuma(*v);
-}
 
 DateDispozitie CitesteRand(const Interogare& q) {
     DateDispozitie d;

@@ -3,6 +3,8 @@
 #include "store/BazaDate.h"
 #include "store/Schema.h"
 
+#include <algorithm>
+
 namespace DateReferinta {
 
 namespace {
@@ -60,13 +62,28 @@ int LatimeCampPrimarie(int i) {
     return c ? c->marime : 0;
 }
 
+const std::optional<QString>& RandPrimarie::Text(std::string_view nume) const {
+    const auto it = std::find(CampuriPrimarie.begin(), CampuriPrimarie.end(), nume);
+    return text.at(size_t(it - CampuriPrimarie.begin()));
+}
+
+std::optional<RandPrimarie> CitesteRandPrimarie(BazaDate& db) {
+    Interogare q(db, QStringLiteral("SELECT * FROM DatePrimarie"));
+    if (!q.Exista()) return std::nullopt;
+    RandPrimarie r;
+    for (int i = 0; i < NrCampuriPrimarie; ++i)
+        if (!q.EsteNul(camp(i))) r.text[size_t(i)] = q.Text(camp(i));
+    if (const QString tip = QStringLiteral("TipLocalitate"); !q.EsteNul(tip)) r.TipLocalitate = q.Intreg(tip);
+    return r;
+}
+
 DatePrimarie CitesteDatePrimarie(BazaDate& db) {
     DatePrimarie d;
-    Interogare q(db, QStringLiteral("SELECT * FROM DatePrimarie"));
-    if (!q.Exista()) return d;
-    for (int i = 0; i < NrCampuriPrimarie; ++i)
-        d.text[size_t(i)] = q.Text(camp(i));
-    d.TipLocalitate = int(q.Intreg(QStringLiteral("TipLocalitate")));
+    const auto r = CitesteRandPrimarie(db);
+    if (!r) return d;
+    for (size_t i = 0; i < d.text.size(); ++i)
+        d.text[i] = r->text[i].value_or(QString());
+    d.TipLocalitate = int(r->TipLocalitate.value_or(0));
     return d;
 }
 

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <array>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 class BazaDate;
@@ -35,6 +36,16 @@ struct Refuz {
 
 // The width the database keeps for the field of box i.
 int LatimeCampPrimarie(int i);
+
+// The first row of DatePrimarie as stored, a null field as none.
+struct RandPrimarie {
+    std::array<std::optional<QString>, NrCampuriPrimarie> text;
+    std::optional<qint64> TipLocalitate;
+    // The text of the field named `camp`, one of CampuriPrimarie.
+    const std::optional<QString>& Text(std::string_view camp) const;
+};
+// Nothing when the table is empty.
+std::optional<RandPrimarie> CitesteRandPrimarie(BazaDate& db);
 
 // The first row of DatePrimarie; empty values when the table is empty.
 DatePrimarie CitesteDatePrimarie(BazaDate& db);
