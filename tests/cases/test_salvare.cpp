@@ -397,14 +397,7 @@ TEST_P(Salvare, CheileNoiNuSeCiocnesc) {
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Adeverinte")), 12);
 
     // A request numbered above the families (its family has another number).
-    AdaugaCerereTest(Bd(), {40,
-                            1,
-                            9,
-                            2,
-                            1,
-                            QStringLiteral("Branesti"),
-                            {},
-                            {{100, QStringLiteral("Dan"), QStringLiteral("Ion"), QStringLiteral("1700101400012"), 1}}});
+    AdaugaCerereTest(Bd(), {40, 1, 9, 2, 1, QStringLiteral("Branesti"), {}, {{100, "Dan", "Ion", "1700101400012", 1}}});
     const RezultatSalvare c = Salveaza(d);
     EXPECT_EQ(c.CerereID, 41);
     EXPECT_EQ(c.FamilieID, 41);
