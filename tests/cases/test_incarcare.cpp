@@ -132,32 +132,15 @@ TEST_P(Incarcare, ValorileDinTabeleAjungLaLocullor) {
                                "VALUES (?, NULL, ?, ?, ?, NULL, ?)"),
                 {7, QStringLiteral("Ilfov"), QStringLiteral("Branesti"), QStringLiteral("Str. Morii"),
                  QStringLiteral("021")});
-        Executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP, SerieBI, NrBI) VALUES "
-                               "(?, ?, ?, ?, ?, ?), (?, ?, ?, ?, NULL, NULL), (?, ?, ?, ?, NULL, NULL), "
-                               "(?, ?, ?, NULL, NULL, NULL), (?, ?, ?, ?, ?, ?)"),
-                {9,
-                 QStringLiteral("Pop"),
-                 QStringLiteral("Ion"),
-                 QStringLiteral("1850305400011"),
-                 QStringLiteral("RX"),
-                 QStringLiteral("11"),
-                 2,
-                 QStringLiteral("Pop"),
-                 QStringLiteral("Ana"),
-                 QStringLiteral("612345678901"),
-                 5,
-                 QStringLiteral("Pop"),
-                 QStringLiteral("Dan"),
-                 QStringLiteral("5101340400022"),
-                 3,
-                 QStringLiteral("Pop"),
-                 QStringLiteral("Eva"),
-                 12,
-                 QStringLiteral("Iesit"),
-                 QStringLiteral("Ion"),
-                 QStringLiteral("1700101400099"),
-                 QStringLiteral("RT"),
-                 QStringLiteral("22")});
+        const QString membru = QStringLiteral(
+            "INSERT INTO Membrii (MembruID, Nume, Prenume, CNP, SerieBI, NrBI) VALUES (?, ?, ?, ?, ?, ?)");
+        const auto T = [](const char* s) { return QVariant(QString::fromLatin1(s)); };
+        const QVariant nul;
+        Executa(membru, {9, T("Pop"), T("Ion"), T("1850305400011"), T("RX"), T("11")});
+        Executa(membru, {2, T("Pop"), T("Ana"), T("612345678901"), nul, nul});
+        Executa(membru, {5, T("Pop"), T("Dan"), T("5101340400022"), nul, nul});
+        Executa(membru, {3, T("Pop"), T("Eva"), nul, nul, nul});
+        Executa(membru, {12, T("Iesit"), T("Ion"), T("1700101400099"), T("RT"), T("22")});
         Executa(QStringLiteral(
                     "INSERT INTO Cereri (CerereID, FamilieID, NrCerere, Stare, TipCerere, ModPlata, ReprLegal, "
                     "VenitTotal, VenitPeMembru, Cuantum, NrMembrii, NrCopii, Gospodarire, GospodLoc, Bife, "
