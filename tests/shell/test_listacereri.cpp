@@ -11,26 +11,12 @@ protected:
         if (IsSkipped()) return;
         BazaDate& db = BazaNoua();
         // Requests 1 and 2 share a family and a child; request 3 stands alone.
-        AdaugaCerereTest(db, {1,
-                              0,
-                              10,
-                              2,
-                              1,
-                              QStringLiteral("Branesti"),
-                              QStringLiteral("Garii"),
-                              {{1, "Popescu", "Ion", "1800101400123", 1}, {2, "Popescu", "Ana", "6150101400127", 3}}});
-        AdaugaCerereTest(db, {2,
-                              1,
-                              9,
-                              3,
-                              2,
-                              {},
-                              {},
-                              {{3, "popa", "Maria", "2850315400128", 1},
-                               {2, "Popescu", "Ana", "6150101400127", 3},
-                               {4, "Popa", "Dan", "5120505400121", 3}}});
-        AdaugaCerereTest(
-            db, {3, 0, 2, 4, 1, QStringLiteral("Cernica"), {}, {{5, "Ionescu", "Vasile", "1790202123456", 1}}});
+        const CerereTest::Persoana ion{1, "Popescu", "Ion", "1800101400123", 1},
+            ana{2, "Popescu", "Ana", "6150101400127", 3}, maria{3, "popa", "Maria", "2850315400128", 1},
+            dan{4, "Popa", "Dan", "5120505400121", 3}, vasile{5, "Ionescu", "Vasile", "1790202123456", 1};
+        AdaugaCerereTest(db, {1, 0, 10, 2, 1, QStringLiteral("Branesti"), QStringLiteral("Garii"), {ion, ana}});
+        AdaugaCerereTest(db, {2, 1, 9, 3, 2, {}, {}, {maria, ana, dan}});
+        AdaugaCerereTest(db, {3, 0, 2, 4, 1, QStringLiteral("Cernica"), {}, {vasile}});
     }
 
     QList<qint64> Id(const FiltruCautare& f) {
