@@ -287,42 +287,21 @@ TEST_F(FisierSetari, ScrieOptiuniApoiIncarcaSetari) {
     const Setari scrise = SetariSchimbate();
     ScrieOptiuni(Ini(), scrise);
 
-    const std::vector<std::string> ordine = {"Generale/OpresteActualizareAutomata",
-                                             "Ordonari/NrCerereAnexa3",
-                                             "Fonturi/FontSize0",
-                                             "Fonturi/FontName0",
-                                             "Fonturi/FontB0",
-                                             "Fonturi/FontI0",
-                                             "Fonturi/FontU0",
-                                             "Afisari/AfisCereri",
-                                             "Fisiere/Anexa3",
-                                             "Fisiere/Anexa4",
-                                             "Fisiere/StatPlata",
-                                             "Generale/Anexa2ExportWord",
-                                             "Generale/StrSat",
-                                             "Generale/AfisSerieStatPlata",
-                                             "Generale/ReteaSetat",
-                                             "Generale/Motiv",
-                                             "Borderou/HeightRowBorderou",
-                                             "Raport/HeightRowRaport",
-                                             "App/AppWord",
-                                             "Generale/DataCerereTiparita",
-                                             "Cereri/Cerere13Pag",
-                                             "Cereri/Ancheta14Pag",
-                                             "Generale/NotificareActe",
-                                             "Cereri/AngajamentPlata",
-                                             "Cereri/CertificarePrimar",
-                                             "Generale/NrCerereInAncheta",
-                                             "Generale/NrCerereTiparita",
-                                             "Generale/ServerCerere",
-                                             "Generale/CuloareVenit",
-                                             "Cale/CaleWord"};
+    // The keys in the order the dialog writes them.
+    const QString ordine = QStringLiteral(
+        "Generale/OpresteActualizareAutomata Ordonari/NrCerereAnexa3 Fonturi/FontSize0 Fonturi/FontName0 "
+        "Fonturi/FontB0 Fonturi/FontI0 Fonturi/FontU0 Afisari/AfisCereri Fisiere/Anexa3 Fisiere/Anexa4 "
+        "Fisiere/StatPlata Generale/Anexa2ExportWord Generale/StrSat Generale/AfisSerieStatPlata "
+        "Generale/ReteaSetat Generale/Motiv Borderou/HeightRowBorderou Raport/HeightRowRaport App/AppWord "
+        "Generale/DataCerereTiparita Cereri/Cerere13Pag Cereri/Ancheta14Pag Generale/NotificareActe "
+        "Cereri/AngajamentPlata Cereri/CertificarePrimar Generale/NrCerereInAncheta Generale/NrCerereTiparita "
+        "Generale/ServerCerere Generale/CuloareVenit Cale/CaleWord");
     // A new file takes the sections in the order they are first written.
     std::vector<std::string> dupaSectiune;
     for (const char* sectiune :
          {"Generale", "Ordonari", "Fonturi", "Afisari", "Fisiere", "Borderou", "Raport", "App", "Cereri", "Cale"})
-        for (const auto& c : ordine)
-            if (c.starts_with(std::string(sectiune) + '/')) dupaSectiune.push_back(c);
+        for (const QString& c : ordine.split(u' '))
+            if (c.startsWith(QLatin1String(sectiune) + u'/')) dupaSectiune.push_back(S(c));
     EXPECT_EQ(Chei(), dupaSectiune);
 
     const struct {
