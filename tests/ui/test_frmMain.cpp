@@ -46,24 +46,11 @@ protected:
         return f;
     }
 
+    // Requests 1 and 2 share family 1 and the child Ana; the address is left empty.
     void TreiCereri() {
-        AdaugaCerereTest(Bd(),
-                         {1,
-                          0,
-                          10,
-                          2,
-                          1,
-                          {},
-                          {},
-                          {{1, "Popescu", "Ion", "1800101400123", 1}, {2, "Popescu", "Ana", "6150101400127", 3}}});
-        AdaugaCerereTest(Bd(), {2,
-                                1,
-                                9,
-                                3,
-                                2,
-                                {},
-                                {},
-                                {{3, "Popa", "Maria", "2850315400128", 1}, {2, "Popescu", "Ana", "6150101400127", 3}}});
+        const CerereTest::Persoana ana{2, "Popescu", "Ana", "6150101400127", 3};
+        AdaugaCerereTest(Bd(), {1, 0, 10, 2, 1, {}, {}, {{1, "Popescu", "Ion", "1800101400123", 1}, ana}});
+        AdaugaCerereTest(Bd(), {2, 1, 9, 3, 2, {}, {}, {{3, "Popa", "Maria", "2850315400128", 1}, ana}});
         AdaugaCerereTest(Bd(), {3, 0, 100, 2, 1, {}, {}, {{5, "Anghel", "Vasile", "1790202400129", 1}}});
     }
 
