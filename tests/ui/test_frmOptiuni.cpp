@@ -61,38 +61,15 @@ TEST_F(DialogOptiuni, ControaleleArataSetarile) {
     Setari s = Pornire();
     frmOptiuni f(s, Ini(), m_);
     EXPECT_EQ(S(f.windowTitle()), "Optiuni");
-    for (const char* nume : {"cboNrCerereAnexa3",
-                             "cboNrCerere",
-                             "cboAppWord",
-                             "cboDataCerere",
-                             "chkAfisCereri",
-                             "txtAnexa3",
-                             "txtAnexa4",
-                             "txtStatPlata",
-                             "chkAnexa2ExportWord",
-                             "txtStrSat",
-                             "chkSerieStatPlata",
-                             "chkReteaSetat",
-                             "chkMotiv",
-                             "txtHeightRowBorderou",
-                             "txtHeightRowRaport",
-                             "chkCerere13Pag",
-                             "chkAncheta14Pag",
-                             "chkNotifActe",
-                             "chkAngPlata",
-                             "chkCertificare",
-                             "chkNrCerereInAncheta",
-                             "chkNrCerere",
-                             "txtServerCerere",
-                             "chk_update_off",
-                             "lblFont",
-                             "cmdFont",
-                             "cmdCuloare",
-                             "lblFundal",
-                             "cmdDelColor",
-                             "cmdOK",
-                             "cmdCancel"})
-        Gaseste<QWidget>(f, nume);
+    // Every control the dialog is built of.
+    const QByteArray controale =
+        "cboNrCerereAnexa3 cboNrCerere cboAppWord cboDataCerere chkAfisCereri txtAnexa3 txtAnexa4 "
+        "txtStatPlata chkAnexa2ExportWord txtStrSat chkSerieStatPlata chkReteaSetat chkMotiv "
+        "txtHeightRowBorderou txtHeightRowRaport chkCerere13Pag chkAncheta14Pag chkNotifActe chkAngPlata "
+        "chkCertificare chkNrCerereInAncheta chkNrCerere txtServerCerere chk_update_off lblFont cmdFont "
+        "cmdCuloare lblFundal cmdDelColor cmdOK cmdCancel";
+    for (const QByteArray& nume : controale.split(' '))
+        Gaseste<QWidget>(f, nume.constData());
 
     EXPECT_EQ(S(Gaseste<QComboBox>(f, "cboNrCerereAnexa3")->currentText()), "NrDispozitie");
     EXPECT_EQ(S(Gaseste<QComboBox>(f, "cboAppWord")->currentText()), "Word Pad");
@@ -217,34 +194,27 @@ TEST_F(DialogOptiuni, OKScrieFisierulSiSetarile) {
 }
 
 TEST_F(DialogOptiuni, MarimeaFontuluiInAfaraLimitelorNuScrieNimic) {
-    const struct {
-        int marime;
-        const char* mesaj;
-    } cazuri[] = {{73, "Marimea caracterelor nu poate fi mai mare de 72"},
-                  {1, "Marimea caracterelor nu poate fi mai mica de 2"}};
-    for (const auto& c : cazuri) {
-        m_.mesaje.clear();
-        Setari s = Pornire();
-        frmOptiuni f(s, Ini(), m_);
-        Gaseste<QCheckBox>(f, "chkReteaSetat")->setChecked(true);
-        QFont font(QStringLiteral("DejaVu Sans"));
-        font.setPointSize(c.marime);
-        f.AlegeFont(font);
-        f.OK();
-        EXPECT_EQ(m_.Texte(MesajeInregistrate::Fel::Avertisment), QStringList{QString::fromLatin1(c.mesaj)});
-        EXPECT_NE(f.result(), QDialog::Accepted) << c.marime;
-        EXPECT_FALSE(QFile::exists(Ini())) << c.marime;
-        EXPECT_TRUE(s == Pornire()) << c.marime;
+    // The limits themselves: Optiuni.VerificaMarimeaFontului.
+    Setari s = Pornire();
+    frmOptiuni f(s, Ini(), m_);
+    Gaseste<QCheckBox>(f, "chkReteaSetat")->setChecked(true);
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPointSize(73);
+    f.AlegeFont(font);
+    f.OK();
+    EXPECT_EQ(m_.Texte(MesajeInregistrate::Fel::Avertisment),
+              QStringList{QStringLiteral("Marimea caracterelor nu poate fi mai mare de 72")});
+    EXPECT_NE(f.result(), QDialog::Accepted);
+    EXPECT_FALSE(QFile::exists(Ini()));
+    EXPECT_TRUE(s == Pornire());
 
-        // A size within the limits then goes through.
-        font.setPointSize(72);
-        f.AlegeFont(font);
-        f.OK();
-        EXPECT_EQ(f.result(), QDialog::Accepted);
-        EXPECT_EQ(s.FontSize0, 72);
-        EXPECT_EQ(Citeste("Fonturi", "FontSize0"), "72");
-        QFile::remove(Ini());
-    }
+    // A size within the limits then goes through.
+    font.setPointSize(72);
+    f.AlegeFont(font);
+    f.OK();
+    EXPECT_EQ(f.result(), QDialog::Accepted);
+    EXPECT_EQ(s.FontSize0, 72);
+    EXPECT_EQ(Citeste("Fonturi", "FontSize0"), "72");
 }
 
 TEST_F(DialogOptiuni, RenuntaNuSchimbaNimic) {
