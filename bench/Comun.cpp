@@ -1,5 +1,6 @@
 #include "Comun.h"
 
+#include "cases/Adeverinte.h"
 #include "store/ActualizareBD.h"
 #include "store/DateLivrate.h"
 #include "store/Demo.h"
@@ -29,4 +30,34 @@ LocatieBD BazaDemoSQLite(int cereri, bool copie) {
     QFile::remove(lucru.FisierSQLite());
     QFile::copy(loc.FisierSQLite(), lucru.FisierSQLite());
     return lucru;
+}
+
+namespace {
+constexpr int MinimLuna = 2000; // fewer rows than this in the month say little about the query
+} // namespace
+
+// The demo data expire around the day they were generated; run in another month, a copy of the
+// database gets a certificate expiring this month for every fifth request in force.
+LocatieBD BazaDemoCuActeInLuna(int cereri, const QDate& azi) {
+    {
+        auto db = BazaDate::Deschide(BazaDemoSQLite(cereri, false));
+        if (Adeverinte::ListaActeExpira(*db, azi).size() >= size_t(MinimLuna)) return BazaDemoSQLite(cereri, false);
+    }
+    const LocatieBD loc = BazaDemoSQLite(cereri, true);
+    auto db = BazaDate::Deschide(loc);
+    Tranzactie t(*db);
+    const qint64 baza = db->CheieNoua(QStringLiteral("Adeverinte"), QStringLiteral("AdevID"));
+    Interogare(*db, QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, NrAdev, "
+                                   "DataAdeverinta, DataDepunerii, DataExpAdev, AdvCurenta) "
+                                   "SELECT ? + CerereID, CerereID, MembruID1, ?, ?, ?, ?, ?, 1 FROM Cereri "
+                                   "WHERE Stare IN (2, 6, 7, 8) AND MembruID1 IS NOT NULL AND CerereID % 5 = 0"))
+        .Leaga(baza)
+        .Leaga(8)
+        .Leaga(QStringLiteral("B-1"))
+        .Leaga(azi.addMonths(-6))
+        .Leaga(azi.addMonths(-6))
+        .Leaga(QDate(azi.year(), azi.month(), 15))
+        .Executa();
+    t.Confirma();
+    return loc;
 }

@@ -7,28 +7,70 @@
 #include "shell/Functii.h"
 #include "shell/Mesaje.h"
 
+#include <QAbstractTableModel>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <QVBoxLayout>
 
-namespace {
-enum Rol { RolCerere = Qt::UserRole + 1, RolAdev };
-}
+class ModelActeExpira : public QAbstractTableModel {
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    void Pune(std::vector<RandActExpira> randuri) {
+        beginResetModel();
+        randuri_ = std::move(randuri);
+        endResetModel();
+    }
+    const RandActExpira& Rand(int rand) const { return randuri_[size_t(rand)]; }
+
+    int rowCount(const QModelIndex& p = {}) const override { return p.isValid() ? 0 : int(randuri_.size()); }
+    int columnCount(const QModelIndex& p = {}) const override { return p.isValid() ? 0 : 5; }
+    QVariant data(const QModelIndex& i, int rol) const override {
+        if (rol != Qt::DisplayRole || !i.isValid() || size_t(i.row()) >= randuri_.size()) return {};
+        const RandActExpira& r = randuri_[size_t(i.row())];
+        switch (i.column()) {
+        case 0:
+            return QString::number(r.MembruID);
+        case 1:
+            return QString::number(i.row() + 1);
+        case 2:
+            return r.Membru;
+        case 3:
+            return r.TipAct;
+        case 4:
+            return FormatData(r.DataExpAdev);
+        }
+        return {};
+    }
+    QVariant headerData(int sectiune, Qt::Orientation o, int rol) const override {
+        static const QString antet[] = {QStringLiteral("ID"), QStringLiteral("#"), QStringLiteral("Membru"),
+                                        QStringLiteral("Tip Act"), QStringLiteral("Data Exp")};
+        if (o != Qt::Horizontal || rol != Qt::DisplayRole || sectiune < 0 || sectiune >= 5) return {};
+        return antet[sectiune];
+    }
+
+private:
+    std::vector<RandActExpira> randuri_;
+};
 
 frmListaActeExpira::frmListaActeExpira(BazaDate& db, Mesaje& m, QWidget* parinte) : QDialog(parinte), db_(db), m_(m) {
     setObjectName(QStringLiteral("frmListaActeExpira"));
     auto* asezare = new QVBoxLayout(this);
-    lvwActe = new QTreeWidget(this);
+    model_ = new ModelActeExpira(this);
+    lvwActe = new QTreeView(this);
     lvwActe->setObjectName(QStringLiteral("lvwActe"));
+    lvwActe->setModel(model_);
     lvwActe->setRootIsDecorated(false);
+    lvwActe->setItemsExpandable(false);
     lvwActe->setUniformRowHeights(true);
     lvwActe->setAllColumnsShowFocus(true);
     lvwActe->setSelectionMode(QAbstractItemView::SingleSelection);
-    lvwActe->setHeaderLabels({QStringLiteral("ID"), QStringLiteral("#"), QStringLiteral("Membru"),
-                              QStringLiteral("Tip Act"), QStringLiteral("Data Exp")});
+    lvwActe->setSelectionBehavior(QAbstractItemView::SelectRows);
+    lvwActe->setEditTriggers(QAbstractItemView::NoEditTriggers);
     asezare->addWidget(lvwActe);
     auto* jos = new QHBoxLayout;
     lblInfo = new QLabel(QStringLiteral("Dublu click pe membru pentru detalii."), this);
@@ -45,7 +87,7 @@ frmListaActeExpira::frmListaActeExpira(BazaDate& db, Mesaje& m, QWidget* parinte
     Timer1->setInterval(250);
     connect(Timer1, &QTimer::timeout, this, &frmListaActeExpira::Timer1_Timer);
     connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
-    connect(lvwActe, &QTreeWidget::itemDoubleClicked, this, &frmListaActeExpira::lvwActe_DblClick);
+    connect(lvwActe, &QAbstractItemView::doubleClicked, this, &frmListaActeExpira::lvwActe_DblClick);
 
     resize(620, 420);
     AfisLista();
@@ -61,26 +103,17 @@ void frmListaActeExpira::AfisLista() {
         m_.Critic(e.text());
         return;
     }
-    lvwActe->clear();
-    if (randuri.empty()) {
+    const bool gol = randuri.empty();
+    model_->Pune(std::move(randuri));
+    if (gol) {
         AscundeNotificarea();
         Timer1->start();
         return;
     }
-    QList<QTreeWidgetItem*> iteme;
-    iteme.reserve(qsizetype(randuri.size()));
-    int nr = 0;
-    for (const RandActExpira& r : randuri) {
-        auto* i = new QTreeWidgetItem(QStringList{QString::number(r.MembruID), QString::number(++nr), r.Membru,
-                                                  r.TipAct, FormatData(r.DataExpAdev)});
-        i->setData(0, RolCerere, r.CerereID);
-        i->setData(0, RolAdev, r.AdevID);
-        iteme << i;
-    }
-    lvwActe->addTopLevelItems(iteme);
-    for (int c = 0; c < lvwActe->columnCount(); ++c)
+    // Sized from the rows in view and the header's sample, never from every row of the month.
+    for (int c = 0; c < model_->columnCount(); ++c)
         lvwActe->resizeColumnToContents(c);
-    lvwActe->setCurrentItem(lvwActe->topLevelItem(0));
+    lvwActe->setCurrentIndex(model_->index(0, 0));
 }
 
 void frmListaActeExpira::Timer1_Timer() {
@@ -90,16 +123,16 @@ void frmListaActeExpira::Timer1_Timer() {
 }
 
 void frmListaActeExpira::lvwActe_DblClick() {
-    const auto selectate = lvwActe->selectedItems();
+    const auto selectate = lvwActe->selectionModel()->selectedRows();
     if (selectate.isEmpty()) {
         m_.Informatie(QStringLiteral("Selectati o cerere"));
         return;
     }
-    const QTreeWidgetItem* r = selectate.first();
-    const qint64 membru = r->text(0).toLongLong();
+    const RandActExpira& r = model_->Rand(selectate.first().row());
+    const qint64 membru = r.MembruID;
     std::optional<qint64> cerere;
     try {
-        cerere = Adeverinte::CerereActExpira(db_, membru, r->data(0, RolCerere).toLongLong(), Ceas::Azi());
+        cerere = Adeverinte::CerereActExpira(db_, membru, r.CerereID, Ceas::Azi());
     } catch (const Eroare& e) {
         m_.Critic(e.text());
         return;

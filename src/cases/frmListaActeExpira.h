@@ -8,7 +8,8 @@ class Mesaje;
 class QLabel;
 class QPushButton;
 class QTimer;
-class QTreeWidget;
+class QTreeView;
+class ModelActeExpira;
 
 // "Lista Membrilor ale caror acte expira in luna ...": the current certificates of requests in
 // force that expire in this calendar month. A double click opens the request on that person.
@@ -28,7 +29,8 @@ public:
     // Hides the main window's notice of expiring certificates.
     std::function<void()> AscundeNotificarea = [] {};
 
-    QTreeWidget* lvwActe;
+    // The rows are shown through a model: a month of a large office holds thousands of them.
+    QTreeView* lvwActe;
     QLabel* lblInfo;
     QPushButton* cmdClose;
     QTimer* Timer1;
@@ -36,4 +38,5 @@ public:
 private:
     BazaDate& db_;
     Mesaje& m_;
+    ModelActeExpira* model_;
 };

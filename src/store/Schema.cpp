@@ -275,7 +275,8 @@ std::vector<IndexSchema> construiesteIndexuri() {
         ix("Locuinte", {"CerereID"}),
         ix("Adeverinte", {"CerereID"}),
         ix("Adeverinte", {"MembruID"}),
-        ix("Adeverinte", {"DataExpAdev"}),
+        // Covers the month's expiry list, which then reads no certificate row.
+        ix("Adeverinte", {"DataExpAdev", "AdvCurenta", "CerereID", "MembruID", "TipAdeverinta"}),
         ix("IstoricCereri", {"CerereID"}),
         ix("BifeText", {"CerereID"}),
         ix("Politii", {"LocalitateID"}),

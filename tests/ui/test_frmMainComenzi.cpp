@@ -440,8 +440,8 @@ TEST_P(ComenziFereastra, NotificareaDeschideListaActelorSiCerereaPePersoana) {
     int editoare = 0;
     raspunsModal = [&](QDialog& d) {
         if (auto* lista = qobject_cast<frmListaActeExpira*>(&d)) {
-            EXPECT_EQ(lista->lvwActe->topLevelItemCount(), 1);
-            lista->lvwActe->setCurrentItem(lista->lvwActe->topLevelItem(0));
+            EXPECT_EQ(lista->lvwActe->model()->rowCount(), 1);
+            lista->lvwActe->setCurrentIndex(lista->lvwActe->model()->index(0, 0));
             lista->lvwActe_DblClick();
             return int(QDialog::Accepted);
         }
@@ -466,7 +466,7 @@ TEST_P(ComenziFereastra, NotificareaDeschideListaActelorSiCerereaPePersoana) {
     dialoguri.clear();
     raspunsModal = [](QDialog& d) {
         auto& lista = static_cast<frmListaActeExpira&>(d);
-        EXPECT_EQ(lista.lvwActe->topLevelItemCount(), 0);
+        EXPECT_EQ(lista.lvwActe->model()->rowCount(), 0);
         EXPECT_TRUE(lista.Timer1->isActive());
         lista.Timer1_Timer();
         return int(QDialog::Rejected);
