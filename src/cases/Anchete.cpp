@@ -1,5 +1,6 @@
 #include "cases/Anchete.h"
 
+#include "cases/RandDisponibil.h"
 #include "shell/Eroare.h"
 #include "shell/Functii.h"
 #include "shell/Mesaje.h"
@@ -17,6 +18,7 @@ const QString Stearsa =
     QStringLiteral("Aceasta Ancheta a fost stearsa de alt utilizator. Modificarile dvs. nu pot avea "
                    "loc. Aceasta fereastra se va inchide!");
 const QString RandNegasit = QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cerere!");
+const QString SelectAncheta = QStringLiteral("SELECT 1 FROM Anchete WHERE AnchetaID = ?");
 
 QVariant textSauNul(const QString& s) {
     return s.isEmpty() ? QVariant() : QVariant(s);
@@ -50,12 +52,6 @@ std::optional<int> optionalDin(const QVariant& v) {
 
 QString textDin(const QVariant& v) {
     return v.isNull() ? QString() : v.toString();
-}
-
-bool exista(BazaDate& db, const QString& sql, qint64 cheie) {
-    Interogare q(db, sql);
-    q.Leaga(cheie);
-    return q.Exista();
 }
 
 } // namespace
@@ -269,29 +265,13 @@ QString Anchete::TitluAnchete(const QString& solicitant, size_t randuri) {
 }
 
 bool Anchete::PoateAdauga(BazaDate& db, Mesaje& m, qint64 cerereID) {
-    if (!VerificaBD(db, m)) return false;
-    if (cerereID == 0) {
-        m.Informatie(QStringLiteral("Selectati o cerere"));
-        return false;
-    }
-    if (!exista(db, QStringLiteral("SELECT 1 FROM Cereri WHERE CerereID = ?"), cerereID)) {
-        m.Informatie(QStringLiteral("Cererea selectata a fost stearsa de alt utilizator! Dati clic pe Cauta"));
-        return false;
-    }
-    return true;
+    return RandDisponibil(db, m, cerereID, QStringLiteral("Selectati o cerere"),
+                          QStringLiteral("SELECT 1 FROM Cereri WHERE CerereID = ?"),
+                          QStringLiteral("Cererea selectata a fost stearsa de alt utilizator! Dati clic pe Cauta"));
 }
 
 bool Anchete::PoateModifica(BazaDate& db, Mesaje& m, qint64 anchetaID) {
-    if (!VerificaBD(db, m)) return false;
-    if (anchetaID == 0) {
-        m.Informatie(QStringLiteral("Selectati o ancheta"));
-        return false;
-    }
-    if (!exista(db, QStringLiteral("SELECT 1 FROM Anchete WHERE AnchetaID = ?"), anchetaID)) {
-        m.Informatie(RandNegasit);
-        return false;
-    }
-    return true;
+    return RandDisponibil(db, m, anchetaID, QStringLiteral("Selectati o ancheta"), SelectAncheta, RandNegasit);
 }
 
 QString Anchete::IntrebareStergere(const QString& textRand) {
@@ -299,15 +279,8 @@ QString Anchete::IntrebareStergere(const QString& textRand) {
 }
 
 bool Anchete::Sterge(BazaDate& db, Mesaje& m, qint64 anchetaID, const QString& textRand) {
-    if (!VerificaBD(db, m)) return false;
-    if (anchetaID == 0) {
-        m.Informatie(QStringLiteral("Selectati o ancheta!"));
+    if (!RandDisponibil(db, m, anchetaID, QStringLiteral("Selectati o ancheta!"), SelectAncheta, RandNegasit))
         return false;
-    }
-    if (!exista(db, QStringLiteral("SELECT 1 FROM Anchete WHERE AnchetaID = ?"), anchetaID)) {
-        m.Informatie(RandNegasit);
-        return false;
-    }
     if (!m.Intrebare(IntrebareStergere(textRand))) return false;
     Tranzactie t(db);
     Interogare d(db, QStringLiteral("DELETE FROM Anchete WHERE AnchetaID = ?"));

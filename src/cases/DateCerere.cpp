@@ -425,11 +425,3 @@ int CopiiDupaBaza(const std::vector<MembruCerere>& membri, int lunaSetata, int a
     }
     return n;
 }
-
-QString TextSuma(const Bani& b) {
-    QString t = b.Text();
-    while (t.endsWith(u'0'))
-        t.chop(1);
-    if (t.endsWith(u'.')) t.chop(1);
-    return t;
-}

@@ -2,6 +2,7 @@
 
 #include "cases/StareCerere.h"
 #include "shell/Bani.h"
+#include "shell/Functii.h"
 
 #include <QDate>
 #include <QString>
@@ -86,6 +87,3 @@ CerereIncarcata IncarcaCerere(BazaDate& db, qint64 cerereID, int lunaSetata, int
 // to 10, none of Repetent, Abandon, Peste20abs, and Data18Ani not exactly one calendar month
 // before the working month (a missing Data18Ani never counts).
 int CopiiDupaBaza(const std::vector<MembruCerere>& membri, int lunaSetata, int anSetat);
-
-// An amount as a text box shows it: no trailing zeros, a point as the mark ("1200.5", "164").
-QString TextSuma(const Bani& b);

@@ -1,5 +1,6 @@
 #include "cases/Dispozitii.h"
 
+#include "cases/RandDisponibil.h"
 #include "shell/Ceas.h"
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
@@ -58,12 +59,6 @@ QDate primaZi(int an, std::optional<int> luna) {
 
 QString sumaDin(const QVariant& v) {
     return v.isNull() ? QString() : Dispozitii::TextSuma(Bani::DinVariant(v));
-}
-
-bool exista(BazaDate& db, const QString& sql, qint64 cheie) {
-    Interogare q(db, sql);
-    q.Leaga(cheie);
-    return q.Exista();
 }
 
 QString insertLot(size_t randuri) {
@@ -127,14 +122,6 @@ std::optional<int> Dispozitii::ActiunePropusa(int stare) {
     default:
         return std::nullopt;
     }
-}
-
-QString Dispozitii::TextSuma(const Bani& b) {
-    QString t = b.Text();
-    while (t.endsWith(QLatin1Char('0')))
-        t.chop(1);
-    if (t.endsWith(QLatin1Char('.'))) t.chop(1);
-    return t;
 }
 
 Bani Dispozitii::SumaTastata(const QString& text) {
@@ -328,16 +315,8 @@ bool Dispozitii::PoateAdauga(BazaDate& db, Mesaje& m, qint64 cerereID) {
 }
 
 bool Dispozitii::PoateModifica(BazaDate& db, Mesaje& m, qint64 dispozitieID) {
-    if (!VerificaBD(db, m)) return false;
-    if (dispozitieID == 0) {
-        m.Informatie(QStringLiteral("Selectati o dispozitie"));
-        return false;
-    }
-    if (!exista(db, QStringLiteral("SELECT 1 FROM Dispozitii WHERE DispozitieID = ?"), dispozitieID)) {
-        m.Informatie(RandNegasit);
-        return false;
-    }
-    return true;
+    return RandDisponibil(db, m, dispozitieID, QStringLiteral("Selectati o dispozitie"),
+                          QStringLiteral("SELECT 1 FROM Dispozitii WHERE DispozitieID = ?"), RandNegasit);
 }
 
 RezultatGenerare Dispozitii::Genereaza(BazaDate& db, Mesaje& m, const ParametriGenerare& p) {

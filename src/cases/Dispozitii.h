@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/Bani.h"
+#include "shell/Functii.h"
 
 #include <QDate>
 #include <QString>
@@ -114,7 +115,7 @@ void AplicaActiune(BlocuriDispozitie& b, std::optional<int> actiune);
 std::optional<int> ActiunePropusa(int stare);
 
 // The amount as a text box shows it: no trailing zeros ("164", "12.5").
-QString TextSuma(const Bani& b);
+using ::TextSuma;
 // An amount as the clerk typed it, read from its start: "12,50" gives 12. Throws Eroare when it
 // does not fit an amount.
 Bani SumaTastata(const QString& text);

@@ -56,15 +56,6 @@ int bifa(bool b) {
     return b ? 1 : 0;
 }
 
-// A LIKE pattern that matches what begins with the text, its wild cards taken literally.
-QString prefix(const QString& text) {
-    QString t = text;
-    t.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
-    t.replace(QLatin1Char('%'), QStringLiteral("\\%"));
-    t.replace(QLatin1Char('_'), QStringLiteral("\\_"));
-    return t + QLatin1Char('%');
-}
-
 } // namespace
 
 DatePersoana PersoanaNoua(const StareCerere& stare) {
@@ -429,17 +420,17 @@ std::optional<qint64> CautaInMembrii(BazaDate& db, CautareMembrii camp, const QS
     case CautareMembrii::CNP:
         conditie = QStringLiteral("M.CNP LIKE ?");
         eticheta = QStringLiteral("CNP-ul: ");
-        model = prefix(text);
+        model = PrefixLike(text);
         break;
     case CautareMembrii::Prenume:
         conditie = QStringLiteral("lower(M.Prenume) LIKE ?");
         eticheta = QStringLiteral("Prenumele: ");
-        model = prefix(text.toLower());
+        model = PrefixLike(text.toLower());
         break;
     case CautareMembrii::Nume:
         conditie = QStringLiteral("lower(M.Nume) LIKE ?");
         eticheta = QStringLiteral("Numele: ");
-        model = prefix(text.toLower());
+        model = PrefixLike(text.toLower());
         break;
     }
     Interogare q(db, QStringLiteral("SELECT M.MembruID FROM Membrii M WHERE %1 ESCAPE '\\' ORDER BY M.MembruID LIMIT 1")

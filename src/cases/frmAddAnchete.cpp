@@ -184,14 +184,7 @@ void frmAddAnchete::cmdOK_Click() {
     try {
         const Ancheta a = citesteControalele();
         const VerificareAncheta v = Anchete::VerificaControale(db_, m_, a, mod_, nrCopiiCerere_);
-        if (v.inchide) {
-            reject();
-            return;
-        }
-        if (!v.ok) {
-            if (auto* w = findChild<QWidget*>(v.control)) w->setFocus();
-            return;
-        }
+        if (!UrmeazaVerificarea(this, v.ok, v.inchide, v.control)) return;
         anchetaID_ = Anchete::Salveaza(db_, m_, a, mod_);
     } catch (const Eroare& e) {
         m_.Critic(e.text());

@@ -191,14 +191,7 @@ void frmAddDispozitie::cmdOK_Click() {
     try {
         const Dispozitie d = citesteControalele();
         const VerificareDispozitie v = Dispozitii::VerificaControale(db_, m_, d, mod_);
-        if (v.inchide) {
-            reject();
-            return;
-        }
-        if (!v.ok) {
-            if (auto* w = findChild<QWidget*>(v.control)) w->setFocus();
-            return;
-        }
+        if (!UrmeazaVerificarea(this, v.ok, v.inchide, v.control)) return;
         dispozitieID_ = Dispozitii::Salveaza(db_, d, mod_);
     } catch (const Eroare& e) {
         m_.Critic(e.text());

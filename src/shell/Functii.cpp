@@ -32,15 +32,6 @@ QDate dataCuDepasire(int an, int luna, int zi) {
     return QDate(luniTotal / 12, luniTotal % 12 + 1, 1).addDays(zi - 1);
 }
 
-// The text of an amount as the old run-time wrote it: no trailing zeros, no point for a whole value.
-QString textScurt(const Bani& suma) {
-    QString t = suma.Text();
-    while (t.endsWith(u'0'))
-        t.chop(1);
-    if (t.endsWith(u'.')) t.chop(1);
-    return t;
-}
-
 bool areCifraNenula(QStringView t) {
     return std::any_of(t.begin(), t.end(), [](QChar c) { return c >= u'1' && c <= u'9'; });
 }
@@ -173,8 +164,24 @@ QString FormatSuma(const QString& numar) {
     return negativ ? QLatin1Char('-') + rezultat : rezultat;
 }
 
+QString TextSuma(const Bani& b) {
+    QString t = b.Text();
+    while (t.endsWith(u'0'))
+        t.chop(1);
+    if (t.endsWith(u'.')) t.chop(1);
+    return t;
+}
+
 QString FormatSuma(const Bani& suma) {
-    return FormatSuma(textScurt(suma));
+    return FormatSuma(TextSuma(suma));
+}
+
+QString PrefixLike(const QString& text) {
+    QString t = text;
+    t.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
+    t.replace(QLatin1Char('%'), QStringLiteral("\\%"));
+    t.replace(QLatin1Char('_'), QStringLiteral("\\_"));
+    return t + QLatin1Char('%');
 }
 
 QString FormatData(const QDate& data) {

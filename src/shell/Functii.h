@@ -41,7 +41,12 @@ QString Doua(int n);
 // decimals are kept. The text form takes a plain number with a point or a comma.
 QString FormatSuma(const Bani& suma);
 QString FormatSuma(const QString& numar);
+// An amount as a text box shows it: no trailing zeros, a point as the mark ("1200.5", "164").
+QString TextSuma(const Bani& b);
 QString FormatData(const QDate& data); // dd.mm.yyyy, empty for a missing date
+
+// A LIKE pattern (with a backslash as its ESCAPE) matching what begins with the text, its wild cards taken literally.
+QString PrefixLike(const QString& text);
 
 // First character in upper case, the rest as it is.
 QString MajusculaPrima(const QString& s);

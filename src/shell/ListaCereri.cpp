@@ -1,5 +1,6 @@
 #include "shell/ListaCereri.h"
 
+#include "shell/Functii.h"
 #include "shell/Val.h"
 #include "store/BazaDate.h"
 
@@ -14,15 +15,6 @@ const QString SelectLista = QStringLiteral(
     "FROM Cereri C INNER JOIN Membrii M ON C.MembruID1 = M.MembruID "
     "LEFT JOIN Familii F ON F.FamilieID = C.FamilieID "
     "LEFT JOIN DateGen G ON G.Tip = 1 AND G.DataID = C.Stare");
-
-// A prefix pattern for LIKE, with the wild cards the clerk may type taken literally.
-QString prefix(const QString& text) {
-    QString t = text;
-    t.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
-    t.replace(QLatin1Char('%'), QStringLiteral("\\%"));
-    t.replace(QLatin1Char('_'), QStringLiteral("\\_"));
-    return t + QLatin1Char('%');
-}
 
 RandCerere randDin(const Interogare& q) {
     RandCerere r;
@@ -77,16 +69,16 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
             }
         } else {
             conditii << QStringLiteral("M.CNP LIKE ? ESCAPE '\\'");
-            valori << prefix(f.CNP);
+            valori << PrefixLike(f.CNP);
         }
     }
     if (!f.Nume.isEmpty()) {
         conditii << QStringLiteral("M.Nume %1 ? ESCAPE '\\'").arg(like);
-        valori << prefix(f.Nume);
+        valori << PrefixLike(f.Nume);
     }
     if (!f.Prenume.isEmpty()) {
         conditii << QStringLiteral("M.Prenume %1 ? ESCAPE '\\'").arg(like);
-        valori << prefix(f.Prenume);
+        valori << PrefixLike(f.Prenume);
     }
     if (!f.NrCerere.isEmpty()) {
         conditii << QStringLiteral("C.NrCerere = ?");

@@ -39,6 +39,18 @@ QHBoxLayout* RandOkRenunta(QDialog* d, QPushButton*& ok, QPushButton*& renunta, 
     return rand;
 }
 
+bool UrmeazaVerificarea(QDialog* d, bool ok, bool inchide, const QString& control) {
+    if (inchide) {
+        d->reject();
+        return false;
+    }
+    if (!ok) {
+        if (auto* w = d->findChild<QWidget*>(control)) w->setFocus();
+        return false;
+    }
+    return true;
+}
+
 bool EnterCaTab(QObject* obiect, QEvent* e) {
     if (e->type() == QEvent::KeyPress) {
         const int tasta = static_cast<QKeyEvent*>(e)->key();

@@ -29,6 +29,10 @@ QHBoxLayout* RandOkRenunta(QDialog* d, QPushButton*& ok, QPushButton*& renunta, 
                            EnterOK enter = EnterOK::Implicit, bool laDreapta = true,
                            std::function<void()> laRenunta = nullptr);
 
+// What an editor does with the checks made on OK: closes rejected when `inchide` says its row is
+// gone, or puts the focus on the control named `control` when not `ok`. True when it may write.
+bool UrmeazaVerificarea(QDialog* d, bool ok, bool inchide, const QString& control);
+
 // For the event filter of a form where Enter moves on as Tab does: true when `e` is Enter pressed
 // in `obiect`, which the form then answers with focusNextChild() and by eating the event. A text
 // box taking the focus selects its text.
