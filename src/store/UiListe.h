@@ -58,3 +58,29 @@ QHBoxLayout* RandComenziLista(QDialog* d, QTreeWidget* l, QPushButton*& adauga, 
 // True once written; otherwise the clerk has been told why not.
 bool ScrieRandLista(BazaDate& bd, Mesaje& m, QLineEdit* denumire,
                     const std::function<std::optional<QString>()>& verifica, const std::function<bool()>& scrie);
+
+// The store's functions for the rows of a reference list.
+template <class Rand> struct ScriereRand {
+    // Refuses a name that another row has; `editat` is the key of the row being changed.
+    std::optional<QString> (*verifica)(BazaDate&, const QString&, std::optional<qint64> editat);
+    Rand (*adauga)(BazaDate&, Rand);          // gives back the row with its new key
+    bool (*modifica)(BazaDate&, const Rand&); // false when the row is gone
+};
+
+// ScrieRandLista for the row `nou` named in `denumire`: a new row when `adaug`, else the change of
+// the row with key `cheie`. Once written, `rec` holds the row as written, with its key.
+template <class Rand>
+bool ScrieRandLista(BazaDate& bd, Mesaje& m, QLineEdit* denumire, const ScriereRand<Rand>& f, bool adaug, qint64 cheie,
+                    const Rand& nou, Rand& rec) {
+    const auto verifica = [&] { return f.verifica(bd, nou.Denumire, adaug ? std::nullopt : std::optional(cheie)); };
+    const auto scrie = [&] {
+        if (adaug)
+            rec = f.adauga(bd, nou);
+        else if (f.modifica(bd, nou))
+            rec = nou;
+        else
+            return false;
+        return true;
+    };
+    return ScrieRandLista(bd, m, denumire, verifica, scrie);
+}

@@ -28,20 +28,9 @@ frmAdMotive::frmAdMotive(BazaDate& bd, Mesaje& m, std::optional<Motiv> rec, QWid
 }
 
 void frmAdMotive::cmdOK_Click() {
-    const Motiv mt{Rec.MotivID, txtDenumire->text()};
-    const auto verifica = [&] {
-        return VerificaMotiv(bd_, mt.Denumire, Adaug ? std::nullopt : std::optional(Rec.MotivID));
-    };
-    const auto scrie = [&] {
-        if (Adaug)
-            Rec = AdaugaMotiv(bd_, mt);
-        else if (ModificaMotiv(bd_, mt))
-            Rec = mt;
-        else
-            return false;
-        return true;
-    };
-    if (!ScrieRandLista(bd_, m_, txtDenumire, verifica, scrie)) return;
+    const ScriereRand<Motiv> f{VerificaMotiv, AdaugaMotiv, ModificaMotiv};
+    if (!ScrieRandLista(bd_, m_, txtDenumire, f, Adaug, Rec.MotivID, Motiv{Rec.MotivID, txtDenumire->text()}, Rec))
+        return;
     ESTE_OK = true;
     accept();
 }

@@ -34,20 +34,9 @@ frmAdSate::frmAdSate(BazaDate& bd, Mesaje& m, std::optional<Strada> rec, QWidget
 }
 
 void frmAdSate::cmdOK_Click() {
+    const ScriereRand<Strada> f{VerificaStrada, AdaugaStrada, ModificaStrada};
     const Strada s{Rec.StradaID, txtDenumire->text(), txtOfPostal->text(), txtCodPostal->text()};
-    const auto verifica = [&] {
-        return VerificaStrada(bd_, s.Denumire, Adaug ? std::nullopt : std::optional(Rec.StradaID));
-    };
-    const auto scrie = [&] {
-        if (Adaug)
-            Rec = AdaugaStrada(bd_, s);
-        else if (ModificaStrada(bd_, s))
-            Rec = s;
-        else
-            return false;
-        return true;
-    };
-    if (!ScrieRandLista(bd_, m_, txtDenumire, verifica, scrie)) return;
+    if (!ScrieRandLista(bd_, m_, txtDenumire, f, Adaug, Rec.StradaID, s, Rec)) return;
     ESTE_OK = true;
     accept();
 }
