@@ -28,6 +28,14 @@ const MembruCerere& element(const StareCerere& s, int index) {
     return (*s.MatriceMembri)[size_t(index)];
 }
 
+// No person opens before the kind of allowance is chosen: the clerk is sent to its list.
+bool alesTipul(int tipCerere, Mesaje& m, Deschidere& d) {
+    if (tipCerere != 0) return true;
+    m.Informatie(QStringLiteral("Introduceti tipul de alocatie!"));
+    d.Focus = QStringLiteral("cboCerere_3");
+    return false;
+}
+
 } // namespace
 
 const QStringList& ColoaneLista() {
@@ -143,11 +151,7 @@ bool ListaInPas(const ListaMembri& l, const StareCerere& s) {
 
 Deschidere DeschideAdaugare(const StareCerere& s, int tipCerere, Mesaje& m) {
     Deschidere d;
-    if (tipCerere == 0) {
-        m.Informatie(QStringLiteral("Introduceti tipul de alocatie!"));
-        d.Focus = QStringLiteral("cboCerere_3");
-        return d;
-    }
+    if (!alesTipul(tipCerere, m, d)) return d;
     d.Deschide = true;
     d.Mod = 1;
     d.Index = MatriceNrElemente(s);
@@ -156,11 +160,7 @@ Deschidere DeschideAdaugare(const StareCerere& s, int tipCerere, Mesaje& m) {
 
 Deschidere DeschideModificare(const ListaMembri& l, int tipCerere, Mesaje& m) {
     Deschidere d;
-    if (tipCerere == 0) {
-        m.Informatie(QStringLiteral("Introduceti tipul de alocatie!"));
-        d.Focus = QStringLiteral("cboCerere_3");
-        return d;
-    }
+    if (!alesTipul(tipCerere, m, d)) return d;
     if (l.lvw.empty()) return d;
     if (!l.Selectat || *l.Selectat < 0 || *l.Selectat >= int(l.lvw.size())) {
         m.Informatie(SelectatiOCerere);
