@@ -2,6 +2,7 @@
 #include "shell/Eroare.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
+#include "support/SqlTest.h"
 
 #include <QStringList>
 #include <functional>
@@ -346,12 +347,7 @@ TEST_P(AncheteBaza, NumereleTastateIncapInCampuri) {
 
 TEST_P(AncheteBaza, CheiaNouaEsteMaximulPlusUnu) {
     const qint64 cerere = Cerere(1, {Cnp(QDate(1985, 3, 2), 1), Cnp(QDate(2014, 2, 3), 2)});
-    Interogare(Bd(), QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID) VALUES (?, ?), (?, ?)"))
-        .Leaga(41)
-        .Leaga(900)
-        .Leaga(7)
-        .Leaga(900)
-        .Executa();
+    ExecutaCu(Bd(), QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID) VALUES (?, ?), (?, ?)"), 41, 900, 7, 900);
     const Ancheta a = Completa(cerere, QDate(2024, 5, 10), 1);
     EXPECT_EQ(Anchete::Salveaza(Bd(), mesaje, a, ModAncheta::Adaugare), 42);
     EXPECT_EQ(Anchete::Salveaza(Bd(), mesaje, a, ModAncheta::Adaugare), 43);
