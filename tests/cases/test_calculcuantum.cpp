@@ -2,6 +2,7 @@
 #include "shell/Eroare.h"
 #include "shell/Functii.h"
 #include "support/BazaTest.h"
+#include "support/SqlTest.h"
 
 #include <QStringList>
 #include <functional>
@@ -435,29 +436,15 @@ TEST_P(CalculCuantumBaza, ParametriiDinBaza) {
         EXPECT_EQ(p.PraguriVenit, std::optional<QString>(T("210.2|557.03")));
     }
 
-    Interogare(db, QStringLiteral("UPDATE ListaBife SET Valoare = ? WHERE NrBifa = ?"))
-        .Leaga(B("1234.5678"))
-        .Leaga(20)
-        .Executa();
-    Interogare(db,
-               QStringLiteral(
-                   "INSERT INTO Barem (Tip, Descriere, NrPers, Barem, Suma, DataInceput) VALUES (?, ?, ?, ?, ?, ?)"))
-        .Leaga(7)
-        .Leaga("PROBA")
-        .Leaga(1)
-        .Leaga(B("0.0666"))
-        .Leaga(B("1.06"))
-        .Leaga(QDate(2020, 2, 29))
-        .Executa();
-    Interogare(db,
-               QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, 0, 1, ?, 0)"))
-        .Leaga("ISR")
-        .Leaga("600")
-        .Executa();
-    Interogare(db, QStringLiteral("UPDATE DateGen SET Continut = ? WHERE Denumire = ?"))
-        .Leaga(QVariant())
-        .Leaga("PRAGURI_VENIT")
-        .Executa();
+    ExecutaCu(db, QStringLiteral("UPDATE ListaBife SET Valoare = ? WHERE NrBifa = ?"), B("1234.5678"), 20);
+    ExecutaCu(db,
+              QStringLiteral(
+                  "INSERT INTO Barem (Tip, Descriere, NrPers, Barem, Suma, DataInceput) VALUES (?, ?, ?, ?, ?, ?)"),
+              7, "PROBA", 1, B("0.0666"), B("1.06"), QDate(2020, 2, 29));
+    ExecutaCu(db,
+              QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, 0, 1, ?, 0)"),
+              "ISR", "600");
+    ExecutaCu(db, QStringLiteral("UPDATE DateGen SET Continut = ? WHERE Denumire = ?"), QVariant(), "PRAGURI_VENIT");
     {
         const ParametriCuantum p = IncarcaParametri(db);
         EXPECT_EQ(p.ListaBife.at(20), B("1234.5678"));
@@ -484,7 +471,7 @@ TEST_P(CalculCuantumBaza, ParametriiDinBaza) {
         EXPECT_THROW(CalculCuantum({stare, 1, QDate(2014, 12, 1), T("300"), Luna, An}, p, m), Eroare);
     }
 
-    Interogare(db, QStringLiteral("DELETE FROM DateGen WHERE Denumire = ?")).Leaga("PRAGURI_VENIT").Executa();
+    ExecutaCu(db, QStringLiteral("DELETE FROM DateGen WHERE Denumire = ?"), "PRAGURI_VENIT");
     EXPECT_FALSE(IncarcaParametri(db).PraguriVenit.has_value());
 }
 
