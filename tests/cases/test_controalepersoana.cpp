@@ -1,6 +1,7 @@
 #include "cases/ControalePersoana.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
+#include "support/SqlTest.h"
 
 #include <gtest/gtest.h>
 
@@ -83,12 +84,8 @@ TEST_P(ListePersoanaBaza, CoduriCareIncepCuTextul) {
         "1850505460011", "1859999999999", "1860000000000", "2851111111111", "1850505460012", "18%_x", "185"};
     qint64 id = 1;
     for (const char* c : coduri)
-        Interogare(db, T("INSERT INTO Membrii (MembruID, Nume, CNP) VALUES (?, ?, ?)"))
-            .Leaga(id++)
-            .Leaga(T("X"))
-            .Leaga(T(c))
-            .Executa();
-    Interogare(db, T("INSERT INTO Membrii (MembruID, Nume) VALUES (?, ?)")).Leaga(id++).Leaga(T("FARA CNP")).Executa();
+        ExecutaCu(db, T("INSERT INTO Membrii (MembruID, Nume, CNP) VALUES (?, ?, ?)"), id++, T("X"), T(c));
+    ExecutaCu(db, T("INSERT INTO Membrii (MembruID, Nume) VALUES (?, ?)"), id++, T("FARA CNP"));
 
     const struct {
         const char* inceput;
@@ -152,15 +149,11 @@ TEST_P(ListePersoanaBaza, PaginileBrowseruluiSuntListaInBucati) {
     {
         Tranzactie t(db);
         for (qint64 id = 1; id <= 40; ++id)
-            Interogare(db, T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP, TipAct, SerieBI) "
-                             "VALUES (?, ?, ?, ?, ?, ?)"))
-                .Leaga(id * 3)
-                .Leaga(T("NUME%1").arg(id))
-                .Leaga(T("PRENUME%1").arg(41 - id))
-                .Leaga(T("18501014%1").arg(id, 5, 10, QLatin1Char('0')))
-                .Leaga(id % 3)
-                .Leaga(T("S%1").arg(id))
-                .Executa();
+            ExecutaCu(db,
+                      T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP, TipAct, SerieBI) "
+                        "VALUES (?, ?, ?, ?, ?, ?)"),
+                      id * 3, T("NUME%1").arg(id), T("PRENUME%1").arg(41 - id),
+                      T("18501014%1").arg(id, 5, 10, QLatin1Char('0')), id % 3, T("S%1").arg(id));
         t.Confirma();
     }
     const std::vector<RandMembrii> toate = ListaMembrii(db);
