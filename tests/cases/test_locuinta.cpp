@@ -1,6 +1,7 @@
 #include "cases/Locuinta.h"
 #include "cases/StareCerere.h"
 #include "support/BazaTest.h"
+#include "support/SqlTest.h"
 
 #include <gtest/gtest.h>
 
@@ -123,11 +124,7 @@ TEST_P(ListeLocuinta, CeleCinciListeDinDateGen) {
     EXPECT_EQ(l[4][1], (OptiuneLista{2, QStringLiteral("GAZE NATURALE")}));
 
     // By Ordine, not by DataID.
-    Interogare(Bd(), QStringLiteral("UPDATE DateGen SET Ordine = ? WHERE Tip = ? AND DataID = ?"))
-        .Leaga(0)
-        .Leaga(29)
-        .Leaga(2)
-        .Executa();
+    ExecutaCu(Bd(), QStringLiteral("UPDATE DateGen SET Ordine = ? WHERE Tip = ? AND DataID = ?"), 0, 29, 2);
     EXPECT_EQ(CitesteListeLocuinta(Bd())[3].front().Continut, QStringLiteral("TIP B"));
 }
 
