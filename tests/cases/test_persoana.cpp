@@ -4,6 +4,7 @@
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
 #include "support/DosarTest.h"
+#include "support/SqlTest.h"
 
 #include <QStringList>
 #include <functional>
@@ -678,22 +679,12 @@ protected:
         BazaDate& db = BazaNoua();
         AdaugaCerereTest(db, Cerere(7, 107, {11, T("POPESCU"), T("ION"), CnpCunoscut, 1}));
         AdaugaCerereTest(db, Cerere(9, 55, {11, T("POPESCU"), T("ION"), CnpCunoscut, 1}));
-        Interogare(db, T("UPDATE Membrii SET TipAct = ?, SerieBI = ?, NrBI = ?, Eliberat = ?, DataElib = ?, "
-                         "Dizabilitate = ? WHERE MembruID = ?"))
-            .Leaga(2)
-            .Leaga(T("XZ"))
-            .Leaga(T("123456"))
-            .Leaga(T("SPCLEP Branesti"))
-            .Leaga(QDate(2019, 4, 2))
-            .Leaga(1)
-            .Leaga(11)
-            .Executa();
-        Interogare(db, T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"))
-            .Leaga(12)
-            .Leaga(T("VASILE"))
-            .Leaga(T("ANA"))
-            .Leaga(CnpFaraCerere)
-            .Executa();
+        ExecutaCu(db,
+                  T("UPDATE Membrii SET TipAct = ?, SerieBI = ?, NrBI = ?, Eliberat = ?, DataElib = ?, "
+                    "Dizabilitate = ? WHERE MembruID = ?"),
+                  2, T("XZ"), T("123456"), T("SPCLEP Branesti"), QDate(2019, 4, 2), 1, 11);
+        ExecutaCu(db, T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"), 12, T("VASILE"),
+                  T("ANA"), CnpFaraCerere);
         AdaugaCerereTest(db, Cerere(3, 3, {13, T("O'NEILL"), T("D'ANA"), CnpPartener, 1}));
         return db;
     }
@@ -843,7 +834,7 @@ TEST_P(PlecareCNPBaza, CNPDe12CifreRamaneEditabil) {
 TEST_P(PlecareCNPBaza, CodInvalidCunoscutEsteReluatFaraAnunt) {
     BazaDate& db = Baza();
     const QString gresit = CnpCunoscut.left(12) + QString::number((CnpCunoscut.right(1).toInt() + 1) % 10);
-    Interogare(db, T("UPDATE Membrii SET CNP = ? WHERE MembruID = ?")).Leaga(gresit).Leaga(11).Executa();
+    ExecutaCu(db, T("UPDATE Membrii SET CNP = ? WHERE MembruID = ?"), gresit, 11);
     DatePersoana d = Completa(gresit);
     const RezultatPlecareCNP r = Pleaca(d, 1, 0, StareCerere{});
     EXPECT_EQ(mesaje.Texte(), QStringList{T("CNP invalid.\nCNP-ul e posibil sa aiba codul judetului incorect.")});
@@ -905,16 +896,10 @@ protected:
             {5, "O'NEILL", "DAN", CnpFaraCerere, 2},
         };
         for (const auto& p : persoane)
-            Interogare(db, T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP, TipAct, SerieBI, NrBI) "
-                             "VALUES (?, ?, ?, ?, ?, ?, ?)"))
-                .Leaga(p.id)
-                .Leaga(T(p.nume))
-                .Leaga(T(p.prenume))
-                .Leaga(p.cnp)
-                .Leaga(p.tipAct)
-                .Leaga(T("S%1").arg(p.id))
-                .Leaga(T("N%1").arg(p.id))
-                .Executa();
+            ExecutaCu(db,
+                      T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP, TipAct, SerieBI, NrBI) "
+                        "VALUES (?, ?, ?, ?, ?, ?, ?)"),
+                      p.id, T(p.nume), T(p.prenume), p.cnp, p.tipAct, T("S%1").arg(p.id), T("N%1").arg(p.id));
         return db;
     }
 };
