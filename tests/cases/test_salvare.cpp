@@ -7,6 +7,7 @@
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
 #include "support/DosarTest.h"
+#include "support/SqlTest.h"
 
 #include <QDir>
 #include <QFile>
@@ -143,9 +144,8 @@ TEST_P(Salvare, ListeleDeReferintaCrescCuNumeleNoi) {
     Dosar d = DosarComplet(Bd());
     {
         Tranzactie t(Bd());
-        Interogare(Bd(), QStringLiteral("INSERT INTO Scoli (ScoalaID, Denumire, LocalitateID) VALUES (7, ?, 2)"))
-            .Leaga(QStringLiteral("LICEUL TEORETIC"))
-            .Executa();
+        ExecutaCu(Bd(), QStringLiteral("INSERT INTO Scoli (ScoalaID, Denumire, LocalitateID) VALUES (7, ?, 2)"),
+                  QStringLiteral("LICEUL TEORETIC"));
         t.Confirma();
     }
     (*d.stare.MatriceMembri)[1].Eliberat = QStringLiteral("   ");
@@ -227,7 +227,7 @@ TEST_P(Salvare, PersoanaCunoscutaEsteReutilizata) {
 
     // Without a CNP, a person keeps its own row by its key.
     {
-        Interogare(Bd(), QStringLiteral("UPDATE Membrii SET CNP = NULL WHERE MembruID = ?")).Leaga(titular).Executa();
+        ExecutaCu(Bd(), QStringLiteral("UPDATE Membrii SET CNP = NULL WHERE MembruID = ?"), titular);
         Dosar c;
         c.date = a.date;
         c.date.txtCerere[1] = QStringLiteral("901");
@@ -446,7 +446,7 @@ TEST_P(Salvare, MesajeleDinJurulSalvarii) {
 
     // The request is deleted by another computer while the editor is open.
     CerereIncarcata c = Incarca(2);
-    Interogare(Bd(), QStringLiteral("DELETE FROM Familii WHERE FamilieID = ?")).Leaga(2).Executa();
+    ExecutaCu(Bd(), QStringLiteral("DELETE FROM Familii WHERE FamilieID = ?"), 2);
     mesaje.mesaje.clear();
     const auto inainte = Instantaneu(Bd());
     const RezultatSalvare r = SalveazaCerere(Bd(), c.Date, c.Stare, c.Iesiti, OptiuniDosar(), mesaje);
