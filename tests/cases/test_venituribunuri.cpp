@@ -6,6 +6,7 @@
 #include "shell/Eroare.h"
 #include "support/BazaTest.h"
 #include "support/DosarTest.h"
+#include "support/SqlTest.h"
 
 #include <gtest/gtest.h>
 
@@ -194,7 +195,7 @@ TEST_P(VenituriBunuri, GrilaBunurilorValoreazaRandulEi) {
 }
 
 TEST_P(VenituriBunuri, CuLipsaRandurilorDinCatalogIntrarileRamanNeatinse) {
-    Interogare(Bd(), QStringLiteral("DELETE FROM ListaBife WHERE NrBifa > ?")).Leaga(80).Executa();
+    ExecutaCu(Bd(), QStringLiteral("DELETE FROM ListaBife WHERE NrBifa > ?"), 80);
     std::array<Bani, 75> b{};
     b[72] = Lei("4");
     b[73] = Lei("5");
@@ -207,10 +208,8 @@ TEST_P(VenituriBunuri, CuLipsaRandurilorDinCatalogIntrarileRamanNeatinse) {
     EXPECT_EQ(scrise[72], Lei("4"));
     EXPECT_EQ(scrise[73], Lei("5"));
     // A name with markup is printed as text.
-    Interogare(Bd(), QStringLiteral("UPDATE ListaBife SET Denumire = ? WHERE NrBifa = ?"))
-        .Leaga(QStringLiteral("Vaci <lapte> & %2"))
-        .Leaga(11)
-        .Executa();
+    ExecutaCu(Bd(), QStringLiteral("UPDATE ListaBife SET Denumire = ? WHERE NrBifa = ?"),
+              QStringLiteral("Vaci <lapte> & %2"), 11);
     EXPECT_TRUE(GrilaBunuri(CitesteListaBife(Bd()).Bunuri, b)
                     .Html()
                     .contains(QStringLiteral("<td>Vaci &lt;lapte&gt; &amp; %2</td>")));
