@@ -2,6 +2,7 @@
 
 #include "shell/Bani.h"
 #include "store/BazaDate.h"
+#include "support/SqlTest.h"
 
 #include <QDate>
 #include <QFile>
@@ -48,79 +49,42 @@ struct DispozitieTest {
 };
 
 inline void ScriePrimarie(BazaDate& db, const PrimarieTest& p) {
-    Interogare(db, QStringLiteral("INSERT INTO DatePrimarie (Denumire, Judet, Localitate, Primar, Secretar, CodFiscal, "
-                                  "TipLocalitate, AsSocial) VALUES ('Primaria', ?, ?, ?, ?, ?, ?, ?)"))
-        .Leaga(p.Judet)
-        .Leaga(p.Localitate)
-        .Leaga(p.Primar)
-        .Leaga(p.Secretar)
-        .Leaga(p.CodFiscal)
-        .Leaga(p.TipLocalitate)
-        .Leaga(p.AsSocial)
-        .Executa();
+    ExecutaCu(db,
+              QStringLiteral("INSERT INTO DatePrimarie (Denumire, Judet, Localitate, Primar, Secretar, CodFiscal, "
+                             "TipLocalitate, AsSocial) VALUES ('Primaria', ?, ?, ?, ?, ?, ?, ?)"),
+              p.Judet, p.Localitate, p.Primar, p.Secretar, p.CodFiscal, p.TipLocalitate, p.AsSocial);
 }
 
 inline void ScrieCerere(BazaDate& db, const CerereDocTest& c) {
     Tranzactie t(db);
-    Interogare(db, QStringLiteral("INSERT INTO Familii (FamilieID, Judet, Localitate, Strada, Nr, Sc, Ap) "
-                                  "VALUES (?, ?, ?, ?, ?, ?, ?)"))
-        .Leaga(c.CerereID)
-        .Leaga(c.Judet)
-        .Leaga(c.Localitate)
-        .Leaga(c.Strada)
-        .Leaga(c.Nr)
-        .Leaga(c.Sc)
-        .Leaga(c.Ap)
-        .Executa();
-    Interogare(db, QStringLiteral(
-                       "INSERT INTO Cereri (CerereID, FamilieID, NrCerere, DataCerere, MembruID1, Stare, TipCerere, "
+    ExecutaCu(db,
+              QStringLiteral("INSERT INTO Familii (FamilieID, Judet, Localitate, Strada, Nr, Sc, Ap) "
+                             "VALUES (?, ?, ?, ?, ?, ?, ?)"),
+              c.CerereID, c.Judet, c.Localitate, c.Strada, c.Nr, c.Sc, c.Ap);
+    ExecutaCu(
+        db,
+        QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, NrCerere, DataCerere, MembruID1, Stare, TipCerere, "
                        "NrMembrii, NrCopii, VenitTotal, VenitpeMembru, Cuantum, MotivStare) "
-                       "VALUES (?, ?, ?, ?, ?, 2, ?, ?, ?, ?, ?, ?, ?)"))
-        .Leaga(c.CerereID)
-        .Leaga(c.CerereID)
-        .Leaga(c.NrCerere)
-        .Leaga(c.DataCerere)
-        .Leaga(c.Persoane.front().MembruID)
-        .Leaga(c.TipCerere)
-        .Leaga(c.NrMembrii)
-        .Leaga(c.NrCopii)
-        .Leaga(c.VenitTotal)
-        .Leaga(c.VenitpeMembru)
-        .Leaga(c.Cuantum)
-        .Leaga(c.MotivStare)
-        .Executa();
+                       "VALUES (?, ?, ?, ?, ?, 2, ?, ?, ?, ?, ?, ?, ?)"),
+        c.CerereID, c.CerereID, c.NrCerere, c.DataCerere, c.Persoane.front().MembruID, c.TipCerere, c.NrMembrii,
+        c.NrCopii, c.VenitTotal, c.VenitpeMembru, c.Cuantum, c.MotivStare);
     for (const PersoanaTest& p : c.Persoane) {
-        Interogare(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"))
-            .Leaga(p.MembruID)
-            .Leaga(p.Nume)
-            .Leaga(p.Prenume)
-            .Leaga(p.CNP)
-            .Executa();
-        Interogare(db, QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, OcupatieID, Studii) "
-                                      "VALUES (?, ?, ?, ?, ?)"))
-            .Leaga(c.CerereID)
-            .Leaga(p.MembruID)
-            .Leaga(p.RudenieID)
-            .Leaga(p.OcupatieID)
-            .Leaga(p.Studii)
-            .Executa();
+        ExecutaCu(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"),
+                  p.MembruID, p.Nume, p.Prenume, p.CNP);
+        ExecutaCu(db,
+                  QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, OcupatieID, Studii) "
+                                 "VALUES (?, ?, ?, ?, ?)"),
+                  c.CerereID, p.MembruID, p.RudenieID, p.OcupatieID, p.Studii);
     }
     t.Confirma();
 }
 
 inline void ScrieDispozitie(BazaDate& db, const DispozitieTest& d) {
-    Interogare(db, QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Actiune, "
-                                  "Cuantum, CuantumVechi, Motiv) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"))
-        .Leaga(d.DispozitieID)
-        .Leaga(d.CerereID)
-        .Leaga(d.NrDisp)
-        .Leaga(d.DataDisp)
-        .Leaga(d.DinData)
-        .Leaga(d.Actiune)
-        .Leaga(d.Cuantum)
-        .Leaga(d.CuantumVechi)
-        .Leaga(d.Motiv)
-        .Executa();
+    ExecutaCu(db,
+              QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Actiune, "
+                             "Cuantum, CuantumVechi, Motiv) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+              d.DispozitieID, d.CerereID, d.NrDisp, d.DataDisp, d.DinData, d.Actiune, d.Cuantum, d.CuantumVechi,
+              d.Motiv);
 }
 
 inline QString U(const char* s) {
