@@ -5,6 +5,7 @@
 #include "documents/Sablon.h"
 #include "shell/Ceas.h"
 #include "support/BazaTest.h"
+#include "support/SqlTest.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -87,13 +88,9 @@ TEST_P(DocumenteTest, BaremulTreptei04DupaTipCopiiSiDinData) {
         {1, 1, QDate(2011, 12, 31), "[#barem#]"}, {3, 1, QDate(2015, 1, 1), "[#barem#]"},
     };
     for (const auto& c : cazuri) {
-        Interogare(Bd(), QStringLiteral("UPDATE Cereri SET TipCerere = ?, NrCopii = ? WHERE CerereID = 7"))
-            .Leaga(c.tip)
-            .Leaga(c.copii)
-            .Executa();
-        Interogare(Bd(), QStringLiteral("UPDATE Dispozitii SET DinData = ? WHERE DispozitieID = 3"))
-            .Leaga(c.dinData)
-            .Executa();
+        ExecutaCu(Bd(), QStringLiteral("UPDATE Cereri SET TipCerere = ?, NrCopii = ? WHERE CerereID = 7"), c.tip,
+                  c.copii);
+        ExecutaCu(Bd(), QStringLiteral("UPDATE Dispozitii SET DinData = ? WHERE DispozitieID = 3"), c.dinData);
         ASSERT_EQ(Documente::GenereazaDispozitie(Bd(), 3, o, iesire, mesaje, s), Rezultat::Scris);
         EXPECT_EQ(Corp(), QByteArray(c.barem)) << c.tip << " " << c.copii << " " << c.dinData.toString().toStdString();
     }
@@ -174,9 +171,8 @@ TEST_P(DocumenteTest, CuantumVechiGolNuConteazaCandSablonulNuIlCere) {
     CazA();
     ASSERT_EQ(Documente::GenereazaDispozitie(Bd(), 3, o, iesire, mesaje, Sablon("#suma#")), Rezultat::Scris);
     EXPECT_EQ(Corp(), QByteArray("82"));
-    Interogare(Bd(), QStringLiteral("UPDATE Dispozitii SET CuantumVechi = ?, Actiune = 2 WHERE DispozitieID = 3"))
-        .Leaga(Suma("64.5"))
-        .Executa();
+    ExecutaCu(Bd(), QStringLiteral("UPDATE Dispozitii SET CuantumVechi = ?, Actiune = 2 WHERE DispozitieID = 3"),
+              Suma("64.5"));
     ASSERT_EQ(Documente::GenereazaDispozitie(Bd(), 3, o, iesire, mesaje, Sablon("#sumav#-#suma#")), Rezultat::Scris);
     EXPECT_EQ(Corp(), QByteArray("64.5-82"));
 }
@@ -210,14 +206,10 @@ void VerificaDocument(const QByteArray& doc, const QString& sablon, const QStrin
 
 TEST_P(DocumenteTest, SabloaneleLivrateSeCompleteazaIntregi) {
     CazA();
-    Interogare(Bd(), QStringLiteral("UPDATE Dispozitii SET CuantumVechi = ? WHERE DispozitieID = 3"))
-        .Leaga(Suma("64"))
-        .Executa();
+    ExecutaCu(Bd(), QStringLiteral("UPDATE Dispozitii SET CuantumVechi = ? WHERE DispozitieID = 3"), Suma("64"));
     const char* titluri[] = {"acordarea", "modificarea", "suspendarea", "respingerea", "încetarea", "reluarea"};
     for (int actiune = 1; actiune <= 6; ++actiune) {
-        Interogare(Bd(), QStringLiteral("UPDATE Dispozitii SET Actiune = ? WHERE DispozitieID = 3"))
-            .Leaga(actiune)
-            .Executa();
+        ExecutaCu(Bd(), QStringLiteral("UPDATE Dispozitii SET Actiune = ? WHERE DispozitieID = 3"), actiune);
         ASSERT_EQ(Documente::GenereazaDispozitie(Bd(), 3, o, iesire, mesaje), Rezultat::Scris)
             << actiune << mesaje.Texte().join(u'\n').toStdString();
         VerificaDocument(CitesteTot(iesire), QDir(o.FolderActe).filePath(Documente::SablonDispozitie(actiune)),
@@ -318,9 +310,7 @@ TEST_P(DocumenteTest, DeclaratieFaraVenituriGolesteDoisprezeceRanduri) {
 
     // The same request in the special town: the declaration's address stays as stored.
     ScriePrimarie(Bd(), PrimarieB());
-    Interogare(Bd(), QStringLiteral("UPDATE Familii SET Localitate = ? WHERE FamilieID = 7"))
-        .Leaga(U("fizeșu gherlii"))
-        .Executa();
+    ExecutaCu(Bd(), QStringLiteral("UPDATE Familii SET Localitate = ? WHERE FamilieID = 7"), U("fizeșu gherlii"));
     ASSERT_EQ(Documente::GenereazaDeclaratie(Bd(), 7, o, iesire, mesaje, Sablon("#adresa#")), Rezultat::Scris);
     EXPECT_EQ(Corp(), TextRtf(U("fizeșu gherlii,  Florilor, nr. 12, sc. B, ap. 4")));
     EXPECT_TRUE(mesaje.mesaje.empty());
