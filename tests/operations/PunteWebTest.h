@@ -112,6 +112,7 @@ public:
 };
 
 #include "documents/DateDocumenteTest.h"
+#include "support/SqlTest.h"
 
 // The case file that the web tests print: request 7 of a holder whose given name carries a
 // quote, a double quote, a backslash, angle brackets and a cedilla letter, with its household,
@@ -149,39 +150,26 @@ inline void ScrieDosarWeb(BazaDate& db) {
                   {71, U("Popescu"), U("Ioana"), U("2870506410021"), 2, 4, 2}};
     ScrieCerere(db, c);
     Tranzactie t(db);
-    Interogare(db, QStringLiteral("UPDATE Cereri SET Bife = ?, ActeBife = ?, ModPlata = 2, Cont = ?, Banca = ?, "
-                                  "Vmg = 1, Inc = 0, ReprLegal = 3, DataStare = NULL WHERE CerereID = 7"))
-        .Leaga(QStringLiteral("0000000010"))
-        .Leaga(QStringLiteral("1100"))
-        .Leaga(QStringLiteral("RO49AAAA1B31007593840000"))
-        .Leaga(QStringLiteral("BCR"))
-        .Executa();
-    Interogare(db, QStringLiteral("UPDATE Membrii SET SerieBI = 'IF', NrBI = '123456', TipAct = 2, DataElib = ? "
-                                  "WHERE MembruID = 70"))
-        .Leaga(QDate(2012, 7, 1))
-        .Executa();
-    Interogare(db, QStringLiteral("UPDATE CereriMembrii SET UScolara = ?, Clasa = ? WHERE MembruID = 72"))
-        .Leaga(U("Școala Gimnazială nr. 1"))
-        .Leaga(U("a V-a"))
-        .Executa();
+    ExecutaCu(db,
+              QStringLiteral("UPDATE Cereri SET Bife = ?, ActeBife = ?, ModPlata = 2, Cont = ?, Banca = ?, "
+                             "Vmg = 1, Inc = 0, ReprLegal = 3, DataStare = NULL WHERE CerereID = 7"),
+              QStringLiteral("0000000010"), QStringLiteral("1100"), QStringLiteral("RO49AAAA1B31007593840000"),
+              QStringLiteral("BCR"));
+    ExecutaCu(db,
+              QStringLiteral("UPDATE Membrii SET SerieBI = 'IF', NrBI = '123456', TipAct = 2, DataElib = ? "
+                             "WHERE MembruID = 70"),
+              QDate(2012, 7, 1));
+    ExecutaCu(db, QStringLiteral("UPDATE CereriMembrii SET UScolara = ?, Clasa = ? WHERE MembruID = 72"),
+              U("Școala Gimnazială nr. 1"), U("a V-a"));
     for (const auto& [cod, valoare] : {std::pair{1, "1000.5"}, std::pair{12, "200"}})
-        Interogare(db, QStringLiteral("INSERT INTO Venituri (CerereID, CodVenit, Valoare) VALUES (7, ?, ?)"))
-            .Leaga(cod)
-            .Leaga(Suma(valoare))
-            .Executa();
-    Interogare(db, QStringLiteral("INSERT INTO BifeText (CerereID, NrBifa, Valoare) VALUES (7, 11, ?)"))
-        .Leaga(Suma("1.5"))
-        .Executa();
+        ExecutaCu(db, QStringLiteral("INSERT INTO Venituri (CerereID, CodVenit, Valoare) VALUES (7, ?, ?)"), cod,
+                  Suma(valoare));
+    ExecutaCu(db, QStringLiteral("INSERT INTO BifeText (CerereID, NrBifa, Valoare) VALUES (7, 11, ?)"), Suma("1.5"));
     Interogare(db, QStringLiteral("INSERT INTO Locuinte (CerereID, Cod, NrCamere, Suprafata) VALUES (7, 3, 2, 48.5)"))
         .Executa();
-    Interogare(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (75, ?, ?, ?)"))
-        .Leaga(U("Popescu"))
-        .Leaga(U("Ana"))
-        .Leaga(U("6150101410011"))
-        .Executa();
-    Interogare(db, QStringLiteral("INSERT INTO Motive (MotivID, Denumire) VALUES (1, ?)"))
-        .Leaga(U("Încredințare"))
-        .Executa();
+    ExecutaCu(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (75, ?, ?, ?)"),
+              U("Popescu"), U("Ana"), U("6150101410011"));
+    ExecutaCu(db, QStringLiteral("INSERT INTO Motive (MotivID, Denumire) VALUES (1, ?)"), U("Încredințare"));
     Interogare(db, QStringLiteral("INSERT INTO CMIesiti (CerereID, MembruID, RudenieID, MotivID) VALUES (7, 75, 3, 1)"))
         .Executa();
     // The newest that grants, changes or resumes is number 60; 77 suspends, 99 has no date.
@@ -207,15 +195,12 @@ inline void ScrieDosarWeb(BazaDate& db) {
                    {2, QDate(2016, 2, 1), "Elena Dumitru", AspecteAncheta()},
                    {3, QVariant(), "Fara Data", U("fara data")}};
     for (const auto& a : anchete)
-        Interogare(db, QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, Intocmitor, "
-                                      "DataExpirarii, NrMembrii, NrCopii, TipLocuinta, RegimJuridic, NrCamere, "
-                                      "SuprUtila, TipDetinere, Aspecte) VALUES (?, 7, ?, ?, ?, 3, 1, 3, 1, 2, 48.5, "
-                                      "1, ?)"))
-            .Leaga(a.id)
-            .Leaga(a.data)
-            .Leaga(U(a.intocmitor))
-            .Leaga(a.data.isNull() ? QVariant() : QVariant(a.data.toDate().addMonths(6)))
-            .Leaga(a.aspecte)
-            .Executa();
+        ExecutaCu(db,
+                  QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, Intocmitor, "
+                                 "DataExpirarii, NrMembrii, NrCopii, TipLocuinta, RegimJuridic, NrCamere, "
+                                 "SuprUtila, TipDetinere, Aspecte) VALUES (?, 7, ?, ?, ?, 3, 1, 3, 1, 2, 48.5, "
+                                 "1, ?)"),
+                  a.id, a.data, U(a.intocmitor), a.data.isNull() ? QVariant() : QVariant(a.data.toDate().addMonths(6)),
+                  a.aspecte);
     t.Confirma();
 }
