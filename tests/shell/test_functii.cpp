@@ -1,6 +1,7 @@
 #include "shell/Eroare.h"
 #include "shell/Functii.h"
 #include "support/BazaTest.h"
+#include "support/SqlTest.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -460,10 +461,8 @@ TEST(FunctiiFont, FaraInterfataGraficaNuExistaFonturi) {
 class PraguriVenitBaza : public TestBaza {
 protected:
     void Schimba(const QVariant& continut) {
-        Interogare(Bd(), QStringLiteral("UPDATE DateGen SET Continut = ? WHERE Denumire = ?"))
-            .Leaga(continut)
-            .Leaga("PRAGURI_VENIT")
-            .Executa();
+        ExecutaCu(Bd(), QStringLiteral("UPDATE DateGen SET Continut = ? WHERE Denumire = ?"), continut,
+                  "PRAGURI_VENIT");
     }
 };
 
@@ -500,7 +499,7 @@ TEST_P(PraguriVenitBaza, TextulSalvatOriEroare) {
         if (c.continut)
             Schimba(*c.continut);
         else
-            Interogare(db, QStringLiteral("DELETE FROM DateGen WHERE Denumire = ?")).Leaga("PRAGURI_VENIT").Executa();
+            ExecutaCu(db, QStringLiteral("DELETE FROM DateGen WHERE Denumire = ?"), "PRAGURI_VENIT");
         MesajeCuTitlu m;
         EXPECT_EQ(PraguriVenit(db, m), c.rezultat) << caz;
         if (c.mesaj.isEmpty()) {
