@@ -1,6 +1,7 @@
 #include "shell/PaneluriCerere.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
+#include "support/SqlTest.h"
 
 namespace {
 
@@ -15,31 +16,19 @@ protected:
     }
 
     void Adeverinta(qint64 id, qint64 cerere, const QDate& expira, int curenta) {
-        Interogare(Bd(),
-                   QStringLiteral(
-                       "INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataExpAdev, AdvCurenta) "
-                       "VALUES (?, ?, ?, 3, ?, ?)"))
-            .Leaga(id)
-            .Leaga(cerere)
-            .Leaga(cerere)
-            .Leaga(expira)
-            .Leaga(curenta)
-            .Executa();
+        ExecutaCu(Bd(),
+                  QStringLiteral(
+                      "INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataExpAdev, AdvCurenta) "
+                      "VALUES (?, ?, ?, 3, ?, ?)"),
+                  id, cerere, cerere, expira, curenta);
     }
 
     void Dispozitie(qint64 id, qint64 cerere, const char* nr, const QDate& data, int actiune) {
-        Interogare(Bd(),
-                   QStringLiteral(
-                       "INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, Actiune, Cuantum, Luna, An) "
-                       "VALUES (?, ?, ?, ?, ?, 173, ?, ?)"))
-            .Leaga(id)
-            .Leaga(cerere)
-            .Leaga(QString::fromLatin1(nr).toLongLong())
-            .Leaga(data)
-            .Leaga(actiune)
-            .Leaga(data.month())
-            .Leaga(data.year())
-            .Executa();
+        ExecutaCu(Bd(),
+                  QStringLiteral(
+                      "INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, Actiune, Cuantum, Luna, An) "
+                      "VALUES (?, ?, ?, ?, ?, 173, ?, ?)"),
+                  id, cerere, QString::fromLatin1(nr).toLongLong(), data, actiune, data.month(), data.year());
     }
 };
 
