@@ -2,6 +2,7 @@
 #include "shell/Pornire.h"
 #include "store/BazaDate.h"
 #include "support/BazaTest.h"
+#include "support/SqlTest.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,9 +11,7 @@ namespace {
 
 class Baza : public TestBaza {
 protected:
-    void AdaugaMembru(qint64 id) {
-        Interogare(Bd(), QStringLiteral("INSERT INTO Membrii (MembruID) VALUES (?)")).Leaga(id).Executa();
-    }
+    void AdaugaMembru(qint64 id) { ExecutaCu(Bd(), QStringLiteral("INSERT INTO Membrii (MembruID) VALUES (?)"), id); }
 };
 
 TEST_P(Baza, TranzactieNeconfirmataNuLasaNimic) {
@@ -72,20 +71,14 @@ TEST_P(Baza, StergereaCereriiStergeRandurileDependente) {
         Tranzactie t(db);
         // Written in the order of a save: the request before its persons.
         for (int id : {1, 2}) {
-            Interogare(db, QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (?)")).Leaga(id).Executa();
-            Interogare(db, QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, MembruID1) VALUES (?, ?, ?)"))
-                .Leaga(id)
-                .Leaga(id)
-                .Leaga(id * 10)
-                .Executa();
+            ExecutaCu(db, QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (?)"), id);
+            ExecutaCu(db, QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, MembruID1) VALUES (?, ?, ?)"), id,
+                      id, id * 10);
         }
         for (int m : {10, 11, 20})
             AdaugaMembru(m);
         for (auto [c, m] : {std::pair{1, 10}, {1, 11}, {2, 20}, {2, 11}})
-            Interogare(db, QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID) VALUES (?, ?)"))
-                .Leaga(c)
-                .Leaga(m)
-                .Executa();
+            ExecutaCu(db, QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID) VALUES (?, ?)"), c, m);
         for (int c : {1, 2}) {
             for (const char* sql : {"INSERT INTO Venituri (CerereID, CodVenit, Valoare) VALUES (?, 1, 100)",
                                     "INSERT INTO Locuinte (CerereID, Cod, NrCamere) VALUES (?, 1, 2)",
@@ -99,10 +92,8 @@ TEST_P(Baza, StergereaCereriiStergeRandurileDependente) {
                 if (QString::fromLatin1(sql).contains(QLatin1String("?, ?"))) q.Leaga(c);
                 q.Executa();
             }
-            Interogare(db, QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID) VALUES (?, ?, 11)"))
-                .Leaga(c)
-                .Leaga(c)
-                .Executa();
+            ExecutaCu(db, QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID) VALUES (?, ?, 11)"), c,
+                      c);
         }
         t.Confirma();
     }
