@@ -1,5 +1,6 @@
 #include "store/DateReferinta.h"
 #include "support/BazaTest.h"
+#include "support/SqlTest.h"
 
 #include <optional>
 
@@ -16,23 +17,14 @@ protected:
     }
 
     void StradaDirecta(qint64 id, const QString& denumire) {
-        Interogare(Bd(), QStringLiteral("INSERT INTO Strazi (StradaID, Denumire) VALUES (?, ?)"))
-            .Leaga(id)
-            .Leaga(denumire)
-            .Executa();
+        ExecutaCu(Bd(), QStringLiteral("INSERT INTO Strazi (StradaID, Denumire) VALUES (?, ?)"), id, denumire);
     }
     void MotivDirect(qint64 id, const QString& denumire) {
-        Interogare(Bd(), QStringLiteral("INSERT INTO Motive (MotivID, Denumire) VALUES (?, ?)"))
-            .Leaga(id)
-            .Leaga(denumire)
-            .Executa();
+        ExecutaCu(Bd(), QStringLiteral("INSERT INTO Motive (MotivID, Denumire) VALUES (?, ?)"), id, denumire);
     }
     void Familie(qint64 id, const QString& strada) {
-        Interogare(Bd(),
-                   QStringLiteral("INSERT INTO Familii (FamilieID, Localitate, Strada) VALUES (?, 'Branesti', ?)"))
-            .Leaga(id)
-            .Leaga(strada)
-            .Executa();
+        ExecutaCu(Bd(), QStringLiteral("INSERT INTO Familii (FamilieID, Localitate, Strada) VALUES (?, 'Branesti', ?)"),
+                  id, strada);
     }
 
     // Every field of every DatePrimarie row, in one text, to tell that nothing changed.
@@ -88,9 +80,7 @@ TEST_P(Referinte, OStradaFolositaDeOFamilieNuSePoateStergePanaNuSeSchimbaAdresa)
     for (const auto& c : cazuri)
         EXPECT_EQ(StradaFolosita(Bd(), QString::fromUtf8(c.nume)), c.folosita) << c.nume;
 
-    Interogare(Bd(), QStringLiteral("UPDATE Familii SET Strada = ? WHERE FamilieID = 1"))
-        .Leaga(QStringLiteral("Garii Noi"))
-        .Executa();
+    ExecutaCu(Bd(), QStringLiteral("UPDATE Familii SET Strada = ? WHERE FamilieID = 1"), QStringLiteral("Garii Noi"));
     EXPECT_FALSE(StradaFolosita(Bd(), QStringLiteral("Garii")));
     EXPECT_TRUE(StergeStrada(Bd(), 1));
     EXPECT_FALSE(CitesteStrada(Bd(), 1).has_value());
@@ -298,14 +288,10 @@ TEST_P(Referinte, ListeleAjutatoareAuJudeteleLivrate) {
     const QStringList judete = Judete(Bd());
     EXPECT_GE(judete.size(), 41);
     EXPECT_TRUE(judete.contains(QStringLiteral("Ilfov"))) << judete.join(QLatin1Char(',')).toStdString();
-    Interogare(Bd(), QStringLiteral("INSERT INTO Localitati (LocalitateID, Denumire) VALUES (?, ?)"))
-        .Leaga(2)
-        .Leaga(QStringLiteral("Cernica"))
-        .Executa();
-    Interogare(Bd(), QStringLiteral("INSERT INTO Localitati (LocalitateID, Denumire) VALUES (?, ?)"))
-        .Leaga(1)
-        .Leaga(QStringLiteral("Branesti"))
-        .Executa();
+    ExecutaCu(Bd(), QStringLiteral("INSERT INTO Localitati (LocalitateID, Denumire) VALUES (?, ?)"), 2,
+              QStringLiteral("Cernica"));
+    ExecutaCu(Bd(), QStringLiteral("INSERT INTO Localitati (LocalitateID, Denumire) VALUES (?, ?)"), 1,
+              QStringLiteral("Branesti"));
     EXPECT_EQ(Localitati(Bd()), (QStringList{QStringLiteral("Branesti"), QStringLiteral("Cernica")}));
 }
 
