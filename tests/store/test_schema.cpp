@@ -2,6 +2,7 @@
 #include "store/PasiActualizare.h"
 #include "store/Schema.h"
 #include "support/BazaTest.h"
+#include "support/SqlTest.h"
 
 #include <QSet>
 
@@ -71,20 +72,15 @@ TEST_P(Schema_, ValorileSeCitescInapoiExact) {
     BazaDate& db = BazaNoua();
     {
         Tranzactie t(db);
-        Interogare(db, QStringLiteral("INSERT INTO Familii (FamilieID, Strada) VALUES (1, ?)"))
-            .Leaga(QStringLiteral("Str. Mihai Viteazu'l"))
-            .Executa();
-        Interogare(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume) VALUES (1, ?)"))
-            .Leaga(QStringLiteral("Șerban"))
-            .Executa();
-        Interogare(db, QStringLiteral(
-                           "INSERT INTO Cereri (CerereID, FamilieID, MembruID1, DataCerere, Cuantum, VenitTotal, Vmg) "
-                           "VALUES (1, 1, 1, ?, ?, ?, ?)"))
-            .Leaga(QDate(2024, 2, 29))
-            .Leaga(*Bani::DinText(QStringLiteral("1234567.8901")))
-            .Leaga(*Bani::DinText(QStringLiteral("0.0001")))
-            .Leaga(true)
-            .Executa();
+        ExecutaCu(db, QStringLiteral("INSERT INTO Familii (FamilieID, Strada) VALUES (1, ?)"),
+                  QStringLiteral("Str. Mihai Viteazu'l"));
+        ExecutaCu(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume) VALUES (1, ?)"), QStringLiteral("Șerban"));
+        ExecutaCu(
+            db,
+            QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, MembruID1, DataCerere, Cuantum, VenitTotal, Vmg) "
+                           "VALUES (1, 1, 1, ?, ?, ?, ?)"),
+            QDate(2024, 2, 29), *Bani::DinText(QStringLiteral("1234567.8901")),
+            *Bani::DinText(QStringLiteral("0.0001")), true);
         t.Confirma();
     }
     Interogare q(db,
