@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/BazaDate.h"
+#include "support/SqlTest.h"
 
 #include <QDate>
 #include <QList>
@@ -29,39 +30,22 @@ inline void AdaugaCerereTest(BazaDate& db, const CerereTest& c) {
     Interogare existaFamilie(db, QStringLiteral("SELECT 1 FROM Familii WHERE FamilieID = ?"));
     existaFamilie.Leaga(familie);
     if (!existaFamilie.Exista())
-        Interogare(db, QStringLiteral("INSERT INTO Familii (FamilieID, Localitate, Strada, Nr) VALUES (?, ?, ?, ?)"))
-            .Leaga(familie)
-            .Leaga(c.localitate)
-            .Leaga(c.strada)
-            .Leaga(QStringLiteral("12"))
-            .Executa();
-    Interogare(db, QStringLiteral(
-                       "INSERT INTO Cereri (CerereID, FamilieID, NrCerere, DataCerere, MembruID1, Stare, TipCerere, "
-                       "NrMembrii, NrCopii, VenitTotal, Cuantum) VALUES (?, ?, ?, ?, ?, ?, ?, ?, 1, 1200.5, 164)"))
-        .Leaga(c.cerereID)
-        .Leaga(familie)
-        .Leaga(c.nrCerere)
-        .Leaga(QDate(2024, 3, 15))
-        .Leaga(c.persoane.first().membruID)
-        .Leaga(c.stare)
-        .Leaga(c.tipCerere)
-        .Leaga(qint64(c.persoane.size()))
-        .Executa();
+        ExecutaCu(db, QStringLiteral("INSERT INTO Familii (FamilieID, Localitate, Strada, Nr) VALUES (?, ?, ?, ?)"),
+                  familie, c.localitate, c.strada, QStringLiteral("12"));
+    ExecutaCu(
+        db,
+        QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, NrCerere, DataCerere, MembruID1, Stare, TipCerere, "
+                       "NrMembrii, NrCopii, VenitTotal, Cuantum) VALUES (?, ?, ?, ?, ?, ?, ?, ?, 1, 1200.5, 164)"),
+        c.cerereID, familie, c.nrCerere, QDate(2024, 3, 15), c.persoane.first().membruID, c.stare, c.tipCerere,
+        qint64(c.persoane.size()));
     for (const auto& p : c.persoane) {
         Interogare exista(db, QStringLiteral("SELECT 1 FROM Membrii WHERE MembruID = ?"));
         exista.Leaga(p.membruID);
         if (!exista.Exista())
-            Interogare(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"))
-                .Leaga(p.membruID)
-                .Leaga(p.nume)
-                .Leaga(p.prenume)
-                .Leaga(p.cnp)
-                .Executa();
-        Interogare(db, QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID) VALUES (?, ?, ?)"))
-            .Leaga(c.cerereID)
-            .Leaga(p.membruID)
-            .Leaga(p.rudenie)
-            .Executa();
+            ExecutaCu(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"),
+                      p.membruID, p.nume, p.prenume, p.cnp);
+        ExecutaCu(db, QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID) VALUES (?, ?, ?)"),
+                  c.cerereID, p.membruID, p.rudenie);
     }
     t.Confirma();
 }
