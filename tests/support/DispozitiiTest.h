@@ -2,6 +2,7 @@
 
 #include "shell/Bani.h"
 #include "store/BazaDate.h"
+#include "support/SqlTest.h"
 
 #include <QDate>
 #include <QString>
@@ -51,21 +52,11 @@ struct DispTest {
 };
 
 inline void AdaugaDispozitie(BazaDate& db, const DispTest& d) {
-    Interogare(db,
-               QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Luna, "
-                              "An, Actiune, Cuantum, CuantumVechi, Motiv) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"))
-        .Leaga(d.id)
-        .Leaga(d.cerereID)
-        .Leaga(d.nrDisp)
-        .Leaga(d.dataDisp)
-        .Leaga(d.dinData)
-        .Leaga(d.dinData.month())
-        .Leaga(d.dinData.year())
-        .Leaga(d.actiune)
-        .Leaga(d.cuantum)
-        .Leaga(d.cuantumVechi)
-        .Leaga("motiv vechi")
-        .Executa();
+    ExecutaCu(db,
+              QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Luna, "
+                             "An, Actiune, Cuantum, CuantumVechi, Motiv) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+              d.id, d.cerereID, d.nrDisp, d.dataDisp, d.dinData, d.dinData.month(), d.dinData.year(), d.actiune,
+              d.cuantum, d.cuantumVechi, "motiv vechi");
 }
 
 // A stored disposition, every field as text ("" for NULL) or as its type.
