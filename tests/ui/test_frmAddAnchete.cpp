@@ -4,6 +4,7 @@
 #include "shell/UiDataOptionala.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
+#include "support/SqlTest.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -211,26 +212,12 @@ TEST_P(FormAnchete, OKSpuneCeLipsesteSiApoiScrieAncheta) {
 
 TEST_P(FormAnchete, ModificareaArataRandulSalvatSiIlSchimba) {
     // Stored counts that today's computation would not give: the editor shows what was saved.
-    Interogare(Bd(),
-               QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, Intocmitor, DataExpirarii, "
-                              "Motiv, NrMembrii, NrCopii, TipLocuinta, RegimJuridic, NrCamere, SuprUtila, "
-                              "TipLocuire, TipDetinere, Aspecte) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"))
-        .Leaga(12)
-        .Leaga(3)
-        .Leaga(QDate(2023, 8, 31))
-        .Leaga("Ionescu Maria")
-        .Leaga(QDate(2024, 3, 2))
-        .Leaga(Valabil)
-        .Leaga(4)
-        .Leaga(2)
-        .Leaga(2)
-        .Leaga(5)
-        .Leaga(2)
-        .Leaga(QVariant(40.5))
-        .Leaga(4)
-        .Leaga(1)
-        .Leaga("curat")
-        .Executa();
+    ExecutaCu(Bd(),
+              QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, Intocmitor, DataExpirarii, "
+                             "Motiv, NrMembrii, NrCopii, TipLocuinta, RegimJuridic, NrCamere, SuprUtila, "
+                             "TipLocuire, TipDetinere, Aspecte) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+              12, 3, QDate(2023, 8, 31), "Ionescu Maria", QDate(2024, 3, 2), Valabil, 4, 2, 2, 5, 2, QVariant(40.5), 4,
+              1, "curat");
     frmAddAnchete f(Bd(), mesaje, 2, 3, 12, 1);
     EXPECT_EQ(f.windowTitle(), QStringLiteral("Modificare Ancheta"));
     EXPECT_EQ(Gaseste<UiDataOptionala>(f, QStringLiteral("dtpData"))->data(), QDate(2023, 8, 31));
@@ -263,7 +250,7 @@ TEST_P(FormAnchete, ModificareaArataRandulSalvatSiIlSchimba) {
 
     // Removed by another computer while open: told, closed, nothing written.
     frmAddAnchete g(Bd(), mesaje, 2, 3, 12, 2);
-    Interogare(Bd(), QStringLiteral("DELETE FROM Anchete WHERE AnchetaID = ?")).Leaga(12).Executa();
+    ExecutaCu(Bd(), QStringLiteral("DELETE FROM Anchete WHERE AnchetaID = ?"), 12);
     mesaje.mesaje.clear();
     g.cmdOK_Click();
     EXPECT_EQ(mesaje.Texte(), QStringList{QStringLiteral("Aceasta Ancheta a fost stearsa de alt utilizator. "
