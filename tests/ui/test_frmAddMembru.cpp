@@ -4,6 +4,7 @@
 #include "shell/UiDataOptionala.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
+#include "support/SqlTest.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -54,25 +55,14 @@ protected:
         c.nrCerere = 3;
         c.persoane = {{31, T("Popa"), T("Elena"), CnpMama, 1}, {32, T("Popa"), T("Mihai"), CnpFiu, 3}};
         AdaugaCerereTest(db, c);
-        Interogare(db, T("UPDATE Membrii SET TipAct = ?, SerieBI = ?, NrBI = ?, Eliberat = ?, DataElib = ? "
-                         "WHERE MembruID = ?"))
-            .Leaga(2)
-            .Leaga(T("IF"))
-            .Leaga(T("123456"))
-            .Leaga(T("SPCLEP Branesti"))
-            .Leaga(QDate(2019, 4, 2))
-            .Leaga(31)
-            .Executa();
-        Interogare(db, T("INSERT INTO Politii (PolitiaID, Denumire, LocalitateID) VALUES (?, ?, ?)"))
-            .Leaga(1)
-            .Leaga(T("SPCLEP Branesti"))
-            .Leaga(1)
-            .Executa();
-        Interogare(db, T("INSERT INTO Scoli (ScoalaID, Denumire, LocalitateID) VALUES (?, ?, ?)"))
-            .Leaga(1)
-            .Leaga(T("Scoala Gimnaziala nr. 1"))
-            .Leaga(1)
-            .Executa();
+        ExecutaCu(db,
+                  T("UPDATE Membrii SET TipAct = ?, SerieBI = ?, NrBI = ?, Eliberat = ?, DataElib = ? "
+                    "WHERE MembruID = ?"),
+                  2, T("IF"), T("123456"), T("SPCLEP Branesti"), QDate(2019, 4, 2), 31);
+        ExecutaCu(db, T("INSERT INTO Politii (PolitiaID, Denumire, LocalitateID) VALUES (?, ?, ?)"), 1,
+                  T("SPCLEP Branesti"), 1);
+        ExecutaCu(db, T("INSERT INTO Scoli (ScoalaID, Denumire, LocalitateID) VALUES (?, ?, ?)"), 1,
+                  T("Scoala Gimnaziala nr. 1"), 1);
     }
 
     static ContextPersoana Context(int mod, int index = -1) { return {mod, index, Luna, An}; }
