@@ -7,6 +7,7 @@
 #include "store/Demo.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
+#include "support/SqlTest.h"
 
 #include <QAction>
 #include <QApplication>
@@ -283,11 +284,11 @@ TEST_P(FereastraPrincipala, DispozitiileCereriiSelectateSiStergerea) {
 
 TEST_P(FereastraPrincipala, NotificareaApareDoarCandEsteCerutaSiSuntActe) {
     TreiCereri();
-    Interogare(Bd(), QStringLiteral(
-                         "INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataExpAdev, AdvCurenta) "
-                         "VALUES (1, 1, 1, 3, ?, 1)"))
-        .Leaga(QDate(Ceas::Azi().year(), Ceas::Azi().month(), 1))
-        .Executa();
+    ExecutaCu(
+        Bd(),
+        QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataExpAdev, AdvCurenta) "
+                       "VALUES (1, 1, 1, 3, ?, 1)"),
+        QDate(Ceas::Azi().year(), Ceas::Azi().month(), 1));
     setari.NotificareActe = false;
     EXPECT_FALSE(Deschide()->picNotific->isVisible());
     setari.NotificareActe = true;
@@ -369,9 +370,7 @@ TEST_P(FereastraPrincipala, AncheteleCereriiSelectateAdaugareModificareStergere)
     EXPECT_TRUE(f->cmdAddAncheta->isEnabled());
 
     // A request removed by another computer.
-    Interogare(Bd(), QStringLiteral("DELETE FROM Cereri WHERE CerereID = ?"))
-        .Leaga(f->model()->Rand(1)->CerereID)
-        .Executa();
+    ExecutaCu(Bd(), QStringLiteral("DELETE FROM Cereri WHERE CerereID = ?"), f->model()->Rand(1)->CerereID);
     mesaje.mesaje.clear();
     f->cmdAddAncheta_Click();
     EXPECT_EQ(mesaje.Texte(),
