@@ -2,6 +2,7 @@
 #include "cases/frmMembrii.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
+#include "support/SqlTest.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -141,12 +142,8 @@ protected:
                       {8, T("Ionescu"), T("Ioana"), T("6140203400022"), 3},
                       {12, T("D'Arc"), T("Ana_Maria"), T("2910101400015"), 4}};
         AdaugaCerereTest(db, c);
-        Interogare(db, T("UPDATE Membrii SET TipAct = ?, SerieBI = ?, NrBI = ? WHERE MembruID = ?"))
-            .Leaga(2)
-            .Leaga(T("IF"))
-            .Leaga(T("123456"))
-            .Leaga(5)
-            .Executa();
+        ExecutaCu(db, T("UPDATE Membrii SET TipAct = ?, SerieBI = ?, NrBI = ? WHERE MembruID = ?"), 2, T("IF"),
+                  T("123456"), 5);
     }
     static QString Selectat(frmMembrii& f) {
         const auto id = f.MembruSelectat();
@@ -204,12 +201,8 @@ TEST_P(FormMembrii, ListaSiCautarea) {
     }
 
     // A person added after the list was read is found and shown.
-    Interogare(Bd(), T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"))
-        .Leaga(20)
-        .Leaga(T("Zamfir"))
-        .Leaga(T("Ion"))
-        .Leaga(T("1900101400019"))
-        .Executa();
+    ExecutaCu(Bd(), T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"), 20, T("Zamfir"),
+              T("Ion"), T("1900101400019"));
     f.Txt[2]->setText(T("Zam"));
     f.Txt_KeyPress(2);
     EXPECT_EQ(Selectat(f), T("20"));
@@ -221,19 +214,15 @@ TEST_P(FormMembrii, ListaLungaCititaPePagini) {
     {
         Tranzactie t(Bd());
         for (qint64 id = 100; id < 700; ++id)
-            Interogare(Bd(), T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"))
-                .Leaga(id)
-                .Leaga(T("Nume%1").arg(id))
-                .Leaga(T("Prenume%1").arg(id))
-                .Leaga(T("19001014%1").arg(id, 5, 10, QLatin1Char('0')))
-                .Executa();
+            ExecutaCu(Bd(), T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"), id,
+                      T("Nume%1").arg(id), T("Prenume%1").arg(id), T("19001014%1").arg(id, 5, 10, QLatin1Char('0')));
         t.Confirma();
     }
     frmMembrii f(Bd(), mesaje);
     ASSERT_EQ(f.NrRanduri(), 604);
     // A person deleted after the list was read leaves its row empty; the rows after it keep their places.
-    Interogare(Bd(), T("DELETE FROM CereriMembrii WHERE MembruID = ?")).Leaga(12).Executa();
-    Interogare(Bd(), T("DELETE FROM Membrii WHERE MembruID = ?")).Leaga(12).Executa();
+    ExecutaCu(Bd(), T("DELETE FROM CereriMembrii WHERE MembruID = ?"), 12);
+    ExecutaCu(Bd(), T("DELETE FROM Membrii WHERE MembruID = ?"), 12);
     EXPECT_EQ(f.TexteRand(3), (QStringList{T("12"), QString(), QString(), QString(), QString(), QString(), QString()}));
     EXPECT_EQ(f.TexteRand(4).mid(0, 4), (QStringList{T("100"), T("Nume100"), T("Prenume100"), T("1900101400100")}));
     for (const int rand : {259, 260, 603}) {
