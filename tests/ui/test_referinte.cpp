@@ -5,6 +5,7 @@
 #include "store/frmMotive.h"
 #include "store/frmSate.h"
 #include "support/BazaTest.h"
+#include "support/SqlTest.h"
 
 #include <QAbstractItemModel>
 #include <QApplication>
@@ -70,19 +71,13 @@ protected:
         BazaNoua();
     }
     void Strada(qint64 id, const char* nume, const char* of = "", const char* cod = "") {
-        Interogare(Bd(),
-                   QStringLiteral("INSERT INTO Strazi (StradaID, Denumire, OfPostal, CodPostal) VALUES (?, ?, ?, ?)"))
-            .Leaga(id)
-            .Leaga(QString::fromUtf8(nume))
-            .Leaga(QString::fromUtf8(of))
-            .Leaga(QString::fromUtf8(cod))
-            .Executa();
+        ExecutaCu(Bd(),
+                  QStringLiteral("INSERT INTO Strazi (StradaID, Denumire, OfPostal, CodPostal) VALUES (?, ?, ?, ?)"),
+                  id, QString::fromUtf8(nume), QString::fromUtf8(of), QString::fromUtf8(cod));
     }
     void Motiv(qint64 id, const char* nume) {
-        Interogare(Bd(), QStringLiteral("INSERT INTO Motive (MotivID, Denumire) VALUES (?, ?)"))
-            .Leaga(id)
-            .Leaga(QString::fromUtf8(nume))
-            .Executa();
+        ExecutaCu(Bd(), QStringLiteral("INSERT INTO Motive (MotivID, Denumire) VALUES (?, ?)"), id,
+                  QString::fromUtf8(nume));
     }
     QString Text(const QString& sql, qint64 cheie) {
         Interogare q(Bd(), sql);
@@ -256,9 +251,7 @@ TEST_P(Referinte, SateStergereaUneiStraziFolositeSeRefuzaApoiSeIntreaba) {
     Strada(1, "Garii");
     Strada(2, "Morii");
     Strada(3, "Viilor");
-    Interogare(Bd(), QStringLiteral("INSERT INTO Familii (FamilieID, Strada) VALUES (1, ?)"))
-        .Leaga(QStringLiteral("MORII"))
-        .Executa();
+    ExecutaCu(Bd(), QStringLiteral("INSERT INTO Familii (FamilieID, Strada) VALUES (1, ?)"), QStringLiteral("MORII"));
     frmSate f(Bd(), mesaje);
 
     f.lvwSate->setCurrentItem(Rand(f.lvwSate, QStringLiteral("Morii")));
@@ -268,9 +261,7 @@ TEST_P(Referinte, SateStergereaUneiStraziFolositeSeRefuzaApoiSeIntreaba) {
                   "Strada / satul Morii nu poate fi sters pentru ca face parte din cel putin o cerere")});
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Strazi")), 3);
 
-    Interogare(Bd(), QStringLiteral("UPDATE Familii SET Strada = ? WHERE FamilieID = 1"))
-        .Leaga(QStringLiteral("Morii Noi"))
-        .Executa();
+    ExecutaCu(Bd(), QStringLiteral("UPDATE Familii SET Strada = ? WHERE FamilieID = 1"), QStringLiteral("Morii Noi"));
     mesaje.mesaje.clear();
     mesaje.raspunsuri = {false, true};
     f.cmdDelete_Click();
