@@ -4,6 +4,7 @@
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
 #include "support/DosarTest.h"
+#include "support/PersoaneTest.h"
 #include "support/SqlTest.h"
 
 #include <QStringList>
@@ -403,61 +404,7 @@ TEST(InMembru, ValoriImplicite) {
 }
 
 TEST(DinMembru, ElementulRevineNeschimbatPrinControale) {
-    MembruCerere adult = Membru(9, CnpPartener, 2, "PARTENER");
-    adult.TipAct = 2;
-    adult.SerieBI = T("XB");
-    adult.NrBI = T("1");
-    adult.Eliberat = T("SPCLEP");
-    adult.DataElib = QDate(2018, 1, 2);
-    adult.CetatenieID = 1;
-    adult.TaraCetatenie = T("Romania");
-    adult.ResedintaID = 2;
-    adult.LocResedinta = T("Iasi");
-    adult.TaraResedinta = T("Romania");
-    adult.StCivila = 2;
-    adult.Studii = 5;
-    adult.OcupatieID = 3;
-    adult.Ocupatie = T("SOMER");
-    adult.DrAsSociala = 1;
-    adult.Motiv = T("m");
-    adult.MotivStare = T("ms");
-    adult.DataStare = QDate(2024, 2, 1);
-    adult.LocuitAfara = 1;
-    adult.Perioada11 = T("a");
-    adult.TaraAfara11 = T("b");
-    adult.Perioada22 = T("c");
-    adult.TaraAfara22 = T("d");
-    adult.LucreazaAfara = 1;
-    adult.Perioada1 = T("e");
-    adult.TaraAfara1 = T("f");
-    adult.Perioada2 = T("g");
-    adult.TaraAfara2 = T("h");
-    adult.VMG = 1;
-    adult.Incalzire = 1;
-    adult.TipIncalzTrecut = 2;
-    adult.Venit = B("980.25");
-    adult.Dizabilitate = 1;
-    adult.Repetent = 1;
-    adult.MotivID = 2;
-    adult.Suma = B("1200");
-    adult.TipValuta = 1;
-    adult.StareMembru = 2;
-    adult.Adeverinte = {{5, 2, T("77"), QDate(2024, 1, 1), QDate(2024, 1, 2), QDate(2024, 12, 31), 1}};
-
-    MembruCerere copil = Membru(10, CnpCopil, 3, "COPIL NATURAL");
-    copil.Studii = copil.OcupatieID = 3;
-    copil.Ocupatie = T("ELEV CL I-VIII");
-    copil.UScolara = T("Scoala 2");
-    copil.LocScoala = T("Iasi");
-    copil.Repetent = 1;
-    copil.Diminuare50 = 1;
-    copil.Data18Ani = QDate(2028, 3, 15);
-    copil.Motiv = T("implinirea varstei de 18 ani");
-
-    MembruCerere copilFaraScoala = Membru(11, CnpCopil, 8, "COPIL IN CURATELA");
-    copilFaraScoala.Repetent = 1;
-    copilFaraScoala.Abandon = 1;
-
+    const auto [adult, copil, copilFaraScoala] = Complete(CnpPartener, CnpCopil, CnpFaraCerere);
     for (MembruCerere e : {adult, copil, copilFaraScoala}) {
         SCOPED_TRACE(e.MembruID);
         e.ModificatLaSalvare = 1;
