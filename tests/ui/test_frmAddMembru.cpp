@@ -4,6 +4,7 @@
 #include "shell/UiDataOptionala.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
+#include "support/PersoaneTest.h"
 #include "support/SqlTest.h"
 
 #include <QApplication>
@@ -364,65 +365,7 @@ TEST_P(FormMembru, OKRefuzaInOrdineApoiScrie) {
 }
 
 TEST_P(FormMembru, FiecareControlDusSiIntorsNeschimbat) {
-    MembruCerere adult = Element(31, CnpMama, 2, "PARTENER");
-    adult.TipAct = 8;
-    adult.SerieBI = T("IF");
-    adult.NrBI = T("123456");
-    adult.Eliberat = T("SPCLEP Otopeni"); // not in the list: kept as typed
-    adult.DataElib = QDate(2019, 4, 2);
-    adult.CetatenieID = 2;
-    adult.TaraCetatenie = T("Italia");
-    adult.ResedintaID = 3;
-    adult.LocResedinta = T("Roma");
-    adult.TaraResedinta = T("Italia");
-    adult.StCivila = 6;
-    adult.Studii = 3;
-    adult.OcupatieID = 12;
-    adult.Ocupatie = T("LUCREAZA IN STRAINATATE");
-    adult.DrAsSociala = 4;
-    adult.Motiv = T("alt motiv scris");
-    adult.MotivStare = T("pastrat");
-    adult.DataStare = QDate(2025, 2, 1);
-    adult.LocuitAfara = 1;
-    adult.Perioada11 = T("2022-2023");
-    adult.TaraAfara11 = T("Italia");
-    adult.Perioada22 = T("2024");
-    adult.TaraAfara22 = T("Spania");
-    adult.LucreazaAfara = 1;
-    adult.Perioada1 = T("ian-iun 2023");
-    adult.TaraAfara1 = T("Germania");
-    adult.Perioada2 = T("2024");
-    adult.TaraAfara2 = T("Austria");
-    adult.VMG = 1;
-    adult.Alocatie = 1;
-    adult.Incalzire = 1;
-    adult.TipIncalzTrecut = 3;
-    adult.Venit = *Bani::DinText(T("980.25"));
-    adult.Dizabilitate = 1;
-    adult.Repetent = 1;
-    adult.MotivID = 4;
-    adult.Suma = *Bani::DinText(T("1200.5"));
-    adult.TipValuta = 4;
-    adult.StareMembru = 3;
-    adult.Adeverinte = {{5, 2, T("77"), QDate(2024, 1, 1), QDate(2024, 1, 2), QDate(2025, 12, 31), 1},
-                        {6, 9, T("N-1"), QDate(), QDate(2024, 1, 3), QDate(), 0}};
-
-    MembruCerere copil = Element(32, CnpFiu, 7, "COPIL ADOPTAT");
-    copil.Studii = copil.OcupatieID = 4;
-    copil.Ocupatie = T("ELEV CL IX-XII");
-    copil.UScolara = T("Scoala Gimnaziala nr. 1");
-    copil.LocScoala = T("Branesti");
-    copil.Repetent = 1;
-    copil.Diminuare50 = 1;
-    copil.Data18Ani = QDate(2032, 2, 3);
-    copil.Motiv = T("implinirea varstei de 18 ani");
-    copil.StareMembru = 1;
-
-    MembruCerere faraScoala = Element(0, CnpCopilNou, 3, "COPIL NATURAL");
-    faraScoala.Repetent = 1;
-    faraScoala.Abandon = 1;
-    faraScoala.Peste20abs = 0;
-
+    const auto [adult, copil, faraScoala] = Complete(CnpMama, CnpFiu, CnpCopilNou);
     StareCerere s;
     s.MatriceMembri = std::vector<MembruCerere>{adult, copil, faraScoala};
     for (int i = 0; i < 3; ++i) {
