@@ -357,26 +357,13 @@ TEST_P(AncheteBaza, CheiaNouaEsteMaximulPlusUnu) {
 TEST_P(AncheteBaza, ListaAnchetelorCereriiCeleMaiNoiIntai) {
     const qint64 cerere = Cerere(1, {Cnp(QDate(1985, 3, 2), 1), Cnp(QDate(2014, 2, 3), 2)});
     EXPECT_TRUE(Anchete::ListaAnchete(Bd(), cerere).empty());
-    Interogare ins(Bd(), QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, NrMembrii, NrCopii, "
-                                        "DataExpirarii, Motiv) VALUES (?, ?, ?, ?, ?, ?, ?)"));
-    ins.Leaga(5)
-        .Leaga(cerere)
-        .Leaga(QDate(2023, 2, 3))
-        .Leaga(4)
-        .Leaga(2)
-        .Leaga(QDate(2023, 8, 3))
-        .Leaga(Valabil)
-        .Executa();
-    ins.Leaga(6)
-        .Leaga(cerere)
-        .Leaga(QVariant())
-        .Leaga(QVariant())
-        .Leaga(QVariant())
-        .Leaga(QVariant())
-        .Leaga(QVariant())
-        .Executa();
-    ins.Leaga(7).Leaga(cerere).Leaga(QDate(2024, 11, 28)).Leaga(3).Leaga(0).Leaga(QVariant()).Leaga(Incetata).Executa();
-    ins.Leaga(8).Leaga(900).Leaga(QDate(2024, 12, 1)).Leaga(2).Leaga(1).Leaga(QVariant()).Leaga(QVariant()).Executa();
+    const QString ins = QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, NrMembrii, NrCopii, "
+                                       "DataExpirarii, Motiv) VALUES (?, ?, ?, ?, ?, ?, ?)");
+    const QVariant nul;
+    ExecutaCu(Bd(), ins, 5, cerere, QDate(2023, 2, 3), 4, 2, QDate(2023, 8, 3), Valabil);
+    ExecutaCu(Bd(), ins, 6, cerere, nul, nul, nul, nul, nul);
+    ExecutaCu(Bd(), ins, 7, cerere, QDate(2024, 11, 28), 3, 0, nul, Incetata);
+    ExecutaCu(Bd(), ins, 8, 900, QDate(2024, 12, 1), 2, 1, nul, nul);
 
     const auto randuri = Anchete::ListaAnchete(Bd(), cerere);
     const auto text = [](const RandAncheta& r) {
