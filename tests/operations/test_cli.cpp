@@ -42,24 +42,63 @@ TEST_P(Cli, UpgradeSpuneCeSchimbaSiEsueazaCuCatalogLipsa) {
 
 PE_AMBELE_MOTOARE(Cli);
 
+// Each wrong command line gives code 2, one line of usage on the error stream, nothing on the
+// other, and creates nothing in the folder it names (DIR).
 TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
-    const QStringList cazuri[] = {
-        {},
-        {QStringLiteral("sterge-tot")},
-        {QStringLiteral("init"), QStringLiteral("--necunoscut")},
-        {QStringLiteral("demo")},
-        {QStringLiteral("demo"), QStringLiteral("--cereri"), QStringLiteral("multe")},
-        {QStringLiteral("demo"), QStringLiteral("--cereri"), QStringLiteral("-5")},
-        {QStringLiteral("init"), QStringLiteral("--seed"), QStringLiteral("3")},
-        {QStringLiteral("init"), QStringLiteral("upgrade")},
+    const char* general = "utilizare: ferolanta-cli";
+    const char* cuantum = "cuantum ID [--luna L --an A]";
+    const struct {
+        const char* linie;
+        const char* utilizare;
+    } cazuri[] = {
+        {"", general},
+        {"sterge-tot", general},
+        {"init --necunoscut", general},
+        {"demo", general},
+        {"demo --cereri multe", general},
+        {"demo --cereri -5", general},
+        {"init --seed 3", general},
+        {"init upgrade", general},
+        {"cuantum --dir DIR", cuantum},
+        {"cuantum abc --dir DIR", cuantum},
+        {"cuantum 0 --dir DIR", cuantum},
+        {"cuantum -3 --dir DIR", cuantum},
+        {"cuantum 5 6 --dir DIR", cuantum},
+        {"cuantum 5 --luna 3 --dir DIR", cuantum},
+        {"cuantum 5 --luna 13 --an 2015 --dir DIR", cuantum},
+        {"cuantum 5 --luna 0 --an 2015 --dir DIR", cuantum},
+        {"cuantum 5 --luna 2 --an 20x5 --dir DIR", cuantum},
+        {"cuantum 5 --cereri 3 --dir DIR", cuantum},
+        {"init --luna 3 --an 2015 --dir DIR", cuantum},
+        {"document", general},
+        {"document dispozitie", general},
+        {"document anexa 3", general},
+        {"document fisa x", general},
+        {"document fisa 0", general},
+        {"document fisa 3 4", general},
+        {"document dispozitie 3 --data 01.01.2025", general},
+        {"document fisa 3 --data 31.02.2025", general},
+        {"init --out x.rtf", general},
+        {"web", general},
+        {"web cerere", general},
+        {"web dispozitie 3", general},
+        {"web cerere -1", general},
+        {"web cerere x", general},
+        {"web cerere 3 4", general},
+        {"web cerere 3 --sablon a.rtf", general},
+        {"upgrade --out x", general},
     };
+    QTemporaryDir dir;
     for (const auto& c : cazuri) {
-        const IesireCli r = RuleazaLinie(c);
-        EXPECT_EQ(r.cod, 2) << c.join(' ').toStdString();
+        SCOPED_TRACE(c.linie);
+        const IesireCli r = RuleazaLinie(
+            QString::fromLatin1(c.linie).replace(QLatin1String("DIR"), dir.path()).split(u' ', Qt::SkipEmptyParts));
+        EXPECT_EQ(r.cod, 2);
         EXPECT_EQ(r.err.count(QLatin1Char('\n')), 1) << r.err.toStdString();
-        EXPECT_TRUE(r.err.contains(QStringLiteral("utilizare: ferolanta-cli"))) << r.err.toStdString();
-        EXPECT_TRUE(r.out.isEmpty());
+        EXPECT_TRUE(r.err.contains(QLatin1String(c.utilizare))) << r.err.toStdString();
+        EXPECT_TRUE(r.out.isEmpty()) << r.out.toStdString();
     }
+    EXPECT_TRUE(QDir(dir.path()).isEmpty()) << "nothing created for bad arguments";
 }
 
 TEST(CliArgumente, FolderLipsaSauFisierStraindauCodul1) {
