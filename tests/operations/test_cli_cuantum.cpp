@@ -130,34 +130,4 @@ TEST_P(CliCuantum, LunaDeLucruDinArgumenteSetariSauAzi) {
 
 PE_AMBELE_MOTOARE(CliCuantum);
 
-TEST(CliCuantumArgumente, ArgumenteGresiteDauCodul2) {
-    const QStringList cazuri[] = {
-        {QStringLiteral("cuantum")},
-        {QStringLiteral("cuantum"), QStringLiteral("abc")},
-        {QStringLiteral("cuantum"), QStringLiteral("0")},
-        {QStringLiteral("cuantum"), QStringLiteral("-3")},
-        {QStringLiteral("cuantum"), QStringLiteral("5"), QStringLiteral("6")},
-        {QStringLiteral("cuantum"), QStringLiteral("5"), QStringLiteral("--luna"), QStringLiteral("3")},
-        {QStringLiteral("cuantum"), QStringLiteral("5"), QStringLiteral("--luna"), QStringLiteral("13"),
-         QStringLiteral("--an"), QStringLiteral("2015")},
-        {QStringLiteral("cuantum"), QStringLiteral("5"), QStringLiteral("--luna"), QStringLiteral("0"),
-         QStringLiteral("--an"), QStringLiteral("2015")},
-        {QStringLiteral("cuantum"), QStringLiteral("5"), QStringLiteral("--luna"), QStringLiteral("2"),
-         QStringLiteral("--an"), QStringLiteral("20x5")},
-        {QStringLiteral("cuantum"), QStringLiteral("5"), QStringLiteral("--cereri"), QStringLiteral("3")},
-        {QStringLiteral("init"), QStringLiteral("--luna"), QStringLiteral("3"), QStringLiteral("--an"),
-         QStringLiteral("2015")},
-    };
-    QTemporaryDir dir;
-    for (QStringList c : cazuri) {
-        c << QStringLiteral("--dir") << dir.path();
-        const IesireCli r = RuleazaLinie(c);
-        EXPECT_EQ(r.cod, 2) << c.join(' ').toStdString();
-        EXPECT_EQ(r.err.count(QLatin1Char('\n')), 1) << r.err.toStdString();
-        EXPECT_TRUE(r.err.contains(QStringLiteral("cuantum ID [--luna L --an A]"))) << r.err.toStdString();
-        EXPECT_TRUE(r.out.isEmpty());
-    }
-    EXPECT_TRUE(QDir(dir.path()).isEmpty()) << "nothing created for bad arguments";
-}
-
 } // namespace
