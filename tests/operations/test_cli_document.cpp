@@ -110,26 +110,4 @@ TEST_P(CliDocument, EsecurileSpunDeCeSiNuScriuNimic) {
 
 PE_AMBELE_MOTOARE(CliDocument);
 
-TEST(CliDocumentArgumente, ArgumenteGresiteDauCodul2) {
-    const QStringList cazuri[] = {
-        {QStringLiteral("document")},
-        {QStringLiteral("document"), QStringLiteral("dispozitie")},
-        {QStringLiteral("document"), QStringLiteral("anexa"), QStringLiteral("3")},
-        {QStringLiteral("document"), QStringLiteral("fisa"), QStringLiteral("x")},
-        {QStringLiteral("document"), QStringLiteral("fisa"), QStringLiteral("0")},
-        {QStringLiteral("document"), QStringLiteral("fisa"), QStringLiteral("3"), QStringLiteral("4")},
-        {QStringLiteral("document"), QStringLiteral("dispozitie"), QStringLiteral("3"), QStringLiteral("--data"),
-         QStringLiteral("01.01.2025")},
-        {QStringLiteral("document"), QStringLiteral("fisa"), QStringLiteral("3"), QStringLiteral("--data"),
-         QStringLiteral("31.02.2025")},
-        {QStringLiteral("init"), QStringLiteral("--out"), QStringLiteral("x.rtf")},
-    };
-    for (const auto& c : cazuri) {
-        const IesireCli r = RuleazaLinie(c);
-        EXPECT_EQ(r.cod, 2) << c.join(u' ').toStdString();
-        EXPECT_EQ(r.err.count(QLatin1Char('\n')), 1) << r.err.toStdString();
-        EXPECT_TRUE(r.err.contains(QStringLiteral("utilizare: ferolanta-cli"))) << r.err.toStdString();
-    }
-}
-
 } // namespace
