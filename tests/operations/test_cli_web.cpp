@@ -57,24 +57,4 @@ TEST_P(CliWeb, CerereaCareNuExistaDaCodul1) {
 
 PE_AMBELE_MOTOARE(CliWeb);
 
-TEST(CliWebArgumente, ArgumenteGresiteDauCodul2) {
-    const QStringList cazuri[] = {
-        {QStringLiteral("web")},
-        {QStringLiteral("web"), QStringLiteral("cerere")},
-        {QStringLiteral("web"), QStringLiteral("dispozitie"), QStringLiteral("3")},
-        {QStringLiteral("web"), QStringLiteral("cerere"), QStringLiteral("-1")},
-        {QStringLiteral("web"), QStringLiteral("cerere"), QStringLiteral("x")},
-        {QStringLiteral("web"), QStringLiteral("cerere"), QStringLiteral("3"), QStringLiteral("4")},
-        {QStringLiteral("web"), QStringLiteral("cerere"), QStringLiteral("3"), QStringLiteral("--sablon"),
-         QStringLiteral("a.rtf")},
-        {QStringLiteral("upgrade"), QStringLiteral("--out"), QStringLiteral("x")},
-    };
-    for (const auto& c : cazuri) {
-        const IesireCli r = RuleazaLinie(c);
-        EXPECT_EQ(r.cod, 2) << c.join(u' ').toStdString();
-        EXPECT_EQ(r.err.count(QLatin1Char('\n')), 1) << r.err.toStdString();
-        EXPECT_TRUE(r.err.contains(QStringLiteral("utilizare: ferolanta-cli"))) << r.err.toStdString();
-    }
-}
-
 } // namespace
