@@ -169,7 +169,7 @@ TEST_P(FormMembrii, ListaSiCautarea) {
     for (const char* b : {"cmdAdd", "cmdEdit", "cmdDelete"})
         EXPECT_FALSE(G<QPushButton>(f, QLatin1String(b))->isEnabled()) << b;
 
-    // Enter in a box: the first person of the list whose field begins with the text.
+    // Enter in a box searches its own field (what matches: MembriiBaza.CautareaGasestePrimulCareIncepeCuTextul).
     const struct {
         int camp;
         const char* text;
@@ -177,14 +177,9 @@ TEST_P(FormMembrii, ListaSiCautarea) {
         const char* mesaj;
     } cazuri[] = {
         {0, "2850", "3", nullptr},
-        {0, "6", "8", nullptr},
         {2, "ionescu", "3", nullptr},
         {1, "IOA", "8", nullptr},
-        {2, "pop", "5", nullptr},
-        {2, "d'a", "12", nullptr},
-        {1, "Ana_", "12", nullptr},
         {1, "Ana%", "", "Nu s-a gasit Prenumele: Ana%"},
-        {0, "9", "", "Nu s-a gasit CNP-ul: 9"},
         {2, "Zamfir", "", "Nu s-a gasit Numele: Zamfir"},
     };
     for (const auto& c : cazuri) {
