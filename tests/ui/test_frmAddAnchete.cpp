@@ -4,6 +4,7 @@
 #include "shell/UiDataOptionala.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
+#include "support/FormTest.h"
 #include "support/SqlTest.h"
 
 #include <QCheckBox>
@@ -44,19 +45,9 @@ protected:
         TestBaza::TearDown();
     }
 
-    template <class W> static W* Gaseste(QWidget& f, const QString& nume) {
-        W* w = f.findChild<W*>(nume);
-        EXPECT_NE(w, nullptr) << nume.toStdString();
-        return w;
-    }
     static QLineEdit* Text(QWidget& f, int i) { return Gaseste<QLineEdit>(f, QStringLiteral("txtCerere_%1").arg(i)); }
     static QComboBox* Lista(QWidget& f, int i) { return Gaseste<QComboBox>(f, QStringLiteral("cboCerere_%1").arg(i)); }
     static QString Eticheta(QWidget& f, const char* nume) { return Gaseste<QLabel>(f, QLatin1String(nume))->text(); }
-    static void Alege(QComboBox* c, const QString& text) {
-        const int i = c->findText(text);
-        ASSERT_GE(i, 0) << text.toStdString();
-        c->setCurrentIndex(i);
-    }
     // The date as the clerk sets it: the day chosen and the box ticked.
     static void SeteazaData(QWidget& f, const QDate& d) {
         auto* dtp = Gaseste<UiDataOptionala>(f, QStringLiteral("dtpData"));
