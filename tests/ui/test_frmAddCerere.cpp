@@ -7,6 +7,7 @@
 #include "shell/UiDataOptionala.h"
 #include "support/BazaTest.h"
 #include "support/DosarTest.h"
+#include "support/FormTest.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -86,11 +87,6 @@ protected:
         }
     }
 
-    template <class W> static W* Gaseste(QWidget& f, const QString& nume) {
-        W* w = f.findChild<W*>(nume);
-        EXPECT_NE(w, nullptr) << nume.toStdString();
-        return w;
-    }
     static QLineEdit* Text(QWidget& f, int i) { return Gaseste<QLineEdit>(f, QStringLiteral("txtCerere_%1").arg(i)); }
     static QComboBox* Lista(QWidget& f, int i) { return Gaseste<QComboBox>(f, QStringLiteral("cboCerere_%1").arg(i)); }
     static UiDataOptionala* Data(QWidget& f, int i) {
@@ -123,13 +119,6 @@ protected:
             r << Text(f, i)->text();
         return r;
     }
-    static void Captura(QWidget& f, const char* fisier) {
-        const QString capturi = qEnvironmentVariable("FEROLANTA_CAPTURI");
-        if (capturi.isEmpty()) return;
-        f.show();
-        EXPECT_TRUE(f.grab().save(QDir(capturi).filePath(QLatin1String(fisier))));
-    }
-    bool PeSQLite() const { return GetParam() == Motor::SQLite; }
 
     // A titular and two children of the working month.
     std::vector<MembruCerere> Familie() {
@@ -229,7 +218,7 @@ TEST_P(FormCerere, CerereNouaSalvataSiRedeschisa) {
               (QStringList{QStringLiteral("500.5"), QStringLiteral("166.833333333333"), QStringLiteral("3"),
                            QStringLiteral("2"), QStringLiteral("173")}));
     EXPECT_TRUE(mesaje.mesaje.empty()) << mesaje.Texte().join(QLatin1Char('|')).toStdString();
-    if (PeSQLite()) Captura(*f, "frmAddCerere_adaugare.png");
+    Captura(*f, GetParam(), "frmAddCerere_adaugare.png");
 
     const DateCerere scrise = f->Citeste();
     const StareCerere stare = *f->Stare();
@@ -264,7 +253,7 @@ TEST_P(FormCerere, CerereNouaSalvataSiRedeschisa) {
     EXPECT_FALSE(g->picPlata->isHidden()) << "bank transfer shows the bank frame";
     EXPECT_EQ(g->lvw->currentItem(), g->lvw->topLevelItem(0));
     EXPECT_TRUE(g->cmdEdit->isEnabled());
-    if (PeSQLite()) Captura(*g, "frmAddCerere_modificare.png");
+    Captura(*g, GetParam(), "frmAddCerere_modificare.png");
 }
 
 // A stored request opens as it was saved; a child who came of age since is counted again, with
