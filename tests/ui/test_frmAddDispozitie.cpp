@@ -5,6 +5,7 @@
 #include "shell/Eroare.h"
 #include "support/BazaTest.h"
 #include "support/DispozitiiTest.h"
+#include "support/FormTest.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -41,11 +42,6 @@ protected:
         TestBaza::TearDown();
     }
 
-    template <class W> static W* Gaseste(QWidget& f, const QString& nume) {
-        W* w = f.findChild<W*>(nume);
-        EXPECT_NE(w, nullptr) << nume.toStdString();
-        return w;
-    }
     static QLineEdit* Text(QWidget& f, int i) { return Gaseste<QLineEdit>(f, QStringLiteral("txtDispoz_%1").arg(i)); }
     static QComboBox* Lista(QWidget& f, const char* nume) { return Gaseste<QComboBox>(f, QLatin1String(nume)); }
     static QString Eticheta(QWidget& f, const char* nume) { return Gaseste<QLabel>(f, QLatin1String(nume))->text(); }
@@ -53,22 +49,11 @@ protected:
     static bool Arata(QWidget& f, const char* nume) {
         return Gaseste<QWidget>(f, QLatin1String(nume))->isVisibleTo(&f);
     }
-    static void Alege(QComboBox* c, const QString& text) {
-        const int i = c->findText(text);
-        ASSERT_GE(i, 0) << text.toStdString();
-        c->setCurrentIndex(i);
-    }
     static bool FocusPe(QWidget& f, const char* nume) {
         const QWidget* w = f.focusWidget();
         while (w && w->objectName() != QLatin1String(nume))
             w = w->parentWidget();
         return w != nullptr;
-    }
-    void Captura(QWidget& f, const char* fisier) {
-        const QString capturi = qEnvironmentVariable("FEROLANTA_CAPTURI");
-        if (capturi.isEmpty() || GetParam() != Motor::SQLite) return;
-        f.show();
-        EXPECT_TRUE(f.grab().save(QDir(capturi).filePath(QLatin1String(fisier))));
     }
 };
 
@@ -126,7 +111,7 @@ TEST_P(FormDispozitii, AdaugareaDeschideDinCerereSiUrmeazaTipul) {
     }
 
     Alege(tip, QStringLiteral("suspendare"));
-    Captura(f, "frmAddDispozitie_suspendare.png");
+    Captura(f, GetParam(), "frmAddDispozitie_suspendare.png");
     Alege(tip, QStringLiteral("acordare"));
 
     // The number boxes take digits, comma and point only; Enter moves on and is not a click.
@@ -202,7 +187,7 @@ TEST_P(FormDispozitii, SchimbareaDeCuantumSiRefuzurileLuiOK) {
     Alege(Lista(f, "cboDispoz_1"), QStringLiteral("Martie"));
     Text(f, 1)->setText(QStringLiteral("2024"));
     Text(f, 3)->setText(QStringLiteral("230,75"));
-    Captura(f, "frmAddDispozitie.png");
+    Captura(f, GetParam(), "frmAddDispozitie.png");
     mesaje.mesaje.clear();
     f.cmdOK_Click();
     EXPECT_TRUE(mesaje.Texte().isEmpty());
@@ -283,7 +268,7 @@ TEST_P(FormDispozitii, Anexa2GenereazaSiAlegeCeSeTipareste) {
     EXPECT_EQ(Lista(f, "cboTipCerere")->itemText(1), QStringLiteral("monoparental"));
     EXPECT_EQ(Lista(f, "cboLuna")->currentText(), QStringLiteral("Noiembrie"));
     EXPECT_EQ(Gaseste<QDateEdit>(f, QStringLiteral("dtpData"))->date(), Azi);
-    Captura(f, "frmAnexa2.png");
+    Captura(f, GetParam(), "frmAnexa2.png");
 
     // The printing: the choice goes to the caller, which selects with the working year.
     Alege(Lista(f, "cboCerere_0"), QStringLiteral("suspendare"));
