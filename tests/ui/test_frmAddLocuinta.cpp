@@ -2,6 +2,7 @@
 #include "cases/frmAddLocuinta.h"
 #include "shell/UiDataOptionala.h"
 #include "support/BazaTest.h"
+#include "support/FormTest.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -35,11 +36,6 @@ protected:
         stare.Venituri[0] = Bani::DinLei(800);
     }
 
-    template <class W> static W* Gaseste(QWidget& f, const QString& nume) {
-        W* w = f.findChild<W*>(nume);
-        EXPECT_NE(w, nullptr) << nume.toStdString();
-        return w;
-    }
     static QCheckBox* Bifa(QWidget& f, const char* nume, int i) {
         return Gaseste<QCheckBox>(f, QStringLiteral("%1_%2").arg(QLatin1String(nume)).arg(i));
     }
