@@ -2,6 +2,7 @@
 #include "cases/frmMembrii.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
+#include "support/FormTest.h"
 #include "support/SqlTest.h"
 
 #include <QCheckBox>
@@ -19,19 +20,6 @@ QString T(const char* s) {
     return QString::fromUtf8(s);
 }
 
-template <class W> W* G(QWidget& f, const QString& nume) {
-    W* w = f.findChild<W*>(nume);
-    EXPECT_NE(w, nullptr) << nume.toStdString();
-    return w;
-}
-
-void Captura(QWidget& f, Motor motor, const char* fisier) {
-    const QString capturi = qEnvironmentVariable("FEROLANTA_CAPTURI");
-    if (capturi.isEmpty() || motor != Motor::SQLite) return;
-    f.show();
-    EXPECT_TRUE(f.grab().save(QDir(capturi).filePath(QLatin1String(fisier))));
-}
-
 // ---------------------------------------------------------------------------------------------
 // frmMotiv
 
@@ -40,11 +28,6 @@ protected:
     void SetUp() override {
         TestBaza::SetUp();
         if (!IsSkipped()) BazaNoua();
-    }
-    static void Alege(QComboBox* c, const char* text) {
-        const int i = c->findText(T(text));
-        ASSERT_GE(i, 0) << text;
-        c->setCurrentIndex(i);
     }
 };
 
@@ -67,10 +50,10 @@ TEST_P(FormMotiv, OKDaMotivulSumaSiValuta) {
         SCOPED_TRACE(c.motiv ? c.motiv : "-");
         frmMotiv f(Bd(), mesaje);
         f.show();
-        auto* motiv = G<QComboBox>(f, T("cboMembru_0"));
-        auto* valuta = G<QComboBox>(f, T("cboMembru_1"));
-        auto* bifa = G<QCheckBox>(f, T("chkVenit"));
-        auto* suma = G<QLineEdit>(f, T("txtMembru"));
+        auto* motiv = Gaseste<QComboBox>(f, T("cboMembru_0"));
+        auto* valuta = Gaseste<QComboBox>(f, T("cboMembru_1"));
+        auto* bifa = Gaseste<QCheckBox>(f, T("chkVenit"));
+        auto* suma = Gaseste<QLineEdit>(f, T("txtMembru"));
         EXPECT_EQ(motiv->currentIndex(), -1);
         EXPECT_EQ(motiv->count(), 10);
         EXPECT_EQ(valuta->count(), 4);
@@ -81,7 +64,7 @@ TEST_P(FormMotiv, OKDaMotivulSumaSiValuta) {
         if (c.cuVenit) bifa->click();
         EXPECT_EQ(suma->isEnabled(), c.cuVenit);
         suma->setText(T(c.suma));
-        G<QPushButton>(f, T("cmdOK"))->click();
+        Gaseste<QPushButton>(f, T("cmdOK"))->click();
         ASSERT_TRUE(f.Rezultat);
         EXPECT_EQ(f.Rezultat->MotivID, c.asteptat.MotivID);
         EXPECT_EQ(f.Rezultat->Suma, c.asteptat.Suma);
@@ -95,11 +78,11 @@ TEST_P(FormMotiv, OKDaMotivulSumaSiValuta) {
 TEST_P(FormMotiv, SumaCareNuEsteNumarTineDialogulDeschis) {
     frmMotiv f(Bd(), mesaje);
     f.show();
-    Alege(G<QComboBox>(f, T("cboMembru_0")), "ANGAJAT");
-    G<QCheckBox>(f, T("chkVenit"))->click();
-    auto* suma = G<QLineEdit>(f, T("txtMembru"));
+    Alege(Gaseste<QComboBox>(f, T("cboMembru_0")), "ANGAJAT");
+    Gaseste<QCheckBox>(f, T("chkVenit"))->click();
+    auto* suma = Gaseste<QLineEdit>(f, T("txtMembru"));
     suma->setText(T("12 lei"));
-    G<QPushButton>(f, T("cmdOK"))->click();
+    Gaseste<QPushButton>(f, T("cmdOK"))->click();
     EXPECT_FALSE(f.Rezultat);
     EXPECT_TRUE(f.isVisible());
     ASSERT_EQ(mesaje.mesaje.size(), 1u);
@@ -109,7 +92,7 @@ TEST_P(FormMotiv, SumaCareNuEsteNumarTineDialogulDeschis) {
     EXPECT_EQ(f.focusWidget(), suma);
 
     suma->setText(T("12,5"));
-    G<QPushButton>(f, T("cmdOK"))->click();
+    Gaseste<QPushButton>(f, T("cmdOK"))->click();
     ASSERT_TRUE(f.Rezultat);
     EXPECT_EQ(f.Rezultat->Suma, *Bani::DinText(T("12.5")));
     Captura(f, GetParam(), "frmMotiv.png");
@@ -117,8 +100,8 @@ TEST_P(FormMotiv, SumaCareNuEsteNumarTineDialogulDeschis) {
     // Cancel gives no reason, even after a choice.
     frmMotiv r(Bd(), mesaje);
     r.show();
-    Alege(G<QComboBox>(r, T("cboMembru_0")), "DECES");
-    G<QPushButton>(r, T("cmdCancel"))->click();
+    Alege(Gaseste<QComboBox>(r, T("cboMembru_0")), "DECES");
+    Gaseste<QPushButton>(r, T("cmdCancel"))->click();
     EXPECT_FALSE(r.Rezultat);
     EXPECT_EQ(r.result(), QDialog::Rejected);
 }
@@ -154,7 +137,7 @@ protected:
 TEST_P(FormMembrii, ListaSiCautarea) {
     frmMembrii f(Bd(), mesaje);
     f.show();
-    auto* lvw = G<QTableView>(f, T("lvwMembrii"));
+    auto* lvw = Gaseste<QTableView>(f, T("lvwMembrii"));
     QStringList titluri;
     for (int c = 0; c < lvw->model()->columnCount(); ++c)
         titluri << lvw->model()->headerData(c, Qt::Horizontal).toString();
@@ -167,7 +150,7 @@ TEST_P(FormMembrii, ListaSiCautarea) {
               (QStringList{T("5"), T("Popescu"), T("Ion"), T("1770203460047"), T("CI"), T("IF"), T("123456")}));
     EXPECT_FALSE(f.MembruSelectat());
     for (const char* b : {"cmdAdd", "cmdEdit", "cmdDelete"})
-        EXPECT_FALSE(G<QPushButton>(f, QLatin1String(b))->isEnabled()) << b;
+        EXPECT_FALSE(Gaseste<QPushButton>(f, QLatin1String(b))->isEnabled()) << b;
 
     // Enter in a box searches its own field (what matches: MembriiBaza.CautareaGasestePrimulCareIncepeCuTextul).
     const struct {
@@ -186,7 +169,7 @@ TEST_P(FormMembrii, ListaSiCautarea) {
         SCOPED_TRACE(c.text);
         mesaje.mesaje.clear();
         f.lvwMembrii->clearSelection();
-        QLineEdit* t = G<QLineEdit>(f, QStringLiteral("Txt_%1").arg(c.camp));
+        QLineEdit* t = Gaseste<QLineEdit>(f, QStringLiteral("Txt_%1").arg(c.camp));
         t->setFocus();
         t->setText(T(c.text));
         QTest::keyClick(t, Qt::Key_Return);
