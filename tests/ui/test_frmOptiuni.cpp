@@ -2,6 +2,7 @@
 #include "shell/ServiciuFisiere.h"
 #include "shell/Setari.h"
 #include "shell/frmOptiuni.h"
+#include "support/FormTest.h"
 #include "support/MesajeInregistrate.h"
 
 #include <QCheckBox>
@@ -26,11 +27,6 @@ protected:
     QString Ini() const { return QDir(dir_.path()).filePath(Foldere::FisierSetari); }
     std::string Citeste(const char* sectiune, const char* cheie) const {
         return S(ServiciuFisiere::CitesteIni(Ini(), QLatin1String(sectiune), QLatin1String(cheie)));
-    }
-    template <class W> static W* Gaseste(QWidget& f, const char* nume) {
-        W* w = f.findChild<W*>(QLatin1String(nume));
-        EXPECT_NE(w, nullptr) << nume;
-        return w;
     }
 
     // Settings away from the defaults, as a clerk may have left them.
