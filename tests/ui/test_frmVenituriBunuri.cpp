@@ -3,6 +3,7 @@
 #include "cases/frmAddVenituri.h"
 #include "cases/frmBife.h"
 #include "support/BazaTest.h"
+#include "support/FormTest.h"
 
 #include <QApplication>
 #include <QDir>
@@ -41,11 +42,6 @@ protected:
         stare.ActeBife = QStringLiteral("1101");
     }
 
-    template <class W> static W* Gaseste(QWidget& f, const char* nume) {
-        W* w = f.findChild<W*>(QLatin1String(nume));
-        EXPECT_NE(w, nullptr) << nume;
-        return w;
-    }
     // Types into a cell as the clerk does: opens its editor, writes, and presses Enter.
     static void Scrie(QTableWidget* g, int rand, int coloana, const QString& text) {
         g->setCurrentCell(rand, coloana);
@@ -67,11 +63,6 @@ protected:
         for (int i = 0; i < l->count(); ++i)
             r += l->item(i)->checkState() == Qt::Checked ? u'1' : u'0';
         return r;
-    }
-    static void Captura(QWidget& f, const char* nume) {
-        const QString capturi = qEnvironmentVariable("FEROLANTA_CAPTURI");
-        if (capturi.isEmpty() || GetParam() != Motor::SQLite) return;
-        EXPECT_TRUE(f.grab().save(QDir(capturi).filePath(QLatin1String(nume))));
     }
 
     StareCerere stare;
@@ -116,7 +107,7 @@ TEST_P(DialoguriCerere, VeniturileSeScriuLaOKSiTotalulUrmeazaFiecareCelula) {
         EXPECT_EQ(total->text(), QString::fromLatin1(p.total));
         EXPECT_EQ(mesaje.Texte(), p.mesaje);
     }
-    Captura(f, "frmAddVenituri.png");
+    Captura(f, GetParam(), "frmAddVenituri.png");
 
     const StareCerere inainte = stare;
     QTest::mouseClick(Gaseste<QPushButton>(f, "cmdOK"), Qt::LeftButton);
@@ -195,7 +186,7 @@ TEST_P(DialoguriCerere, BunurileSiExcludereaSeScriuLaOK) {
     }
     lst->item(1)->setCheckState(Qt::Unchecked);
     lst->item(4)->setCheckState(Qt::Checked);
-    Captura(f, "frmBife.png");
+    Captura(f, GetParam(), "frmBife.png");
 
     const StareCerere inainte = stare;
     QTest::mouseClick(Gaseste<QPushButton>(f, "cmdOK"), Qt::LeftButton);
@@ -286,7 +277,7 @@ TEST_P(DialoguriCerere, ActeleBifateSeImpacheteazaLaOK) {
     EXPECT_TRUE(Randuri(lst).back().startsWith(QStringLiteral("28. - ")));
     // A text shorter than the catalogue: the rows past its end are unchecked.
     EXPECT_EQ(Bifate(lst), QStringLiteral("1101000000000000000000000000"));
-    Captura(f, "frmAddActe.png");
+    Captura(f, GetParam(), "frmAddActe.png");
 
     lst->item(1)->setCheckState(Qt::Unchecked);
     lst->item(27)->setCheckState(Qt::Checked);
