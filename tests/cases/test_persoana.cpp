@@ -22,17 +22,6 @@ Bani B(const char* s) {
     return *Bani::DinText(T(s));
 }
 
-// A code with the control digit of its first twelve: weights 2 7 9 1 4 6 3 5 8 2 7 9, sum
-// modulo 11, 10 written as 1.
-QString CuControl(const char* douasprezece) {
-    static const int ponderi[12] = {2, 7, 9, 1, 4, 6, 3, 5, 8, 2, 7, 9};
-    int suma = 0;
-    for (int i = 0; i < 12; ++i)
-        suma += (douasprezece[i] - '0') * ponderi[i];
-    const int control = suma % 11 == 10 ? 1 : suma % 11;
-    return T(douasprezece) + QString::number(control);
-}
-
 const QString CnpTitular = CuControl("185050546001");    // 5 May 1985
 const QString CnpCopil = CuControl("510031546002");      // 15 March 2010
 const QString CnpPartener = CuControl("287111146003");   // 11 November 1987
