@@ -30,16 +30,6 @@ QString T(const char* s) {
     return QString::fromUtf8(s);
 }
 
-// Codes with their control digit.
-QString CuControl(const char* douasprezece) {
-    static const int ponderi[12] = {2, 7, 9, 1, 4, 6, 3, 5, 8, 2, 7, 9};
-    int suma = 0;
-    for (int i = 0; i < 12; ++i)
-        suma += (douasprezece[i] - '0') * ponderi[i];
-    const int control = suma % 11 == 10 ? 1 : suma % 11;
-    return T(douasprezece) + QString::number(control);
-}
-
 const QString CnpMama = CuControl("285030240001");     // 2 March 1985, on request 3
 const QString CnpFiu = CuControl("514020340002");      // 3 February 2014, on request 3
 const QString CnpNou = CuControl("198071546003");      // 15 July 1998, nobody's
