@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QMainWindow>
+#include <QString>
 #include <array>
 #include <functional>
 
@@ -25,6 +26,13 @@ class QTimer;
 class QTreeWidget;
 class UiDataOptionala;
 struct TiparireDocumente;
+
+// Captions of the bulk-printing menu entries; while they print, their caption is the stop command.
+namespace TextTiparire {
+inline const QString Opreste = QStringLiteral("Opreste tiparirea");
+inline const QString MnuAnexa2 = QStringLiteral("Tiparire toate dispozitiile ...");
+inline const QString MnuToateDisp = QStringLiteral("Tiparire toate dispozitiile (Anexele 2) ...");
+} // namespace TextTiparire
 
 // The one top-level window: the search and the request list above, the lists of the selected
 // request below, the menus and the status bar.
