@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace {
 
 struct CazText {
@@ -30,7 +32,10 @@ INSTANTIATE_TEST_SUITE_P(
                       CazText{"0.00005", true, 0}, CazText{"0.00015", true, 2}, CazText{"-0.00015", true, -2},
                       CazText{"", false, 0}, CazText{"abc", false, 0}, CazText{"1.2.3", false, 0},
                       CazText{"1,234.5", false, 0}, CazText{"12 lei", false, 0}, CazText{"-", false, 0},
-                      CazText{"922337203685477.5807", true, INT64_MAX}, CazText{"922337203685477.5808", false, 0}));
+                      CazText{"922337203685477.5807", true, INT64_MAX}, CazText{"922337203685477.5808", false, 0},
+                      CazText{"-922337203685477.5808", false, 0}, CazText{"99999999999999999999999", false, 0},
+                      CazText{"922337203685477.58075", false, 0}, CazText{"0.000050000000000000000000001", true, 1},
+                      CazText{"0.000150000000000000000000000", true, 2}));
 
 TEST(Bani, TextAreMereuPatruZecimale) {
     EXPECT_EQ(Bani::DinUnitati(125000).Text(), QStringLiteral("12.5000"));
@@ -63,6 +68,30 @@ TEST(Bani, DinVariantIaOriceFormaAMotorului) {
     EXPECT_EQ(Bani::DinVariant(QVariant()).Unitati(), 0);
     // the largest amounts an office keeps survive a double
     EXPECT_EQ(Bani::DinVariant(QVariant(99999999.9999)).Unitati(), 999999999999);
+}
+
+// Nothing leaves the range by wrapping: every way out throws, the edges themselves still work.
+TEST(Bani, DepasireaAruncaInLocSaSeIntoarca) {
+    const Bani maxim = Bani::DinUnitati(Bani::Maxim);
+    const std::function<Bani()> depasiri[] = {
+        [&] { return maxim + Bani::DinUnitati(1); },
+        [&] { return -maxim - Bani::DinUnitati(1); },
+        [&] { return maxim * 2; },
+        [] { return Bani::DinLei(std::int64_t(1'000'000'000'000'000)); },
+        [&] { return maxim.Inmultit(Bani::DinLei(2)); },
+        [] { return Bani::DinLei(10'000'000'000).Inmultit(Bani::DinLei(10'000'000'000)); },
+        [] { return Bani::DinVariant(QVariant(qint64(1'000'000'000'000'000))); },
+        [] { return Bani::DinVariant(QVariant(1e15)); },
+        [] { return Bani::DinVariant(QVariant(QStringLiteral("1e300"))); },
+        [] { return Bani::DinUnitati(INT64_MIN); },
+    };
+    for (size_t i = 0; i < std::size(depasiri); ++i)
+        EXPECT_THROW(depasiri[i](), Eroare) << i;
+    EXPECT_EQ((maxim - maxim).Unitati(), 0);
+    EXPECT_EQ(Bani::DinLei(922'337'203'685'477).Unitati(), 9'223'372'036'854'770'000);
+    EXPECT_EQ(maxim.Inmultit(Bani::DinLei(1)), maxim);
+    EXPECT_EQ((-maxim).Inmultit(*Bani::DinText(QStringLiteral("0.5"))).Unitati(), -4'611'686'018'427'387'904);
+    EXPECT_EQ(Bani::DinLei(-3).Inmultit(Bani::DinLei(-4)), Bani::DinLei(12));
 }
 
 } // namespace
