@@ -34,6 +34,7 @@ public:
             pasProtejat(QStringLiteral("RecalculVenitTotal"), [&] { recalculVenit(); });
         for (const auto& p : PasiActualizare::Lista())
             if (p.etapa == 3) pasSchema(p);
+        completeazaSchema();
         pasProtejat(QStringLiteral("Adeverinte"), [&] { reparaAdeverinte(); });
         pasProtejat(QStringLiteral("Adeverinte"), [&] { marcheazaCurente(); });
         catalog([&] { return Cataloage::IncarcaListaVenituri(db_, caleBD_, m_, jurnal_); });
@@ -144,6 +145,18 @@ private:
         }
     }
 
+    // Files were also shaped by hand and by versions whose steps are lost: whatever field or table
+    // of the present shape is still missing after the listed steps is added now.
+    void completeazaSchema() {
+        for (const auto& t : Schema::Tabele()) {
+            if (!ops_.TabelaExista(t.nume))
+                pasProtejat(QStringLiteral("CreateTable %1").arg(t.nume), [&] { creazaTabela(t.nume); });
+            for (const auto& c : t.campuri)
+                if (!ops_.CampExista(t.nume, c.nume))
+                    pasSchema({PasActualizare::Fel::AdaugaCamp, t.nume, c.nume, {}, 3});
+        }
+    }
+
     void creazaTabela(const QString& nume) {
         // Older files kept the goods catalogue under the name Bife.
         if (nume.compare(QLatin1String("ListaBife"), Qt::CaseInsensitive) == 0 &&
@@ -164,12 +177,12 @@ private:
         schimbare(QStringLiteral("VenitTotal recalculat pentru %1 cereri").arg(n));
     }
 
-    // Certificates with none of their three dates are left-overs of an old fault.
+    // Certificates whose three dates are all the old engine's zero date are left-overs of an old
+    // fault. A missing date is not a zero date: a certificate kept with its number only stays.
     void reparaAdeverinte() {
         const QDate prag(1900, 1, 1);
-        const QString conditie = QStringLiteral(
-            "(DataAdeverinta IS NULL OR DataAdeverinta < ?) AND (DataExpAdev IS NULL OR DataExpAdev < ?) "
-            "AND (DataDepunerii IS NULL OR DataDepunerii < ?)");
+        const QString conditie =
+            QStringLiteral("DataAdeverinta < ? AND DataExpAdev < ? AND DataDepunerii < ?");
         Interogare gasite(db_, QStringLiteral("SELECT COUNT(*) AS Nr FROM Adeverinte WHERE ") + conditie);
         gasite.Leaga(prag).Leaga(prag).Leaga(prag).Exista();
         const qint64 n = gasite.Intreg(QStringLiteral("Nr"));
