@@ -3,6 +3,7 @@
 #include "shell/Eroare.h"
 #include "shell/Functii.h"
 #include "shell/Mesaje.h"
+#include "shell/Setari.h"
 #include "shell/Val.h"
 #include "store/BazaDate.h"
 
@@ -81,6 +82,14 @@ ParametriCuantum IncarcaParametri(BazaDate& db) {
 }
 
 RezultatCuantum CalculCuantum(const IntrareCuantum& intrare, const ParametriCuantum& p, Mesaje& m) {
+    // An impossible month would count every child as under 18: no amount is computed for it.
+    if (!LunaLucruValida(intrare.LunaSetata, intrare.AnSetat))
+        throw Eroare(QStringLiteral("Luna de lucru %1/%2 nu este valida: alegeti o luna intre 1 si 12 si un an intre "
+                                    "%3 si %4.")
+                         .arg(intrare.LunaSetata)
+                         .arg(intrare.AnSetat)
+                         .arg(AnLucruMinim)
+                         .arg(AnLucruMaxim));
     RezultatCuantum r;
     const StareCerere& stare = intrare.stare;
     if (!stare.MatriceMembri) return r;
@@ -111,7 +120,7 @@ RezultatCuantum CalculCuantum(const IntrareCuantum& intrare, const ParametriCuan
     }
     if (valoareBunuri > Bani::DinLei(nrMembrii == 1 ? 1000 : 2500)) return r;
 
-    const Bani venit = SumaText(intrare.VenitPeMembru);
+    const Bani venit = SumaCaseta(intrare.VenitPeMembru);
     const auto treapta = treaptaVenit(venit, intrare.DataStare, p, m);
     if (!treapta) return r;
 

@@ -72,9 +72,7 @@ void CalculEditor::TextSchimbat(DateCerere& d, int element, const StareCerere& s
 
 void CalculEditor::Cuantum(DateCerere& d, const StareCerere& s, Mesaje& m) {
     auto& t = d.txtCerere;
-    // A box never filled counts as no income, as the save stores it.
-    const QString venit = t[txtVenitPeMembru].trimmed().isEmpty() ? QStringLiteral("0") : t[txtVenitPeMembru];
-    const IntrareCuantum intrare{s, int(d.cboCerere[3].id), d.dtpData[1], venit, luna_, an_};
+    const IntrareCuantum intrare{s, int(d.cboCerere[3].id), d.dtpData[1], t[txtVenitPeMembru], luna_, an_};
     const RezultatCuantum r = CalculCuantum(intrare, p_, m);
     t[txtCuantum] = TextSuma(r.Cuantum);
     if (r.NrCopii) t[txtNrCopii] = QString::number(*r.NrCopii);

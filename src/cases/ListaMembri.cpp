@@ -194,7 +194,7 @@ MotivIesire MotivDinControale(const AlegereCombo& motiv, const AlegereCombo& val
     MotivIesire r;
     r.MotivID = int(motiv.id);
     r.TipValuta = int(valuta.id);
-    if (chkVenit && !txtMembru.trimmed().isEmpty()) r.Suma = SumaText(txtMembru);
+    if (chkVenit) r.Suma = SumaCaseta(txtMembru);
     return r;
 }
 

@@ -44,10 +44,6 @@ const MembruCerere* elementCurent(const ContextPersoana& c, const StareCerere& s
     return &(*stare.MatriceMembri)[size_t(c.Index)];
 }
 
-Bani sumaDinCaseta(const QString& text) {
-    return text.trimmed().isEmpty() ? Bani() : SumaText(text);
-}
-
 QString textSuma(const Bani& suma) {
     return suma == Bani() ? QString() : FormatSuma(suma);
 }
@@ -137,8 +133,8 @@ int RepetentStocat(bool chkRepetent, const AlegereCombo& situatieScolara) {
 MembruCerere InMembru(const DatePersoana& d, const MembruCerere& inainte) {
     MembruCerere m = inainte;
     // Amounts first: a box that holds no number stops here, before anything is copied.
-    m.Venit = sumaDinCaseta(d.txtMembru[txtVenit]);
-    m.Suma = sumaDinCaseta(d.txtMembru[txtSuma]);
+    m.Venit = SumaCaseta(d.txtMembru[txtVenit]);
+    m.Suma = SumaCaseta(d.txtMembru[txtSuma]);
 
     m.MembruID = d.MembruID;
     m.CNP = d.cboCNP.trimmed();

@@ -89,10 +89,6 @@ qint64 Numar(const QString& text, qint64 maxim, const QString& eticheta) {
     return qint64(v);
 }
 
-Bani Suma(const QString& text) {
-    return text.trimmed().isEmpty() ? Bani() : SumaText(text);
-}
-
 QString Cifra(bool b) {
     return b ? QStringLiteral("1") : QStringLiteral("0");
 }
@@ -332,8 +328,8 @@ private:
             {"Stare", d_.cboCerere[4].id},
             {"MotivStare", text("MotivStare", d_.cboCerere[5].text.trimmed())},
             {"DataStare", Data(d_.dtpData[1])},
-            {"VenitTotal", suma(Suma(t[12]))},
-            {"VenitPeMembru", suma(Suma(t[13]))},
+            {"VenitTotal", suma(SumaCaseta(t[12]))},
+            {"VenitPeMembru", suma(SumaCaseta(t[13]))},
             {"NrMembrii", qint64(membri_.size())},
             {"NrCopii", Numar(t[16], std::numeric_limits<qint16>::max(), QStringLiteral("Numarul copiilor"))},
             {"Cuantum", suma(cuantum_)},

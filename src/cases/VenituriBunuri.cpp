@@ -21,8 +21,7 @@ std::vector<ElementCatalog> citesteCatalog(BazaDate& db, const QString& sql) {
 
 // ce: what the cell holds, as the message names it ("suma", "cantitatea").
 Bani citesteCelula(const QString& text, const QString& ce) {
-    if (text.trimmed().isEmpty()) return {};
-    const Bani b = SumaText(text); // its own message for a text that isn't a number
+    const Bani b = SumaCaseta(text); // its own message for a text that isn't a number
     if (b < Bani()) throw Eroare(QStringLiteral("\"%1\": %2 nu poate fi negativa.").arg(text.trimmed(), ce));
     if (b > MaximCelula)
         throw Eroare(

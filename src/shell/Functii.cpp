@@ -237,6 +237,10 @@ Bani SumaText(const QString& s) {
     return *suma;
 }
 
+Bani SumaCaseta(const QString& s) {
+    return s.trimmed().isEmpty() ? Bani() : SumaText(s);
+}
+
 QString VerificaPraguriVenit(const std::optional<QString>& continut, Mesaje& m) {
     const QString titlu = QStringLiteral("Eroare");
     const QString formatGresit = QStringLiteral("Format praguri gresit!");

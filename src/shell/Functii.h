@@ -61,6 +61,8 @@ double RotunjireSus(double x);
 // between thousands, then a decimal comma) and "1.234.567" are read with thousands marks.
 // Throws Eroare for a text that is not such a number.
 Bani SumaText(const QString& s);
+// The amount of a box: a box left blank (or a field never set) is 0, anything else as SumaText.
+Bani SumaCaseta(const QString& s);
 
 // The income thresholds text of DateGen ("210.2|557.03"); empty after a critical message when
 // it is missing, blank or not at least two values separated by "|".

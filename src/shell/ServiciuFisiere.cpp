@@ -26,7 +26,9 @@ QString decodeaza(const char* octeti) {
 
 void incarca(CSimpleIniA& ini, const QString& fisier) {
     ini.SetUnicode(false);
-    ini.SetMultiKey(false);
+    // A key written twice: as with the Windows profile functions, the first one is read and the
+    // first one is changed (the later copies go with the write).
+    ini.SetMultiKey(true);
     ini.SetSpaces(false); // key=value, as the Windows profile functions write it
     const QByteArray cale = QFile::encodeName(fisier);
     if (QFileInfo::exists(fisier) && ini.LoadFile(cale.constData()) < 0)
@@ -54,7 +56,8 @@ void ServiciuFisiere::ScrieIni(const QString& fisier, const QString& sectiune, c
                                const QString& valoare) {
     CSimpleIniA ini;
     incarca(ini, fisier);
-    ini.SetValue(sectiune.toUtf8().constData(), cheie.toUtf8().constData(), valoare.toUtf8().constData());
+    ini.SetValue(sectiune.toUtf8().constData(), cheie.toUtf8().constData(), valoare.toUtf8().constData(), nullptr,
+                 true);
     if (ini.SaveFile(QFile::encodeName(fisier).constData()) < 0)
         throw Eroare(QStringLiteral("Fisierul de setari %1 nu poate fi scris.").arg(fisier));
 }

@@ -104,13 +104,12 @@ Setari IncarcaSetari(const QString& fisierIni, bool scrieImplicite) {
     s.HeightRowBorderou = c.OctetScris(Borderou, QStringLiteral("HeightRowBorderou"), implicit.HeightRowBorderou);
     s.HeightRowRaport = c.OctetScris(Raport, QStringLiteral("HeightRowRaport"), implicit.HeightRowRaport);
     s.AppWord = c.OctetScris(App, QStringLiteral("AppWord"), implicit.AppWord);
-    s.LunaSetata = c.Octet(SectiuneSetari, QStringLiteral("LunaSetata"), implicit.LunaSetata);
-    if (s.LunaSetata == 0) s.LunaSetata = implicit.LunaSetata;
-    s.AnSetat = static_cast<std::int16_t>(Intreg(Val(c.Text(SectiuneSetari, QStringLiteral("AnSetat"))),
-                                                 std::numeric_limits<std::int16_t>::min(),
-                                                 std::numeric_limits<std::int16_t>::max())
-                                              .value_or(implicit.AnSetat));
-    if (s.AnSetat == 0) s.AnSetat = implicit.AnSetat;
+    // Out of its range each falls back to the default, so no amount is computed for a month that
+    // cannot be.
+    s.LunaSetata = Intreg(Val(c.Text(SectiuneSetari, QStringLiteral("LunaSetata"))), 1, 12).value_or(implicit.LunaSetata);
+    s.AnSetat = static_cast<std::int16_t>(
+        Intreg(Val(c.Text(SectiuneSetari, QStringLiteral("AnSetat"))), AnLucruMinim, AnLucruMaxim)
+            .value_or(implicit.AnSetat));
     s.LoadTipCerere = c.Octet(Generale, QStringLiteral("LoadTipCerere"), implicit.LoadTipCerere);
     s.DataCerereTiparita = c.OctetScris(Generale, QStringLiteral("DataCerereTiparita"), implicit.DataCerereTiparita);
     s.Cerere13Pag = c.Flag(Cereri, QStringLiteral("Cerere13Pag"));

@@ -76,6 +76,12 @@ struct Setari {
 // Throws Eroare when the file can't be read or a default can't be written.
 // With scrieImplicite false the file is only read: the command-line tool must not change the
 // settings of the office it inspects.
+// A working month that an amount may be computed for: a month 1-12 of a year 2000-2100.
+inline constexpr int AnLucruMinim = 2000, AnLucruMaxim = 2100;
+inline bool LunaLucruValida(int luna, int an) {
+    return luna >= 1 && luna <= 12 && an >= AnLucruMinim && an <= AnLucruMaxim;
+}
+
 Setari IncarcaSetari(const QString& fisierIni, bool scrieImplicite = true);
 
 // One key, written at once by the dialog that changes it.

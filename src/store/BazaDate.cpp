@@ -166,6 +166,11 @@ void BazaDate::termina(bool confirma) {
 qint64 BazaDate::CheieNoua(const QString& tabela, const QString& camp) {
     if (adancime_ == 0)
         throw Eroare(QStringLiteral("Exceptie: cheie noua pentru %1 ceruta in afara unei tranzactii").arg(tabela));
+    // Two computers saving at once would both read the same maximum; on PostgreSQL the second one
+    // waits here, until the first commits, instead of failing on the key. SQLite's BEGIN IMMEDIATE
+    // already lets one writer in at a time.
+    if (!dialect_.EsteSQLite())
+        Interogare(*this, QStringLiteral("SELECT pg_advisory_xact_lock(hashtext(?))")).Leaga(tabela.toLower()).Exista();
     Interogare q(*this, QStringLiteral("SELECT MAX(%1) AS Nr FROM %2").arg(camp, tabela));
     if (q.Exista() && !q.EsteNul(QStringLiteral("Nr"))) return q.Intreg(QStringLiteral("Nr")) + 1;
     return 1;

@@ -487,8 +487,11 @@ TEST(CalculCuantum, EroriPropagate) {
         std::function<void(ParametriCuantum&)> schimba;
         std::vector<MembruCerere> membri;
         QStringList critice;
+        int luna = Luna, an = An;
     } cazuri[] = {
-        {"venit gol", QString(), {}, Familie(1), {}},
+        {"luna 13", T("100"), {}, Familie(1), {}, 13, An},
+        {"luna 0", T("100"), {}, Familie(1), {}, 0, An},
+        {"an negativ", T("100"), {}, Familie(1), {}, Luna, -3},
         {"venit nenumeric", T("o suta"), {}, Familie(1), {}},
         {"ISR nenumeric", T("100"), [](ParametriCuantum& q) { q.ISR = {T("ISR")}; }, Familie(1), {}},
         {"ISR nul", T("100"), [](ParametriCuantum& q) { q.ISR = {QString()}; }, Familie(1), {}},
@@ -512,7 +515,7 @@ TEST(CalculCuantum, EroriPropagate) {
         StareCerere stare;
         stare.MatriceMembri = c.membri;
         MesajeInregistrate m;
-        EXPECT_THROW(CalculCuantum({stare, 1, Decembrie2014, c.venit, Luna, An}, p, m), Eroare);
+        EXPECT_THROW(CalculCuantum({stare, 1, Decembrie2014, c.venit, c.luna, c.an}, p, m), Eroare);
         EXPECT_EQ(m.Texte(Mesaje::Fel::Critic), c.critice);
         EXPECT_EQ(m.mesaje.size(), size_t(c.critice.size()));
     }
@@ -522,6 +525,9 @@ TEST(CalculCuantum, EroriPropagate) {
     MesajeInregistrate m;
     EXPECT_EQ(CalculCuantum({stare, 1, Decembrie2014, T("100"), Luna, An}, ScalaSimpla("0.164", "525.5"), m).Cuantum,
               B("87"));
+    // A box never filled is no income, as every other path reads it.
+    EXPECT_EQ(CalculCuantum({stare, 1, Decembrie2014, QString(), Luna, An}, ScalaSimpla("0.164", "525.5"), m).Cuantum,
+              CalculCuantum({stare, 1, Decembrie2014, T("0"), Luna, An}, ScalaSimpla("0.164", "525.5"), m).Cuantum);
 }
 
 TEST(VenitPeMembruText, CaUnDoubleScrisDeRulareaVeche) {

@@ -466,6 +466,20 @@ TEST_P(Salvare, MesajeleDinJurulSalvarii) {
     EXPECT_EQ(Instantaneu(Bd()), inainte);
 }
 
+// Requests stored before the income per member was kept open with a blank box and save as with 0.
+TEST_P(Salvare, CerereaFaraVenitPeMembruSeSalveaza) {
+    BazaNoua();
+    const RezultatSalvare r = Salveaza(DosarComplet(Bd()));
+    ASSERT_EQ(r.stare, RezultatSalvare::Stare::Salvata);
+    ExecutaCu(Bd(), QStringLiteral("UPDATE Cereri SET VenitpeMembru = NULL, VenitTotal = NULL WHERE CerereID = ?"),
+              r.CerereID);
+    CerereIncarcata c = Incarca(r.CerereID);
+    ASSERT_TRUE(c.Gasita);
+    mesaje.mesaje.clear();
+    const RezultatSalvare s = SalveazaCerere(Bd(), c.Date, c.Stare, c.Iesiti, OptiuniDosar(), mesaje);
+    EXPECT_EQ(s.stare, RezultatSalvare::Stare::Salvata) << mesaje.Texte().join(u'\n').toStdString();
+}
+
 PE_AMBELE_MOTOARE(Salvare);
 
 // The lock of snet.txt: exclusive, never waiting, for another object of this process and for

@@ -166,9 +166,12 @@ TEST_F(FisierSetari, CheieCititaSiCeRamaneInFisier) {
         {"Fonturi", "FontSize0", "255", M(&Setari::FontSize0), "255", nullptr},
         {"Fonturi", "FontSize0", "-3", M(&Setari::FontSize0), "10", nullptr},
         {"Setari", "AnSetat", "40000", M(&Setari::AnSetat), "2013", nullptr},
-        {"Setari", "AnSetat", "32767", M(&Setari::AnSetat), "32767", nullptr},
-        {"Setari", "AnSetat", "-32768", M(&Setari::AnSetat), "-32768", nullptr},
-        {"Setari", "AnSetat", "-32769", M(&Setari::AnSetat), "2013", nullptr},
+        {"Setari", "AnSetat", "2100", M(&Setari::AnSetat), "2100", nullptr},
+        {"Setari", "AnSetat", "2101", M(&Setari::AnSetat), "2013", nullptr},
+        {"Setari", "AnSetat", "1999", M(&Setari::AnSetat), "2013", nullptr},
+        {"Setari", "AnSetat", "-3", M(&Setari::AnSetat), "2013", nullptr},
+        {"Setari", "LunaSetata", "13", M(&Setari::LunaSetata), "1", nullptr},
+        {"Setari", "LunaSetata", "-1", M(&Setari::LunaSetata), "1", nullptr},
         {"App", "AppWord", "-1", M(&Setari::AppWord), "1", nullptr},
         {"Setari", "LunaSetata", "abc", M(&Setari::LunaSetata), "1", nullptr},
         {"Setari", "LunaSetata", "12,7", M(&Setari::LunaSetata), "12", nullptr},
@@ -225,6 +228,14 @@ TEST_F(FisierSetari, FlaguriCitite) {
         for (const auto& f : flaguri)
             EXPECT_EQ(f.membru(s), v.citit) << f.cheie << '=' << v.stocat;
     }
+}
+
+TEST_F(FisierSetari, CheiaScrisaDeDouaOriSeCitesteSiSeSchimbaPrimaData) {
+    ScrieOcteti("[Setari]\nLunaSetata=4\nAnSetat=2024\nlunasetata=9\n[Generale]\nStrSat=Sat\n");
+    EXPECT_EQ(IncarcaSetari(Ini(), false).LunaSetata, 4);
+    SF::ScrieIni(Ini(), QStringLiteral("Setari"), QStringLiteral("LunaSetata"), QStringLiteral("6"));
+    EXPECT_EQ(IncarcaSetari(Ini(), false).LunaSetata, 6);
+    EXPECT_EQ(Chei(), (std::vector<std::string>{"Setari/LunaSetata", "Setari/AnSetat", "Generale/StrSat"}));
 }
 
 TEST_F(FisierSetari, FisierVechiInWindows1250) {

@@ -6,6 +6,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <atomic>
+#include <thread>
 
 namespace {
 
@@ -49,6 +51,38 @@ TEST_P(Baza, CheiaNouaEsteMaximulPlusUnuInTranzactie) {
     EXPECT_EQ(Bd().CheieNoua(QStringLiteral("Membrii"), QStringLiteral("MembruID")), 5000000001LL);
     // two computers that took the same key: the second insert is refused, not stored twice
     EXPECT_THROW(AdaugaMembru(40000), Eroare);
+}
+
+// Two computers saving requests at the same time, each on its own connection: the saves queue
+// for the new keys instead of failing on them.
+TEST_P(Baza, SalvarileSimultaneAsteaptaCheiaInLocSaEsueze) {
+    BazaNoua();
+    constexpr int PeConexiune = 500;
+    std::atomic<int> erori{0};
+    const auto salveaza = [&] {
+        try {
+            auto db = BazaDate::Deschide(Locatie());
+            for (int i = 0; i < PeConexiune; ++i) {
+                Tranzactie t(*db);
+                const qint64 familie = db->CheieNoua(QStringLiteral("Familii"), QStringLiteral("FamilieID"));
+                ExecutaCu(*db, QStringLiteral("INSERT INTO Familii (FamilieID, NrDosar) VALUES (?, ?)"), familie,
+                          familie);
+                const qint64 cerere = db->CheieNoua(QStringLiteral("Cereri"), QStringLiteral("CerereID"));
+                ExecutaCu(*db, QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, NrCerere) VALUES (?, ?, ?)"),
+                          cerere, familie, cerere);
+                t.Confirma();
+            }
+        } catch (const Eroare& e) {
+            ADD_FAILURE() << e.text().toStdString();
+            ++erori;
+        }
+    };
+    std::thread a(salveaza), b(salveaza);
+    a.join();
+    b.join();
+    EXPECT_EQ(erori, 0);
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Cereri")), 2 * PeConexiune);
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(DISTINCT FamilieID) FROM Cereri")), 2 * PeConexiune);
 }
 
 TEST_P(Baza, DataGoalaSeScrieCaNullSiSeCitesteInapoiNevalida) {
