@@ -33,7 +33,7 @@ struct MediuBench {
         QFile::copy(QStringLiteral(FEROLANTA_SURSA "/Acte/sql_cerere.txt"), mediu.fisierInterogari);
         QFile::copy(QStringLiteral(FEROLANTA_SURSA "/web/StartCerereWeb.html"), mediu.pagina);
         QFile f(mediu.fisierInterogari);
-        if (f.open(QIODevice::ReadOnly)) sql = PunteWeb::TextInterogari(QString::fromUtf8(f.readAll()));
+        if (f.open(QIODevice::ReadOnly)) sql = QString::fromUtf8(f.readAll());
         Interogare q(*db, QStringLiteral("SELECT CerereID FROM Cereri ORDER BY CerereID"));
         q.Executa();
         while (q.Urmator())

@@ -20,6 +20,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <limits>
 
 namespace {
@@ -63,15 +64,21 @@ LocatieBD locatie(const QCommandLineParser& p) {
     return loc;
 }
 
-qint64 numarPozitiv(const QCommandLineParser& p, const QString& optiune, bool obligatoriu, qint64 implicit) {
-    if (!p.isSet(optiune)) {
-        if (obligatoriu) throw EroareArgumente{QStringLiteral("lipseste --%1").arg(optiune)};
-        return implicit;
-    }
+qint64 numarIntre(const QString& text, qint64 minim, qint64 maxim, const QString& ce) {
     bool ok = false;
-    const qint64 v = p.value(optiune).toLongLong(&ok);
-    if (!ok || v < 0) throw EroareArgumente{QStringLiteral("--%1 cere un numar intreg pozitiv").arg(optiune)};
+    const qint64 v = text.toLongLong(&ok);
+    if (!ok || v < minim || v > maxim)
+        throw EroareArgumente{QStringLiteral("%1 cere un numar intreg intre %2 si %3").arg(ce).arg(minim).arg(maxim)};
     return v;
+}
+
+qint64 optiuneIntre(const QCommandLineParser& p, const QString& optiune, qint64 minim, qint64 maxim,
+                    std::optional<qint64> implicit) {
+    if (!p.isSet(optiune)) {
+        if (!implicit) throw EroareArgumente{QStringLiteral("lipseste --%1").arg(optiune)};
+        return *implicit;
+    }
+    return numarIntre(p.value(optiune), minim, maxim, QStringLiteral("--") + optiune);
 }
 
 int init(const QCommandLineParser& p, QTextStream& out, QTextStream& err) {
@@ -93,8 +100,8 @@ int upgrade(const QCommandLineParser& p, QTextStream& out, QTextStream& err) {
 
 int demo(const QCommandLineParser& p, QTextStream& out, QTextStream&) {
     Demo::Optiuni o;
-    o.cereri = int(numarPozitiv(p, QStringLiteral("cereri"), true, 0));
-    o.samanta = quint64(numarPozitiv(p, QStringLiteral("seed"), false, 1));
+    o.cereri = int(optiuneIntre(p, QStringLiteral("cereri"), 0, Demo::MaximCereri, std::nullopt));
+    o.samanta = quint64(optiuneIntre(p, QStringLiteral("seed"), 0, std::numeric_limits<qint64>::max(), 1));
     auto db = BazaDate::Deschide(locatie(p));
     QElapsedTimer ceas;
     ceas.start();
@@ -104,14 +111,6 @@ int demo(const QCommandLineParser& p, QTextStream& out, QTextStream&) {
     });
     out << o.cereri << " cereri adaugate in " << QString::number(ceas.elapsed() / 1000.0, 'f', 1) << " s" << Qt::endl;
     return 0;
-}
-
-qint64 numarIntre(const QString& text, qint64 minim, qint64 maxim, const QString& ce) {
-    bool ok = false;
-    const qint64 v = text.toLongLong(&ok);
-    if (!ok || v < minim || v > maxim)
-        throw EroareArgumente{QStringLiteral("%1 cere un numar intreg intre %2 si %3").arg(ce).arg(minim).arg(maxim)};
-    return v;
 }
 
 // The amount of one stored request, read as the request editor reads it, in a working month:
@@ -124,7 +123,7 @@ int cuantum(const QCommandLineParser& p, const QString& idText, QTextStream& out
     int luna = 0, an = 0;
     if (areLuna) {
         luna = int(numarIntre(p.value(QStringLiteral("luna")), 1, 12, QStringLiteral("--luna")));
-        an = int(numarIntre(p.value(QStringLiteral("an")), 1900, 9999, QStringLiteral("--an")));
+        an = int(numarIntre(p.value(QStringLiteral("an")), AnLucruMinim, AnLucruMaxim, QStringLiteral("--an")));
     } else if (const QString ini = QDir(loc.caleBD).filePath(Foldere::FisierSetari); QFile::exists(ini)) {
         const Setari s = IncarcaSetari(ini, false);
         luna = s.LunaSetata;
@@ -222,10 +221,6 @@ int web(const QCommandLineParser& p, const QString& document, const QString& idT
     const QString sursaPagina = deLuat(PunteWeb::FolderPagina + QLatin1Char('/') + PunteWeb::Pagina);
     const QString iesire = QDir::cleanPath(QDir::current().absoluteFilePath(
         p.isSet(QStringLiteral("out")) ? p.value(QStringLiteral("out")) : QStringLiteral(".")));
-    if (!QDir().mkpath(iesire)) {
-        err << QStringLiteral("Folderul %1 nu poate fi creat.").arg(QDir::toNativeSeparators(iesire)) << Qt::endl;
-        return 1;
-    }
     PunteWeb::MediuWeb mediu;
     mediu.fisierInterogari = deLuat(PunteWeb::FisierInterogari);
     mediu.pagina = QDir(iesire).filePath(PunteWeb::Pagina);
@@ -236,16 +231,6 @@ int web(const QCommandLineParser& p, const QString& document, const QString& idT
             err << QStringLiteral("Fisierul %1 nu exista.").arg(QDir::toNativeSeparators(f)) << Qt::endl;
             return 1;
         }
-    if (QFileInfo(sursaPagina).canonicalFilePath() != QFileInfo(mediu.pagina).canonicalFilePath()) {
-        QFile::remove(mediu.pagina);
-        if (!QFile::copy(sursaPagina, mediu.pagina)) {
-            err << QStringLiteral("Pagina nu a putut fi copiata in %1.").arg(QDir::toNativeSeparators(iesire))
-                << Qt::endl;
-            return 1;
-        }
-        // The delivered page is read-only; the copy is overwritten at the next run.
-        QFile::setPermissions(mediu.pagina, QFile::permissions(mediu.pagina) | QFileDevice::WriteOwner);
-    }
 
     MesajeFlux m(err, err);
     auto db = BazaDate::Deschide(loc);
@@ -257,8 +242,33 @@ int web(const QCommandLineParser& p, const QString& document, const QString& idT
             return 1;
         }
     }
+
+    // A failed command leaves --out as it found it: what it created goes again.
+    const bool folderNou = !QFileInfo(iesire).exists();
+    const bool paginaNoua = !QFileInfo::exists(mediu.pagina);
+    bool reusit = false;
+    const auto curata = qScopeGuard([&] {
+        if (reusit) return;
+        if (paginaNoua) QFile::remove(mediu.pagina);
+        if (folderNou) QDir().rmpath(iesire);
+    });
+    if (!QDir().mkpath(iesire)) {
+        err << QStringLiteral("Folderul %1 nu poate fi creat.").arg(QDir::toNativeSeparators(iesire)) << Qt::endl;
+        return 1;
+    }
+    if (QFileInfo(sursaPagina).canonicalFilePath() != QFileInfo(mediu.pagina).canonicalFilePath()) {
+        QFile::remove(mediu.pagina);
+        if (!QFile::copy(sursaPagina, mediu.pagina)) {
+            err << QStringLiteral("Pagina nu a putut fi copiata in %1.").arg(QDir::toNativeSeparators(iesire))
+                << Qt::endl;
+            return 1;
+        }
+        // The delivered page is read-only; the copy is overwritten at the next run.
+        QFile::setPermissions(mediu.pagina, QFile::permissions(mediu.pagina) | QFileDevice::WriteOwner);
+    }
     const auto pagina = PunteWeb::StartCerereWeb(*db, mediu, id, document, false, m);
     if (!pagina) return 1;
+    reusit = true;
     out << pagina->adresa.toString() << Qt::endl;
     return 0;
 }

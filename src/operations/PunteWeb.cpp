@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QSet>
 #include <QSqlField>
@@ -233,23 +234,60 @@ QString HexText(const QString& s) {
     return r;
 }
 
-QString TextInterogari(const QString& continutFisier) {
-    QStringList linii;
-    for (const QString& linie : continutFisier.split(u'\n')) {
-        QString l = linie;
-        l.remove(u'\r');
-        if (l.trimmed().startsWith(QLatin1String("--"))) continue;
-        linii << l;
+std::vector<InterogareFisier> Interogari(const QString& t) {
+    std::vector<InterogareFisier> r;
+    QString curenta;
+    int linie = 1, inceput = 0;
+    const auto incheie = [&] {
+        const QString text = curenta.trimmed();
+        if (!text.isEmpty()) r.push_back({text, inceput});
+        curenta.clear();
+        inceput = 0;
+    };
+    for (qsizetype i = 0; i < t.size(); ++i) {
+        const QChar c = t[i];
+        const QChar urm = i + 1 < t.size() ? t[i + 1] : QChar();
+        if (c == u'-' && urm == u'-') {
+            while (i < t.size() && t[i] != u'\n')
+                ++i;
+            --i; // the line end is counted below
+            curenta += u' ';
+            continue;
+        }
+        if (c == u'/' && urm == u'*') {
+            for (i += 2; i < t.size() && !(t[i] == u'*' && i + 1 < t.size() && t[i + 1] == u'/'); ++i)
+                if (t[i] == u'\n') {
+                    ++linie;
+                    curenta += u'\n';
+                }
+            ++i;
+            curenta += u' ';
+            continue;
+        }
+        if (c == u';') {
+            incheie();
+            continue;
+        }
+        if (inceput == 0 && !c.isSpace()) inceput = linie;
+        if (c == u'\n') ++linie;
+        if (c == u'\r') continue;
+        curenta += c;
+        if (c == u'\'' || c == u'"') {
+            // A quoted text or name runs to its closing mark; a doubled mark stays inside.
+            for (++i; i < t.size(); ++i) {
+                if (t[i] == u'\n') ++linie;
+                if (t[i] != u'\r') curenta += t[i];
+                if (t[i] == c) {
+                    if (i + 1 < t.size() && t[i + 1] == c) {
+                        curenta += t[++i];
+                        continue;
+                    }
+                    break;
+                }
+            }
+        }
     }
-    // A blank, not nothing, where a line ended: otherwise the last word of a line and the first of
-    // the next would run together.
-    return linii.join(u' ');
-}
-
-QStringList Interogari(const QString& sql) {
-    QStringList r;
-    for (const QString& s : sql.split(u';'))
-        if (!s.trimmed().isEmpty()) r << s.trimmed();
+    incheie();
     return r;
 }
 
@@ -281,19 +319,33 @@ QString LiniePrefix(const QString& document, const QString& serverCerere) {
            PentruJs(server) + QStringLiteral("';");
 }
 
-QString JsonInterogari(BazaDate& db, const QString& sql, qint64 cerereID) {
+QString JsonInterogari(BazaDate& db, const QString& continutFisier, qint64 cerereID) {
+    const std::vector<InterogareFisier> interogari = Interogari(continutFisier);
+    static const QRegularExpression citire(QStringLiteral("^[\\s(]*(SELECT|WITH)\\b"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    for (const auto& s : interogari)
+        if (!citire.match(s.text).hasMatch())
+            throw Eroare(QStringLiteral("Linia %1 a fisierului de interogari: sunt permise numai interogari care "
+                                        "citesc date (SELECT). Nu s-a rulat nimic.\n%2")
+                             .arg(s.linie)
+                             .arg(s.text));
+    TranzactieCitire doarCitire(db);
     QString json = QStringLiteral("[");
     int nr = 0;
-    for (const QString& s : Interogari(sql)) {
-        const qsizetype marcaje = s.count(MarcajCerere);
-        QString text = s;
-        text.replace(MarcajCerere, QStringLiteral("?"));
-        Interogare q(db, text);
-        for (qsizetype i = 0; i < marcaje; ++i)
-            q.Leaga(cerereID);
-        q.Executa();
-        if (nr) json += u',';
-        AdaugaRezultat(json, q, nr);
+    for (const auto& s : interogari) {
+        try {
+            const qsizetype marcaje = s.text.count(MarcajCerere);
+            QString text = s.text;
+            text.replace(MarcajCerere, QStringLiteral("?"));
+            Interogare q(db, text);
+            for (qsizetype i = 0; i < marcaje; ++i)
+                q.Leaga(cerereID);
+            q.Executa();
+            if (nr) json += u',';
+            AdaugaRezultat(json, q, nr);
+        } catch (const Eroare& e) {
+            throw Eroare(QStringLiteral("Linia %1 a fisierului de interogari: %2").arg(s.linie).arg(e.text()));
+        }
         ++nr;
     }
     json += u']';
@@ -334,8 +386,8 @@ std::optional<PaginaWeb> StartCerereWeb(BazaDate& db, const MediuWeb& mediu, qin
                  titlu);
         return std::nullopt;
     }
-    const QString sql = TextInterogari(QString::fromUtf8(f.readAll()));
-    if (Interogari(sql).isEmpty()) return std::nullopt;
+    const QString sql = QString::fromUtf8(f.readAll());
+    if (Interogari(sql).empty()) return std::nullopt;
 
     // Before the data, since they are written beside the page.
     const QFileInfo pagina(mediu.pagina);

@@ -45,12 +45,17 @@ struct MediuWeb {
 // goes as "?" (3F).
 QString HexText(const QString& s);
 
-// The statements of the query file: comment lines (starting with "--") dropped, line breaks turned
-// into blanks.
-QString TextInterogari(const QString& continutFisier);
+// One statement of the query file and the line (from 1) where it starts.
+struct InterogareFisier {
+    QString text;
+    int linie = 1;
+    bool operator==(const InterogareFisier&) const = default;
+};
 
-// The statements of a text, split at ";", blank ones left out.
-QStringList Interogari(const QString& sql);
+// The statements of the query file's text, split at the ";" that end them; a ";" or "--" inside a
+// quoted text or name does not count, and comments ("--" to the end of the line, "/* */") are left
+// out. Blank statements are dropped.
+std::vector<InterogareFisier> Interogari(const QString& continutFisier);
 
 // The settings file that the page is told about: a program name holding "318" picks setari318.ini,
 // else one holding "207" picks setari207.ini, in `folderProgram`; empty for neither or for a
@@ -66,8 +71,10 @@ QString LiniePrefix(const QString& document, const QString& serverCerere);
 
 // The JSON array of the statements' rows, one array per statement, every value hex-encoded,
 // dates as dd.mm.yyyy, nulls as "". Each `${CerereID}` is a parameter bound to `cerereID`.
-// Throws Eroare on a failed statement.
-QString JsonInterogari(BazaDate& db, const QString& sql, qint64 cerereID);
+// The file is the town hall's to edit, so it only ever reads: a statement that is not a SELECT is
+// refused before anything runs, and all of them run in a read-only transaction that is rolled
+// back. Throws Eroare naming the line of a refused or failed statement.
+QString JsonInterogari(BazaDate& db, const QString& continutFisier, qint64 cerereID);
 
 // Runs the statements and writes vb6_output.js: the settings line (with `cuSetari`, when the
 // settings file is found), the prefix line when not blank, "VB6_OUTPUT=" + the JSON. Returns the

@@ -189,6 +189,25 @@ void Tranzactie::Confirma() {
     db_.termina(true);
 }
 
+TranzactieCitire::TranzactieCitire(BazaDate& db) : db_(db) {
+    if (db_.adancime_ > 0) throw Eroare(QStringLiteral("Exceptie: citire protejata ceruta in timpul unei tranzactii"));
+    if (db_.dialect().EsteSQLite()) {
+        db_.Executa(QStringLiteral("PRAGMA query_only = ON"));
+        db_.Executa(QStringLiteral("BEGIN"));
+    } else {
+        db_.Executa(QStringLiteral("BEGIN READ ONLY"));
+    }
+    db_.adancime_ = 1;
+    db_.esuata_ = false;
+}
+
+TranzactieCitire::~TranzactieCitire() {
+    db_.adancime_ = 0;
+    QSqlQuery q(db_.db_);
+    q.exec(QStringLiteral("ROLLBACK"));
+    if (db_.dialect().EsteSQLite()) q.exec(QStringLiteral("PRAGMA query_only = OFF"));
+}
+
 Interogare::Interogare(BazaDate& db, const QString& sql) : db_(db), q_(db.conexiune()), sql_(sql) {
     q_.setForwardOnly(true);
     if (!q_.prepare(sql)) throw Eroare(QStringLiteral("%1\n[%2]").arg(textEroare(q_.lastError()), sql));

@@ -59,6 +59,7 @@ public:
 
 private:
     friend class Tranzactie;
+    friend class TranzactieCitire;
     BazaDate(const LocatieBD& loc, Motor m);
     void deschideSQLite(Mod mod);
     void deschidePostgreSQL();
@@ -88,6 +89,19 @@ public:
 private:
     BazaDate& db_;
     bool gata_ = false;
+};
+
+// A unit of work that can only read: on PostgreSQL a READ ONLY transaction, on SQLite one under
+// query_only; it always ends in a rollback. Not inside another unit.
+class TranzactieCitire {
+public:
+    explicit TranzactieCitire(BazaDate& db);
+    ~TranzactieCitire();
+    TranzactieCitire(const TranzactieCitire&) = delete;
+    TranzactieCitire& operator=(const TranzactieCitire&) = delete;
+
+private:
+    BazaDate& db_;
 };
 
 // A prepared statement with positional parameters (?) and typed readers of its result.

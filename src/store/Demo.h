@@ -9,6 +9,9 @@ class BazaDate;
 // on the same database and the same day gives the same data.
 namespace Demo {
 
+// More than the largest office keeps: a number past it is a typing slip, not a wish.
+inline constexpr int MaximCereri = 10'000'000;
+
 struct Optiuni {
     int cereri = 0;
     quint64 samanta = 1;

@@ -46,13 +46,24 @@ TEST_P(CliWeb, ScrieDateleLangaOCopieAPaginiiSiTiparesteAdresa) {
                              "alt.ro/';\nVB6_OUTPUT=[[],[],[],[],[],[],[],[],[],[],[]]\n"));
 }
 
-TEST_P(CliWeb, CerereaCareNuExistaDaCodul1) {
+// A failed command gives code 1 and leaves --out as it was: no page, no data, no new folder.
+TEST_P(CliWeb, EsecCuCodul1FaraNimicScris) {
     const IesireCli r = Ruleaza(QStringList{QStringLiteral("web"), QStringLiteral("cerere"), QStringLiteral("404"),
                                             QStringLiteral("--out"), iesiri.path()});
     EXPECT_EQ(r.cod, 1);
     EXPECT_EQ(r.err, QStringLiteral("Cererea cu ID-ul 404 nu exista in baza de date.\n"));
     EXPECT_TRUE(r.out.isEmpty());
-    EXPECT_FALSE(QFile::exists(QDir(iesiri.path()).filePath(QStringLiteral("vb6_output.js"))));
+    EXPECT_TRUE(QDir(iesiri.path()).isEmpty());
+
+    QDir(Locatie().caleBD).mkpath(QStringLiteral("Acte"));
+    ScrieText(QDir(Locatie().caleBD).filePath(QStringLiteral("Acte/sql_cerere.txt")),
+              QStringLiteral("SELECT 1 AS a;\nDELETE FROM Cereri;\n"));
+    const QString folder = QDir(iesiri.path()).filePath(QStringLiteral("nou"));
+    const IesireCli s = Ruleaza(
+        QStringList{QStringLiteral("web"), QStringLiteral("cerere"), QStringLiteral("7"), QStringLiteral("--out"), folder});
+    EXPECT_EQ(s.cod, 1);
+    EXPECT_TRUE(s.err.contains(QStringLiteral("Linia 2"))) << s.err.toStdString();
+    EXPECT_TRUE(QDir(iesiri.path()).isEmpty());
 }
 
 PE_AMBELE_MOTOARE(CliWeb);

@@ -51,15 +51,26 @@ TEST(HexText, FiecareLiteraACodului1250DaOctetulEi) {
     EXPECT_EQ(verificate, 218);
 }
 
-TEST(FisierInterogari, ComentariiRanduriSiPunctSiVirgula) {
-    EXPECT_EQ(
-        TextInterogari(QStringLiteral("-- titlu; cu punct si virgula\r\nSELECT a\r\nFROM t;\n  -- altul\nSELECT b;")),
-        QStringLiteral("SELECT a FROM t; SELECT b;"));
-    EXPECT_EQ(Interogari(QStringLiteral("SELECT a;SELECT b")), (QStringList{"SELECT a", "SELECT b"}));
-    EXPECT_EQ(Interogari(QStringLiteral("SELECT a; ;\n SELECT b;  ")), (QStringList{"SELECT a", "SELECT b"}));
-    EXPECT_EQ(Interogari(QStringLiteral("SELECT a")), QStringList{"SELECT a"});
-    EXPECT_TRUE(Interogari(QStringLiteral(" ; \n ")).isEmpty());
-    EXPECT_EQ(Interogari(TextInterogari(CitesteText(SursaInterogari()))).size(), 11);
+TEST(FisierInterogari, ComentariiGhilimeleSiPunctSiVirgula) {
+    using V = std::vector<InterogareFisier>;
+    const struct {
+        const char* text;
+        V asteptat;
+    } cazuri[] = {
+        {"-- titlu; cu punct si virgula\r\nSELECT a\r\nFROM t;\n  -- altul\nSELECT b;",
+         V{{"SELECT a\nFROM t", 2}, {"SELECT b", 5}}},
+        {"SELECT a;SELECT b", V{{"SELECT a", 1}, {"SELECT b", 1}}},
+        {"SELECT a; ;\n SELECT b;  ", V{{"SELECT a", 1}, {"SELECT b", 2}}},
+        {" ; \n ", V{}},
+        {"SELECT a -- dupa cod; nu se imparte\nFROM t", V{{"SELECT a  \nFROM t", 1}}},
+        {"SELECT 'a;b', 'c--d', 'l''x;' FROM t; SELECT 2", V{{"SELECT 'a;b', 'c--d', 'l''x;' FROM t", 1}, {"SELECT 2", 1}}},
+        {"SELECT \"x;y\" FROM t", V{{"SELECT \"x;y\" FROM t", 1}}},
+        {"/* un;\ncomentariu */\nSELECT 1 /* ; */ ;SELECT 2", V{{"SELECT 1", 3}, {"SELECT 2", 3}}},
+        {"SELECT 'neinchis;", V{{"SELECT 'neinchis;", 1}}},
+    };
+    for (const auto& c : cazuri)
+        EXPECT_EQ(Interogari(QString::fromUtf8(c.text)), c.asteptat) << c.text;
+    EXPECT_EQ(Interogari(CitesteText(SursaInterogari())).size(), 11u);
 }
 
 TEST(FisierSetariPagina, NumarulProgramuluiAlegeFisierul) {
@@ -216,6 +227,32 @@ TEST_P(Sql2JsonTest, OInterogareGresitaNuScrieNimic) {
     EXPECT_TRUE(m.mesaje[0].text.contains(QStringLiteral("doua coloane"))) << m.mesaje[0].text.toStdString();
 }
 
+// The town hall edits the file: whatever it holds, printing a form never changes the database.
+TEST_P(Sql2JsonTest, FisierulDeInterogariNuPoateScrie) {
+    const qint64 cereri = Numar(QStringLiteral("SELECT COUNT(*) FROM Cereri"));
+    const struct {
+        const char* text;
+        const char* inMesaj;
+    } cazuri[] = {
+        {"SELECT 1 AS a;\n\n  delete FROM Cereri WHERE CerereID = ${CerereID};", "Linia 3"},
+        {"UPDATE Cereri SET NrCerere = 1", "Linia 1"},
+        {"SELECT 1 AS a;\nWITH x AS (SELECT 1 AS y) DELETE FROM Cereri", "Linia 2"},
+    };
+    for (const auto& c : cazuri) {
+        m.mesaje.clear();
+        EXPECT_TRUE(Ruleaza(QString::fromUtf8(c.text), 7).isEmpty()) << c.text;
+        ASSERT_EQ(m.mesaje.size(), 1u) << c.text;
+        EXPECT_TRUE(m.mesaje[0].text.contains(QLatin1String(c.inMesaj))) << m.mesaje[0].text.toStdString();
+        EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Cereri")), cereri) << c.text;
+    }
+    // Reading goes on working on the same connection afterwards, and so does writing.
+    m.mesaje.clear();
+    EXPECT_EQ(Ruleaza(QStringLiteral("select NrCerere AS nr FROM Cereri WHERE CerereID = ${CerereID}"), 7),
+              QStringLiteral("[[{\"nr\":\"31 32 35\"}]]"));
+    Bd().Executa(QStringLiteral("UPDATE Cereri SET NrCerere = 126 WHERE CerereID = 7"));
+    EXPECT_TRUE(m.mesaje.empty());
+}
+
 PE_AMBELE_MOTOARE(Sql2JsonTest);
 
 // The delivered statements, run as the print commands run them.
@@ -286,7 +323,7 @@ TEST_P(StartCerereWebTest, FormularGolSauCereriDemonstrative) {
     while (q.Urmator())
         chei.push_back(q.Intreg(0));
     int cereri = 0;
-    const QString sql = TextInterogari(CitesteText(SursaInterogari()));
+    const QString sql = CitesteText(SursaInterogari());
     for (const qint64 id : chei) {
         const Rezultate r = CitesteJson(JsonInterogari(Bd(), sql, id));
         ASSERT_EQ(r.size(), 11u) << id;
