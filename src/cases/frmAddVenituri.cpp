@@ -38,6 +38,7 @@ frmAddVenituri::frmAddVenituri(BazaDate& bd, Mesaje& m, StareCerere& stare, cons
     if (const std::optional<QColor> fundal = CuloareDinText(culoareVenit)) {
         QPalette p = palette();
         p.setColor(QPalette::Window, *fundal);
+        p.setColor(QPalette::WindowText, CuloareTextPe(*fundal));
         setPalette(p);
         setAutoFillBackground(true);
     }

@@ -591,6 +591,7 @@ TEST_P(FormCerere, ButoaneleDeschidDialogurileDosarului) {
         if (auto* v = qobject_cast<frmAddVenituri*>(&d)) {
             EXPECT_TRUE(v->autoFillBackground());
             EXPECT_EQ(v->palette().color(QPalette::Window), QColor(10, 20, 30));
+            EXPECT_EQ(v->palette().color(QPalette::WindowText), QColor(Qt::white)) << "readable on the dark colour";
             v->Grid->item(1, 1)->setText(QStringLiteral("250,5"));
             v->cmdOK_Click();
             return int(QDialog::Accepted);
