@@ -62,6 +62,9 @@ void frmMain::ListaAdeverinte(qint64 cerereID) {
                                           FormatData(a.DataExpAdev), a.Curenta ? QStringLiteral("Da") : QString()});
         item->setData(0, Qt::UserRole, a.AdevID);
     }
+    // A request holds few certificates: the columns take the width of their texts.
+    for (int c = 1; c < lvwAdeverinte->columnCount(); ++c)
+        lvwAdeverinte->resizeColumnToContents(c);
     if (!randuri.empty()) lvwAdeverinte->setCurrentItem(lvwAdeverinte->topLevelItem(0));
 }
 
