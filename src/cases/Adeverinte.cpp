@@ -286,6 +286,36 @@ std::optional<qint64> Adeverinte::CerereActExpira(BazaDate& db, qint64 membruID,
     return q.Intreg(0);
 }
 
+// ---- The certificates of one request ----
+
+std::vector<RandAdeverintaCerere> Adeverinte::ListaAdeverinteCerere(BazaDate& db, qint64 cerereID) {
+    // The engines disagree on where NULL sorts: a certificate without an expiry date is put last
+    // explicitly.
+    Interogare q(db, QStringLiteral("SELECT A.AdevID, A.MembruID, M.Nume, M.Prenume, G.Continut, A.NrAdev, "
+                                    "A.DataAdeverinta, A.DataDepunerii, A.DataExpAdev, A.AdvCurenta "
+                                    "FROM Adeverinte A LEFT JOIN Membrii M ON M.MembruID = A.MembruID "
+                                    "LEFT JOIN DateGen G ON G.Tip = 30 AND G.DataID = A.TipAdeverinta "
+                                    "WHERE A.CerereID = ? ORDER BY A.MembruID, A.TipAdeverinta, "
+                                    "CASE WHEN A.DataExpAdev IS NULL THEN 1 ELSE 0 END, A.DataExpAdev DESC, "
+                                    "A.AdevID"));
+    q.Leaga(cerereID).Executa();
+    std::vector<RandAdeverintaCerere> r;
+    while (q.Urmator()) {
+        RandAdeverintaCerere a;
+        a.AdevID = q.Intreg(0);
+        a.MembruID = q.Intreg(1);
+        if (!q.Valoare(2).isNull()) a.Membru = nume(q.Valoare(2).toString(), q.Valoare(3).toString());
+        a.TipAdeverinta = q.Valoare(4).toString();
+        a.NrAdev = q.Valoare(5).toString();
+        a.DataAdeverinta = dataDin(q.Valoare(6));
+        a.DataDepunerii = dataDin(q.Valoare(7));
+        a.DataExpAdev = dataDin(q.Valoare(8));
+        a.Curenta = q.Valoare(9).toInt() == 1;
+        r.push_back(std::move(a));
+    }
+    return r;
+}
+
 // ---- School certificates ----
 
 std::vector<RandAdeverintaScolara> Adeverinte::ListaAdeverinteScolare(BazaDate& db, const QDate& azi) {

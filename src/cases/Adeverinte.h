@@ -66,6 +66,17 @@ struct RandActExpira {
     QDate DataExpAdev;
 };
 
+// One certificate of a request, as the main window lists it under the request.
+struct RandAdeverintaCerere {
+    qint64 AdevID = 0;
+    qint64 MembruID = 0;
+    QString Membru; // Nume, a blank, Prenume
+    QString TipAdeverinta;
+    QString NrAdev;
+    QDate DataAdeverinta, DataDepunerii, DataExpAdev;
+    bool Curenta = false;
+};
+
 // One row of frmAdeverinte: a certificate of a pupil, every column as it is shown.
 struct RandAdeverintaScolara {
     qint64 AdevID = 0;
@@ -154,6 +165,11 @@ QString TitluActeExpira(const QDate& azi);
 // certificate expiring in the month on it, else another request of the person with one; nullopt
 // when the person has none left.
 std::optional<qint64> CerereActExpira(BazaDate& db, qint64 membruID, qint64 cerereID, const QDate& azi);
+
+// ---- The certificates of one request (the main window) ----
+
+// Every certificate of the request, person by person, by kind, the latest expiry first; one query.
+std::vector<RandAdeverintaCerere> ListaAdeverinteCerere(BazaDate& db, qint64 cerereID);
 
 // ---- School certificates (frmAdeverinte, frmAdAdeverinte) ----
 

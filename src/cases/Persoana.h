@@ -61,6 +61,9 @@ enum Chk : int {
     chkVMG = 6,
     chkAlocatie = 7,
     chkIncalzire = 8,
+    // "Copil de varsta scolara care nu urmeaza o forma de invatamant": no field holds it, so it
+    // stores nothing, and it stands outside the group of school states that exclude each other.
+    chkNuUrmeaza = 9,
     chkPeste20abs = 10,
     chkDiminuare20 = 11,
     chkDiminuare50 = 12,

@@ -116,7 +116,7 @@ frmAddCerere::frmAddCerere(BazaDate& bd, const Setari& setari, Mesaje& m, const 
         return f.Rezultat;
     };
     DeschideVenituri = [this](StareCerere& s) {
-        frmAddVenituri f(bd_, m_, s, this);
+        frmAddVenituri f(bd_, m_, s, setari_.CuloareVenit, this);
         ArataModal(f);
         return f.ESTE_OK;
     };

@@ -215,8 +215,10 @@ void frmAddMembru::asazaControale() {
     absente->addWidget(bifa(chkDiminuare20, QStringLiteral("10 - 19 absente")), 1, 0);
     absente->addWidget(bifa(chkDiminuare50, QStringLiteral("20 de absente")), 2, 0);
     absente->addWidget(bifa(chkPeste20abs, QStringLiteral("Peste 20 de absente")), 3, 0);
-    absente->addWidget(bifa(chkAbandon, QStringLiteral("Copilul a abandonat scoala")), 0, 1);
-    absente->addWidget(bifa(chkRepetent, QStringLiteral("Copil repetent")), 1, 1);
+    absente->addWidget(
+        bifa(chkNuUrmeaza, QStringLiteral("Copil de varsta scolara care nu urmeaza o forma de invatamant")), 0, 1);
+    absente->addWidget(bifa(chkAbandon, QStringLiteral("Copilul a abandonat scoala")), 1, 1);
+    absente->addWidget(bifa(chkRepetent, QStringLiteral("Copil repetent")), 2, 1);
     ge.g->addLayout(absente, ge.rand++, 0, 1, 4);
     ge.g->setRowStretch(ge.rand, 1);
 

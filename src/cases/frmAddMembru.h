@@ -66,7 +66,7 @@ public:
     QComboBox* cboCNP = nullptr;
     std::array<QLineEdit*, 20> txtMembru{}; // 4, 8 and 9 are not used
     std::array<QComboBox*, 17> cboMembru{};
-    std::array<QCheckBox*, 14> chkMembru{}; // 1 and 9 are not used
+    std::array<QCheckBox*, 14> chkMembru{}; // 1 is not used
     std::array<QCheckBox*, 2> chkVenit{};
     std::array<UiDataOptionala*, 3> dtpData{};
     QLabel* lblDataNast = nullptr;

@@ -4,6 +4,7 @@
 #include "cases/UiGrilaSume.h"
 #include "shell/Eroare.h"
 #include "shell/Mesaje.h"
+#include "shell/Setari.h"
 #include "shell/UiButoane.h"
 
 #include <QHBoxLayout>
@@ -29,10 +30,18 @@ std::vector<ElementCatalog> catalog(BazaDate& bd, Mesaje& m) {
 
 } // namespace
 
-frmAddVenituri::frmAddVenituri(BazaDate& bd, Mesaje& m, StareCerere& stare, QWidget* parinte)
+frmAddVenituri::frmAddVenituri(BazaDate& bd, Mesaje& m, StareCerere& stare, const QString& culoareVenit,
+                               QWidget* parinte)
     : QDialog(parinte), m_(m), stare_(stare), grila_(catalog(bd, m), stare.Venituri) {
     setObjectName(QStringLiteral("frmAddVenituri"));
     setWindowTitle(QStringLiteral("Venituri"));
+    if (const std::optional<QColor> fundal = CuloareDinText(culoareVenit)) {
+        QPalette p = palette();
+        p.setColor(QPalette::Window, *fundal);
+        p.setColor(QPalette::WindowText, CuloareTextPe(*fundal));
+        setPalette(p);
+        setAutoFillBackground(true);
+    }
     auto* asezare = new QVBoxLayout(this);
 
     Grid = new QTableWidget(this);

@@ -265,6 +265,13 @@ std::optional<QColor> CuloareDinText(const QString& text) {
     return QColor(int(n & 0xFF), int((n >> 8) & 0xFF), int((n >> 16) & 0xFF));
 }
 
+QColor CuloareTextPe(const QColor& fundal) {
+    const QColor c = fundal.toRgb();
+    // Perceived brightness, in thousandths of a channel step.
+    const int luminozitate = 299 * c.red() + 587 * c.green() + 114 * c.blue();
+    return luminozitate < 128000 ? QColor(Qt::white) : QColor(Qt::black);
+}
+
 const std::vector<ElementCombo>& ListaNrCerereAnexa3() {
     static const std::vector<ElementCombo> l{
         {0, QStringLiteral("Nr crt")}, {1, QStringLiteral("NrCerere")}, {2, QStringLiteral("NrDispozitie")}};

@@ -143,6 +143,8 @@ QString TextMostraFont(const QString& nume, int marime, bool b, bool i, bool u);
 QString CuloareInText(const QColor& c);
 // Anything but a whole number in 0..0xFFFFFF is no colour.
 std::optional<QColor> CuloareDinText(const QString& text);
+// The text colour that stays readable on a chosen background: white on a dark one, else black.
+QColor CuloareTextPe(const QColor& fundal);
 
 // The items of the dialog's combos: the value stored and the text shown.
 struct ElementCombo {

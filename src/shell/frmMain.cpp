@@ -236,8 +236,14 @@ void frmMain::construiesteListeleDeJos(QWidget* jos) {
     randAnchete->addStretch();
     cmdAddAncheta->setEnabled(true);
     static_cast<QVBoxLayout*>(anchete->layout())->addLayout(randAnchete);
-    panou(lvwAdeverinte, "lvwAdeverinte", QStringLiteral("Adeverinte"), {}, nullptr);
-    panou(lvwPlati, "lvwPlati", QStringLiteral("Plati"), {}, nullptr);
+    panou(lvwAdeverinte, "lvwAdeverinte", QStringLiteral("Adeverinte"),
+          {QStringLiteral("ID"), QStringLiteral("Membru"), QStringLiteral("Tip adeverinta"), QStringLiteral("Nr adev"),
+           QStringLiteral("Data adeverintei"), QStringLiteral("Data depunerii"), QStringLiteral("Data expirarii"),
+           QStringLiteral("Curenta")},
+          nullptr);
+    // No payments tab: nothing records what a request was paid in a month. The calendar of
+    // working months holds only months, the request only its present amount, and a disposition
+    // is a decision, not a payment.
     QWidget* dispozitii =
         panou(lvwDispozitii, "lvwDispozitii", QStringLiteral("Dispozitii"),
               {QStringLiteral("ID"), QStringLiteral("Nr disp"), QStringLiteral("Data"), QStringLiteral("Tip decizie"),
@@ -495,7 +501,10 @@ void frmMain::cmdCauta_Click() {
 void frmMain::ListaCereri(std::vector<RandCerere> randuri) {
     model_->Seteaza(std::move(randuri));
     lblRezul->setText(ListaCereri::TextRezultat(model_->rowCount()));
-    if (model_->rowCount() > 0) SelecteazaRand(0);
+    if (model_->rowCount() > 0)
+        SelecteazaRand(0);
+    else
+        ItemClick();
 }
 
 void frmMain::GolireFiltre() {
@@ -529,14 +538,15 @@ int frmMain::RandSelectat() const {
 
 void frmMain::ItemClick() {
     const RandCerere* r = model_->Rand(RandSelectat());
-    if (!r) return;
     try {
-        if (ListaCereri::Citeste(p_.bd, r->CerereID).CerereID == 0) {
+        // The lower lists follow the selected row only: with no row, or a request gone, they are
+        // empty and their commands off.
+        if (r && ListaCereri::Citeste(p_.bd, r->CerereID).CerereID == 0) {
+            ListeleCererii(0);
             m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
             return;
         }
-        ListaAnchete(r->CerereID);
-        ListaDispozitii(r->CerereID);
+        ListeleCererii(r ? r->CerereID : 0);
     } catch (const Eroare& e) {
         m_.Critic(e.text());
     }
@@ -609,7 +619,10 @@ void frmMain::cmdDelete_Click() {
         return;
     }
     model_->Elimina(rand);
-    SelecteazaRand(std::min(rand, model_->rowCount() - 1));
+    if (model_->rowCount() > 0)
+        SelecteazaRand(std::min(rand, model_->rowCount() - 1));
+    else
+        ItemClick();
     lblRezul->setText(model_->rowCount() == 0 ? QStringLiteral("0 cereri")
                                               : QStringLiteral("%1 cereri").arg(model_->rowCount()));
     ActivareComenzi();

@@ -52,6 +52,7 @@ public:
     int RandSelectat() const;
     void ScrieLunaActiva();
     void ListaDispozitii(qint64 cerereID);
+    void ListaAdeverinte(qint64 cerereID);
     void cmdAddDisp_Click();
     void cmdEditDisp_Click();
     void cmdDelDisp_Click();
@@ -102,7 +103,6 @@ public:
     QTabWidget* opt = nullptr;
     QTreeWidget* lvwAnchete = nullptr;
     QTreeWidget* lvwAdeverinte = nullptr;
-    QTreeWidget* lvwPlati = nullptr;
     QTreeWidget* lvwDispozitii = nullptr;
     QLabel* lblAnchete = nullptr;
     QLabel* lblDispozitii = nullptr;
@@ -145,6 +145,8 @@ private:
     qint64 DispozitieSelectata() const;
     void SelecteazaDispozitia(qint64 dispozitieID);
     void RescrieRandul(qint64 cerereID);
+    // The lists under the request list, for the request (0: none, they are emptied).
+    void ListeleCererii(qint64 cerereID);
 
     Program& p_;
     Mesaje& m_;

@@ -1,5 +1,6 @@
 #include "shell/frmMain.h"
 
+#include "cases/Adeverinte.h"
 #include "cases/Anchete.h"
 #include "cases/Dispozitii.h"
 #include "cases/frmAddAnchete.h"
@@ -25,12 +26,18 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-// The main window's lower panels (dispositions, inquiries), its print commands and the notice of
+// The main window's lower panels (dispositions, inquiries, certificates), its print commands and the notice of
 // expiring certificates.
+
+void frmMain::ListeleCererii(qint64 cerereID) {
+    ListaAnchete(cerereID);
+    ListaDispozitii(cerereID);
+    ListaAdeverinte(cerereID);
+}
 
 void frmMain::ListaDispozitii(qint64 cerereID) {
     lvwDispozitii->clear();
-    const auto randuri = PaneluriCerere::ListaDispozitii(p_.bd, cerereID);
+    const auto randuri = cerereID ? PaneluriCerere::ListaDispozitii(p_.bd, cerereID) : std::vector<RandDispozitie>{};
     for (const RandDispozitie& d : randuri) {
         auto* item =
             new QTreeWidgetItem(lvwDispozitii, {QString::number(d.DispozitieID), d.NrDisp, FormatData(d.DataDisp),
@@ -42,6 +49,23 @@ void frmMain::ListaDispozitii(qint64 cerereID) {
     for (QPushButton* b : {cmdEditDisp, cmdDelDisp, cmdPrintDisp})
         b->setEnabled(!randuri.empty());
     if (!randuri.empty()) lvwDispozitii->setCurrentItem(lvwDispozitii->topLevelItem(0));
+}
+
+void frmMain::ListaAdeverinte(qint64 cerereID) {
+    lvwAdeverinte->clear();
+    const auto randuri =
+        cerereID ? Adeverinte::ListaAdeverinteCerere(p_.bd, cerereID) : std::vector<RandAdeverintaCerere>{};
+    for (const RandAdeverintaCerere& a : randuri) {
+        auto* item = new QTreeWidgetItem(lvwAdeverinte,
+                                         {QString::number(a.AdevID), a.Membru, a.TipAdeverinta, a.NrAdev,
+                                          FormatData(a.DataAdeverinta), FormatData(a.DataDepunerii),
+                                          FormatData(a.DataExpAdev), a.Curenta ? QStringLiteral("Da") : QString()});
+        item->setData(0, Qt::UserRole, a.AdevID);
+    }
+    // A request holds few certificates: the columns take the width of their texts.
+    for (int c = 1; c < lvwAdeverinte->columnCount(); ++c)
+        lvwAdeverinte->resizeColumnToContents(c);
+    if (!randuri.empty()) lvwAdeverinte->setCurrentItem(lvwAdeverinte->topLevelItem(0));
 }
 
 qint64 frmMain::CerereSelectata() const {

@@ -241,8 +241,14 @@ void frmOptiuni::ArataCuloare() {
 }
 
 void frmOptiuni::AlegeFont(const QFont& font) {
+    const int marime = font.pointSize() > 0 ? font.pointSize() : QFontInfo(font).pointSize();
+    // Refused as it is chosen: the font shown and kept stays the one before.
+    if (const std::optional<QString> refuz = VerificaMarimeFont(marime)) {
+        m_.Avertisment(*refuz, windowTitle());
+        return;
+    }
     fontName0_ = font.family();
-    fontSize0_ = font.pointSize() > 0 ? font.pointSize() : QFontInfo(font).pointSize();
+    fontSize0_ = marime;
     fontB0_ = font.bold();
     fontI0_ = font.italic();
     fontU0_ = font.underline();

@@ -20,7 +20,8 @@ class frmOptiuni : public QDialog {
 public:
     frmOptiuni(Setari& setari, const QString& fisierIni, Mesaje& m, QWidget* parinte = nullptr);
 
-    // What the font and colour dialogs hand back.
+    // What the font and colour dialogs hand back. A font whose size is out of bounds is refused
+    // with its message and the previous one stays.
     void AlegeFont(const QFont& font);
     void AlegeCuloare(const QColor& culoare);
 

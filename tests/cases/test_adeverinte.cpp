@@ -406,6 +406,45 @@ TEST_P(AdeverinteBD, CerereaDeDeschisEsteAceeaARandului) {
     EXPECT_EQ(CerereActExpira(Bd(), 7, 2, azi), std::nullopt);
 }
 
+// Under the request list: the request's own certificates only, person by person, by kind, the
+// latest expiry first and a missing one last, whatever the engine.
+TEST_P(AdeverinteBD, AdeverinteleCereriiPePersoaneSiTipuri) {
+    Cerere(1, 2,
+           {{1, T("Popescu"), T("Ion"), T("1800101400123"), 1}, {2, T("Popescu"), T("Ana"), T("6120304400111"), 3}});
+    Cerere(2, 2, {{1, T("Popescu"), T("Ion"), T("1800101400123"), 1}});
+    Act(31, 1, 2, 3, QDate(2025, 6, 30), 0, "S-31");
+    Act(32, 1, 2, 3, QDate(), 0, "S-32");
+    Act(33, 1, 2, 3, QDate(2026, 6, 30), 1, "S-33");
+    Act(34, 1, 1, 6, QDate(2025, 1, 31), 1, "V-34");
+    Act(35, 1, 2, 1, QDate(2025, 1, 31), QVariant(), "A-35");
+    Act(36, 2, 1, 6, QDate(2026, 1, 31), 1, "V-36");  // the same person on another request
+    Act(37, 1, 1, 99, QDate(2025, 2, 28), 1, "X-37"); // a kind the list lacks
+
+    QStringList randuri;
+    for (const RandAdeverintaCerere& a : ListaAdeverinteCerere(Bd(), 1))
+        randuri << QStringList{QString::number(a.AdevID),
+                               QString::number(a.MembruID),
+                               a.Membru,
+                               a.TipAdeverinta,
+                               a.NrAdev,
+                               a.DataAdeverinta.toString(Qt::ISODate),
+                               a.DataDepunerii.toString(Qt::ISODate),
+                               a.DataExpAdev.toString(Qt::ISODate),
+                               a.Curenta ? T("curenta") : QString()}
+                       .join(QLatin1Char('|'));
+    EXPECT_EQ(randuri, (QStringList{
+                           T("34|1|Popescu Ion|venit net|V-34|2024-09-01|2024-09-03|2025-01-31|curenta"),
+                           T("37|1|Popescu Ion||X-37|2024-09-01|2024-09-03|2025-02-28|curenta"),
+                           T("35|2|Popescu Ana|AJOFM (somaj)|A-35|2024-09-01|2024-09-03|2025-01-31|"),
+                           T("33|2|Popescu Ana|de la scoala (pt elevi)|S-33|2024-09-01|2024-09-03|2026-06-30|curenta"),
+                           T("31|2|Popescu Ana|de la scoala (pt elevi)|S-31|2024-09-01|2024-09-03|2025-06-30|"),
+                           T("32|2|Popescu Ana|de la scoala (pt elevi)|S-32|2024-09-01|2024-09-03||"),
+                       }));
+    ASSERT_EQ(ListaAdeverinteCerere(Bd(), 2).size(), 1u);
+    EXPECT_EQ(ListaAdeverinteCerere(Bd(), 2).front().AdevID, 36);
+    EXPECT_TRUE(ListaAdeverinteCerere(Bd(), 3).empty());
+}
+
 TEST_P(AdeverinteBD, ListaAdeverintelorScolareAElevilor) {
     Cerere(1, 2,
            {{1, T("Popescu"), T("Ion"), T("1800101400123"), 1},

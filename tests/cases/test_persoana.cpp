@@ -252,8 +252,9 @@ TEST(InMembru, FiecareControlInCampulSau) {
     d.cboMembru[cboTipIncalzTrecut] = {3, T("x")};
     d.cboMembru[cboMotiv] = {0, T("alt motiv")};
     d.cboMembru[cboTipValuta] = {4, T("EURO")};
+    // chkNuUrmeaza has no field: checked, it changes nothing of the element.
     for (int i : {chkLucreazaAfara, chkAbandon, chkLocuitAfara, chkDizabilitate, chkVMG, chkAlocatie, chkIncalzire,
-                  chkPeste20abs, chkDiminuare20, chkDiminuare50})
+                  chkNuUrmeaza, chkPeste20abs, chkDiminuare20, chkDiminuare50})
         d.chkMembru[size_t(i)] = true;
     d.dtpData[dtpDataElib] = QDate(2019, 4, 2);
     d.dtpData[dtpDataStare] = QDate(2024, 11, 1);
@@ -555,6 +556,13 @@ TEST(GrupElev, UnClicLasaCelMultOStare) {
         {"repetent fara studii", {chkRepetent}, chkRepetent, faraStudii, {}, {nuEsteElev}},
         {"debifarea lui repetent", {chkAbandon}, chkRepetent, {}, {chkAbandon}},
         {"clic in afara grupului", {chkAbandon, chkVMG}, chkVMG, elev, {chkAbandon, chkVMG}},
+        // The child of school age out of school is not one of the group's states.
+        {"nu urmeaza scoala nu sterge nimic", {chkAbandon, chkNuUrmeaza}, chkNuUrmeaza, {}, {chkAbandon, chkNuUrmeaza}},
+        {"nici una nu il sterge",
+         {chkNuUrmeaza, chkPeste20abs, chkNiciUna},
+         chkNiciUna,
+         {},
+         {chkNuUrmeaza, chkNiciUna}},
     };
     for (const Caz& c : cazuri) {
         SCOPED_TRACE(c.nume);

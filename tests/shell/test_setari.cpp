@@ -452,6 +452,15 @@ TEST(Optiuni, CuloareaCaNumarWindows) {
     }
     for (const char* nimic : {"", "  ", "-1", "16777216", "abc"})
         EXPECT_FALSE(CuloareDinText(QString::fromLatin1(nimic)).has_value()) << '"' << nimic << '"';
+
+    // The text on such a background stays readable.
+    const struct {
+        QColor fundal, text;
+    } texte[] = {{QColor(10, 20, 30), Qt::white},    {QColor(0, 0, 255), Qt::white},
+                 {QColor(127, 127, 127), Qt::white}, {QColor(128, 128, 128), Qt::black},
+                 {QColor(0, 255, 0), Qt::black},     {QColor(255, 255, 200), Qt::black}};
+    for (const auto& t : texte)
+        EXPECT_EQ(CuloareTextPe(t.fundal), t.text) << S(t.fundal.name());
 }
 
 } // namespace

@@ -579,14 +579,19 @@ TEST_P(FormCerere, StareaEsteADialoguluiSiPleacaOdataCuEl) {
 }
 
 // The buttons open the real incomes, goods, documents and housing dialogs on the open state; the
-// incomes confirmed there become the total income box.
+// incomes confirmed there become the total income box. The incomes dialog wears the colour of the
+// options.
 TEST_P(FormCerere, ButoaneleDeschidDialogurileDosarului) {
     const qint64 id = SalveazaDosar(DosarComplet(Bd()));
+    setari.CuloareVenit = QStringLiteral("1971210"); // 10 + 20 * 256 + 30 * 65536
     auto f = Deschide({2, id});
     QStringList deschise;
     f->ArataModal = [&](QDialog& d) {
         deschise << d.objectName();
         if (auto* v = qobject_cast<frmAddVenituri*>(&d)) {
+            EXPECT_TRUE(v->autoFillBackground());
+            EXPECT_EQ(v->palette().color(QPalette::Window), QColor(10, 20, 30));
+            EXPECT_EQ(v->palette().color(QPalette::WindowText), QColor(Qt::white)) << "readable on the dark colour";
             v->Grid->item(1, 1)->setText(QStringLiteral("250,5"));
             v->cmdOK_Click();
             return int(QDialog::Accepted);

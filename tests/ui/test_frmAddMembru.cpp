@@ -264,6 +264,16 @@ TEST_P(FormMembru, RudeniaSiBifeleConducCadrele) {
     Alege(Cbo(f, cboSituatieScolara), T("PRESCOLAR"));
     EXPECT_FALSE(Chk(f, chkRepetent)->isChecked()) << "no longer a pupil";
     EXPECT_FALSE(Chk(f, chkRepetent)->isEnabled());
+    // The child of school age out of school sits with the school states, outside their group.
+    QCheckBox* nuUrmeaza = Chk(f, chkNuUrmeaza);
+    ASSERT_NE(nuUrmeaza, nullptr);
+    EXPECT_TRUE(elev->isAncestorOf(nuUrmeaza));
+    EXPECT_TRUE(nuUrmeaza->isVisible());
+    nuUrmeaza->click();
+    EXPECT_TRUE(Chk(f, chkDiminuare20)->isChecked());
+    Chk(f, chkAbandon)->click();
+    EXPECT_TRUE(nuUrmeaza->isChecked());
+    EXPECT_FALSE(Chk(f, chkDiminuare20)->isChecked());
 
     // Income from work: yes and no exclude each other, the amount only with yes.
     EXPECT_FALSE(Txt(f, txtSuma)->isEnabled());

@@ -254,17 +254,27 @@ TEST_P(FereastraPrincipala, SeDeseneazaCuOMieDeCereri) {
     if (!capturi.isEmpty()) imagine.save(QStringLiteral("%1/frmMain_%2.png").arg(capturi, Bd().dialect().NumeEngine()));
 }
 
-TEST_P(FereastraPrincipala, DispozitiileCereriiSelectateSiStergerea) {
+// The lists under the request list follow the selected row only.
+TEST_P(FereastraPrincipala, ListeleDeJosUrmeazaDoarRandulSelectat) {
     TreiCereri();
     Interogare ins(
         Bd(), QStringLiteral(
                   "INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, Actiune) VALUES (?, ?, ?, ?, ?)"));
     ins.Leaga(1).Leaga(1).Leaga(7).Leaga(QDate(2024, 4, 1)).Leaga(1).Executa();
     ins.Leaga(2).Leaga(1).Leaga(8).Leaga(QDate(2024, 6, 1)).Leaga(2).Executa();
+    ExecutaCu(Bd(), QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta) VALUES (1, 1, ?)"),
+              QDate(2024, 2, 10));
+    ExecutaCu(Bd(),
+              QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, NrAdev, "
+                             "DataExpAdev, AdvCurenta) VALUES (1, 1, 2, 3, 'S-1', ?, 1)"),
+              QDate(2025, 6, 30));
     auto f = Deschide();
     EXPECT_EQ(f->lvwDispozitii->topLevelItemCount(), 2) << "the first row's dispositions are shown";
     EXPECT_EQ(f->lblDispozitii->text(), QStringLiteral("Dispozitiile lui Popescu Ion."));
     EXPECT_TRUE(f->cmdDelDisp->isEnabled());
+    ASSERT_EQ(f->lvwAdeverinte->topLevelItemCount(), 1) << "and its certificates";
+    EXPECT_EQ(f->lvwAdeverinte->topLevelItem(0)->text(1), QStringLiteral("Popescu Ana"));
+    EXPECT_EQ(f->lvwAdeverinte->topLevelItem(0)->text(6), QStringLiteral("30.06.2025"));
 
     mesaje.raspunsuri = {true};
     f->cmdDelDisp_Click();
@@ -277,9 +287,41 @@ TEST_P(FereastraPrincipala, DispozitiileCereriiSelectateSiStergerea) {
     EXPECT_EQ(f->lvwDispozitii->topLevelItemCount(), 0);
     EXPECT_TRUE(f->lblDispozitii->text().isEmpty());
     EXPECT_FALSE(f->cmdDelDisp->isEnabled());
+    EXPECT_EQ(f->lvwAdeverinte->topLevelItemCount(), 0);
     mesaje.mesaje.clear();
     f->cmdDelDisp_Click();
     EXPECT_EQ(mesaje.Texte(), QStringList{QStringLiteral("Selectati o dispozitie!")});
+
+    // With no row, after a search that finds nothing or the delete of the last listed request,
+    // the lists are empty and their commands off.
+    const auto goale = [&](const char* dupa) {
+        SCOPED_TRACE(dupa);
+        for (QTreeWidget* l : {f->lvwDispozitii, f->lvwAnchete, f->lvwAdeverinte})
+            EXPECT_EQ(l->topLevelItemCount(), 0) << l->objectName().toStdString();
+        EXPECT_TRUE(f->lblDispozitii->text().isEmpty());
+        EXPECT_TRUE(f->lblAnchete->text().isEmpty());
+        for (QPushButton* b : {f->cmdAddDisp, f->cmdEditDisp, f->cmdDelDisp, f->cmdPrintDisp, f->cmdAddAncheta,
+                               f->cmdEditAncheta, f->cmdDelAncheta})
+            EXPECT_FALSE(b->isEnabled()) << b->objectName().toStdString();
+    };
+    const auto doarCererea1 = [&] {
+        f->txtCauta[1]->setText(QStringLiteral("Popescu"));
+        f->cmdCauta_Click();
+        ASSERT_EQ(f->model()->rowCount(), 1);
+        EXPECT_EQ(f->lvwDispozitii->topLevelItemCount(), 1);
+        EXPECT_EQ(f->lvwAnchete->topLevelItemCount(), 1);
+        EXPECT_EQ(f->lvwAdeverinte->topLevelItemCount(), 1);
+        EXPECT_TRUE(f->cmdEditDisp->isEnabled());
+    };
+    doarCererea1();
+    f->txtCauta[0]->setText(QStringLiteral("999"));
+    f->cmdCauta_Click();
+    goale("a search without a match");
+    doarCererea1();
+    mesaje.raspunsuri = {true};
+    f->cmdDelete_Click();
+    ASSERT_EQ(f->model()->rowCount(), 0);
+    goale("the last listed request deleted");
 }
 
 TEST_P(FereastraPrincipala, NotificareaApareDoarCandEsteCerutaSiSuntActe) {

@@ -188,7 +188,7 @@ TEST_P(ComenziFereastra, AdaugareaDispozitieiRefuzaInOrdineApoiDeschideEditorul)
 
     const QString capturi = qEnvironmentVariable("FEROLANTA_CAPTURI");
     if (!capturi.isEmpty() && GetParam() == Motor::SQLite) {
-        f.opt->setCurrentIndex(3);
+        f.opt->setCurrentWidget(f.lvwDispozitii->parentWidget());
         EXPECT_TRUE(f.grab().save(QDir(capturi).filePath(QStringLiteral("frmMain_dispozitii.png"))));
     }
 }

@@ -189,26 +189,33 @@ TEST_F(DialogOptiuni, OKScrieFisierulSiSetarile) {
     EXPECT_EQ(s.AnSetat, 2024);
 }
 
-TEST_F(DialogOptiuni, MarimeaFontuluiInAfaraLimitelorNuScrieNimic) {
+TEST_F(DialogOptiuni, MarimeaFontuluiSeVerificaLaAlegere) {
     // The limits themselves: Optiuni.VerificaMarimeaFontului.
     Setari s = Pornire();
     frmOptiuni f(s, Ini(), m_);
-    Gaseste<QCheckBox>(f, "chkReteaSetat")->setChecked(true);
+    auto* lblFont = Gaseste<QLabel>(f, "lblFont");
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPointSize(73);
+    font.setItalic(true);
     f.AlegeFont(font);
-    f.OK();
     EXPECT_EQ(m_.Texte(MesajeInregistrate::Fel::Avertisment),
               QStringList{QStringLiteral("Marimea caracterelor nu poate fi mai mare de 72")});
-    EXPECT_NE(f.result(), QDialog::Accepted);
+    EXPECT_EQ(S(lblFont->text()), "DejaVu Serif, 12, B, U") << "the previous font stays";
     EXPECT_FALSE(QFile::exists(Ini()));
-    EXPECT_TRUE(s == Pornire());
 
-    // A size within the limits then goes through.
+    // OK keeps the previous font; a size within the limits then goes through.
+    m_.mesaje.clear();
+    f.OK();
+    EXPECT_TRUE(m_.mesaje.empty());
+    EXPECT_EQ(f.result(), QDialog::Accepted);
+    EXPECT_EQ(Citeste("Fonturi", "FontSize0"), "12");
+    EXPECT_EQ(S(s.FontName0), "DejaVu Serif");
+    EXPECT_FALSE(s.FontI0);
     font.setPointSize(72);
     f.AlegeFont(font);
+    EXPECT_EQ(S(lblFont->text()), "DejaVu Sans, 72, I");
     f.OK();
-    EXPECT_EQ(f.result(), QDialog::Accepted);
+    EXPECT_TRUE(m_.mesaje.empty());
     EXPECT_EQ(s.FontSize0, 72);
     EXPECT_EQ(Citeste("Fonturi", "FontSize0"), "72");
 }

@@ -69,7 +69,7 @@ protected:
 };
 
 TEST_P(DialoguriCerere, VeniturileSeScriuLaOKSiTotalulUrmeazaFiecareCelula) {
-    frmAddVenituri f(Bd(), mesaje, stare, nullptr);
+    frmAddVenituri f(Bd(), mesaje, stare, QString(), nullptr);
     f.show();
     auto* grid = Gaseste<QTableWidget>(f, "Grid");
     auto* total = Gaseste<QLabel>(f, "lblTotalVenituri");
@@ -123,7 +123,7 @@ TEST_P(DialoguriCerere, VeniturileSeScriuLaOKSiTotalulUrmeazaFiecareCelula) {
 
 TEST_P(DialoguriCerere, RenuntareaLaVenituriNuAtingeStarea) {
     const StareCerere inainte = stare;
-    frmAddVenituri f(Bd(), mesaje, stare, nullptr);
+    frmAddVenituri f(Bd(), mesaje, stare, QString(), nullptr);
     f.show();
     Scrie(Gaseste<QTableWidget>(f, "Grid"), 5, 1, QStringLiteral("700"));
     QTest::mouseClick(Gaseste<QPushButton>(f, "cmdCancel"), Qt::LeftButton);
