@@ -1,3 +1,4 @@
+#include "shell/Eroare.h"
 #include "shell/Foldere.h"
 #include "shell/Pornire.h"
 #include "shell/Program.h"
@@ -11,19 +12,9 @@
 #include <QLockFile>
 #include <QStandardPaths>
 
-int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Ferolanta"));
-    QApplication::setOrganizationName(QStringLiteral("Ferolanta"));
+namespace {
 
-    // One copy per computer: a second one ends at once, silently.
-    QString folderBlocare = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (folderBlocare.isEmpty()) folderBlocare = QDir::tempPath();
-    QLockFile blocare(QDir(folderBlocare).filePath(QStringLiteral("ferolanta.lock")));
-    blocare.setStaleLockTime(0);
-    if (!blocare.tryLock(0)) return 0;
-
-    UiMesaje mesaje;
+int porneste(QApplication& app, UiMesaje& mesaje) {
     RezultatPornire pornire = PornesteBaza(Foldere::ApplicationPath(), Foldere::FolderLivrat(), mesaje);
     if (pornire.stare == RezultatPornire::Stare::AlegeLocatie) {
         frmGeneral locatie(QDir(pornire.applicationPath).filePath(Foldere::FisierSetari), pornire.caleBD, mesaje);
@@ -42,4 +33,31 @@ int main(int argc, char** argv) {
     frmMain fereastra(program, mesaje);
     fereastra.show();
     return app.exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Ferolanta"));
+    QApplication::setOrganizationName(QStringLiteral("Ferolanta"));
+
+    // One copy per computer: a second one ends at once, silently.
+    QString folderBlocare = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (folderBlocare.isEmpty()) folderBlocare = QDir::tempPath();
+    QLockFile blocare(QDir(folderBlocare).filePath(QStringLiteral("ferolanta.lock")));
+    blocare.setStaleLockTime(0);
+    if (!blocare.tryLock(0)) return 0;
+
+    UiMesaje mesaje;
+    // Whatever fails before or while the windows are made is shown to the clerk, and the program
+    // ends cleanly instead of vanishing.
+    try {
+        return porneste(app, mesaje);
+    } catch (const Eroare& e) {
+        mesaje.Critic(e.text());
+    } catch (const std::exception& e) {
+        mesaje.Critic(QStringLiteral("Eroare neasteptata: %1").arg(QString::fromLocal8Bit(e.what())));
+    }
+    return 1;
 }

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <cctype>
 #include <utility>
 
 namespace {
@@ -28,6 +29,33 @@ unsigned char Cod1250(char16_t c) {
 
 } // namespace
 
+namespace {
+
+// Where the head of a template without the marker ends, as newer word processors save it: before
+// the first \pard of the document's own level, else after its last group. -1 for a file that is not RTF at all.
+qsizetype SfarsitCapFaraMarcaj(const QByteArray& t) {
+    if (!t.startsWith("{\\rtf")) return -1;
+    int adancime = 0;
+    qsizetype ultimulGrup = -1;
+    for (qsizetype i = 0; i < t.size(); ++i) {
+        const char c = t[i];
+        if (c == '\\') {
+            if (adancime == 1 && t.mid(i, 5) == "\\pard" &&
+                (i + 5 >= t.size() || !std::isalpha(static_cast<unsigned char>(t[i + 5]))))
+                return i;
+            ++i; // an escaped brace or backslash is text
+        } else if (c == '{') {
+            ++adancime;
+        } else if (c == '}') {
+            if (--adancime == 1) ultimulGrup = i + 1;
+            if (adancime <= 0) break;
+        }
+    }
+    return ultimulGrup;
+}
+
+} // namespace
+
 std::optional<Sablon> CitesteSablon(const QString& cale, Mesaje& m) {
     QFile f(cale);
     if (!QFileInfo(cale).isFile()) {
@@ -41,15 +69,19 @@ std::optional<Sablon> CitesteSablon(const QString& cale, Mesaje& m) {
     }
     const QByteArray tot = f.readAll();
     const qsizetype poz = tot.lastIndexOf(MarcajSablon);
-    if (poz < 0) {
+    qsizetype sfarsitCap = poz < 0 ? SfarsitCapFaraMarcaj(tot) : poz + MarcajSablon.size();
+    if (sfarsitCap < 0) {
         m.Critic(QStringLiteral("Fisierul sablon are format gresit. Sunati la tel: 0700-111222"));
         return std::nullopt;
     }
-    const qsizetype sfarsitCap = poz + MarcajSablon.size();
+    // The body stops before the closing "}" of the file, whatever line end or blanks follow it.
+    qsizetype sfarsitCorp = tot.size();
+    while (sfarsitCorp > sfarsitCap && std::isspace(static_cast<unsigned char>(tot[sfarsitCorp - 1])))
+        --sfarsitCorp;
+    if (sfarsitCorp > sfarsitCap && tot[sfarsitCorp - 1] == '}') --sfarsitCorp;
     Sablon s;
     s.Cap = tot.left(sfarsitCap);
-    const qsizetype lungime = tot.size() - sfarsitCap - 3;
-    if (lungime > 0) s.Corp = tot.mid(sfarsitCap, lungime);
+    s.Corp = tot.mid(sfarsitCap, sfarsitCorp - sfarsitCap);
     return s;
 }
 

@@ -1,5 +1,6 @@
 #include "shell/Pornire.h"
 
+#include "shell/Ceas.h"
 #include "shell/Eroare.h"
 #include "shell/Foldere.h"
 #include "shell/Mesaje.h"
@@ -10,7 +11,9 @@
 #include <QDir>
 #include <QFile>
 
-RezultatPornire PornesteBaza(const QString& applicationPath, const QString& folderLivrat, Mesaje& m) {
+namespace {
+
+RezultatPornire porneste(const QString& applicationPath, const QString& folderLivrat, Mesaje& m) {
     RezultatPornire r;
     r.applicationPath = applicationPath;
     const QString setari = QDir(applicationPath).filePath(Foldere::FisierSetari);
@@ -30,6 +33,12 @@ RezultatPornire PornesteBaza(const QString& applicationPath, const QString& fold
             return r;
         }
         ServiciuFisiere::ScrieIni(setari, QStringLiteral("Generale"), QStringLiteral("CaleBD"), applicationPath);
+        // A new office starts in the present month, not in one long past.
+        const QDate azi = Ceas::Azi();
+        ServiciuFisiere::ScrieIni(setari, QStringLiteral("Setari"), QStringLiteral("LunaSetata"),
+                                  QString::number(azi.month()));
+        ServiciuFisiere::ScrieIni(setari, QStringLiteral("Setari"), QStringLiteral("AnSetat"),
+                                  QString::number(azi.year()));
     }
 
     LocatieBD loc;
@@ -77,6 +86,21 @@ RezultatPornire PornesteBaza(const QString& applicationPath, const QString& fold
         return r;
     }
     r.stare = RezultatPornire::Stare::Deschisa;
+    return r;
+}
+
+} // namespace
+
+RezultatPornire PornesteBaza(const QString& applicationPath, const QString& folderLivrat, Mesaje& m) {
+    // A settings file that cannot be read or written stops the start with its message, like any
+    // other failure before the main window.
+    try {
+        return porneste(applicationPath, folderLivrat, m);
+    } catch (const Eroare& e) {
+        m.Critic(e.text());
+    }
+    RezultatPornire r;
+    r.applicationPath = applicationPath;
     return r;
 }
 

@@ -112,11 +112,11 @@ TEST_P(DocumenteTest, DispozitiaEsuataNuScrieNimic) {
     ASSERT_TRUE(vechi.open(QIODevice::WriteOnly));
     vechi.write("vechi");
     vechi.close();
-    const QString fara = Sablon("#Nume#", "fara_marcaj.rtf");
+    const QString fara = Sablon("#Nume#", "nu_este_rtf.rtf");
     {
         QFile f(fara);
         ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write("{\\rtf1\\pard #Nume#\\par}\r\n");
+        f.write("Dispozitie pentru #Nume#\r\n");
     }
     const struct {
         const char* caz;
@@ -125,7 +125,7 @@ TEST_P(DocumenteTest, DispozitiaEsuataNuScrieNimic) {
         QString mesaj;
         Rezultat rezultat;
     } cazuri[] = {
-        {"fara marcaj", [] {}, fara, QStringLiteral("Fisierul sablon are format gresit. Sunati la tel: 0700-111222"),
+        {"nu este RTF", [] {}, fara, QStringLiteral("Fisierul sablon are format gresit. Sunati la tel: 0700-111222"),
          Rezultat::Esuat},
         {"sablon lipsa", [] {}, QDir(Locatie().caleBD).filePath(QStringLiteral("nu.rtf")),
          QStringLiteral("Fisierul %1 nu exista").arg(QDir(Locatie().caleBD).filePath(QStringLiteral("nu.rtf"))),
@@ -224,6 +224,29 @@ TEST_P(DocumenteTest, SabloaneleLivrateSeCompleteazaIntregi) {
     ASSERT_EQ(Documente::GenereazaDeclaratie(Bd(), 7, o, declaratie, mesaje), Rezultat::Scris);
     VerificaDocument(CitesteTot(declaratie), QDir(o.FolderActe).filePath(Documente::SablonDeclaratie),
                      {U("Popa Vasile"), U("Ionescu Dan"), U("elev cl i-viii"), U("Brănești, str. Florilor")});
+    EXPECT_TRUE(mesaje.mesaje.empty()) << mesaje.Texte().join(u'\n').toStdString();
+}
+
+// A template saved again by LibreOffice (no marker, no line end after the last brace) and one with
+// Unix line ends merge like the delivered ones.
+TEST_P(DocumenteTest, SabloaneleSalvateDeAlteProcesoareSeCompleteaza) {
+    CazA();
+    ExecutaCu(Bd(), QStringLiteral("UPDATE Dispozitii SET Actiune = 1 WHERE DispozitieID = 3"));
+    QTemporaryDir acte;
+    o.FolderActe = acte.path();
+    const QString sablon = QDir(acte.path()).filePath(Documente::SablonDispozitie(1));
+    const QByteArray lf = CitesteTot(QStringLiteral(FEROLANTA_SURSA "/Acte/") + Documente::SablonDispozitie(1))
+                              .replace("\r\n", "\n");
+    for (const QByteArray& continut : {CitesteTot(QStringLiteral(FEROLANTA_TESTE_DATE "/documente/acordare-libreoffice.rtf")), lf}) {
+        QFile::remove(sablon);
+        QFile f(sablon);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(continut);
+        f.close();
+        ASSERT_EQ(Documente::GenereazaDispozitie(Bd(), 3, o, iesire, mesaje), Rezultat::Scris)
+            << mesaje.Texte().join(u'\n').toStdString();
+        VerificaDocument(CitesteTot(iesire), sablon, {U("Popa Vasile"), U("1850312410015"), U("privind acordarea")});
+    }
     EXPECT_TRUE(mesaje.mesaje.empty()) << mesaje.Texte().join(u'\n').toStdString();
 }
 

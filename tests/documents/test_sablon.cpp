@@ -16,20 +16,45 @@ QString Scrie(const QTemporaryDir& dir, const char* nume, const QByteArray& cont
     return cale;
 }
 
-TEST(Sablon, FisierLipsaSauFaraMarcajSuntRefuzateCuMesajulLor) {
+TEST(Sablon, FisierLipsaSauCareNuEsteRtfSuntRefuzateCuMesajulLor) {
     QTemporaryDir dir;
     MesajeInregistrate m;
     const QString lipsa = dir.filePath(QStringLiteral("lipsa.rtf"));
     EXPECT_FALSE(CitesteSablon(lipsa, m));
-    // A marker cut short by one character is no marker.
-    const QString fara = Scrie(dir, "fara.rtf", "{\\rtf1{\\pntxta )}\\pard #Nume#\\par}\r\n");
+    const QString fara = Scrie(dir, "fara.rtf", "Dispozitia nr. #NrDisp# pentru #Nume#\r\n");
     EXPECT_FALSE(CitesteSablon(fara, m));
     EXPECT_EQ(m.Texte(),
               (QStringList{QStringLiteral("Fisierul %1 nu exista").arg(lipsa),
                            QStringLiteral("Fisierul sablon are format gresit. Sunati la tel: 0700-111222")}));
 }
 
-TEST(Sablon, CapulMergePanaLaUltimulMarcajIarCorpulPierdeUltimeleTreiCaractere) {
+// Without the marker (as newer word processors save a template) the head ends where the body
+// starts: the first \pard of the document's level, else after its last group.
+TEST(Sablon, FaraMarcajCapulSeOpresteLaInceputulCorpului) {
+    QTemporaryDir dir;
+    MesajeInregistrate m;
+    const struct {
+        const char* continut;
+        const char* cap;
+        const char* corp;
+    } cazuri[] = {
+        // a marker cut short by one character is no marker; a \pard inside a group is not the body
+        {"{\\rtf1{\\pntxta )}\\pard #Nume#\\par}\r\n", "{\\rtf1{\\pntxta )}", "\\pard #Nume#\\par"},
+        {"{\\rtf1{\\stylesheet{\\s1\\pard Normal;}}\n\\pard\\plain #Nume#\\par\n}", "{\\rtf1{\\stylesheet{\\s1\\pard Normal;}}\n",
+         "\\pard\\plain #Nume#\\par\n"},
+        {"{\\rtf1{\\fonttbl{\\f0 Arial;}}\\pardeftab709 #Nume#}", "{\\rtf1{\\fonttbl{\\f0 Arial;}}", "\\pardeftab709 #Nume#"},
+        {"{\\rtf1{\\fonttbl{\\f0 Arial;}}\\{#Nume#\\}}  \n\n", "{\\rtf1{\\fonttbl{\\f0 Arial;}}", "\\{#Nume#\\}"},
+    };
+    for (const auto& c : cazuri) {
+        const auto s = CitesteSablon(Scrie(dir, "lf.rtf", c.continut), m);
+        ASSERT_TRUE(s) << c.continut;
+        EXPECT_EQ(s->Cap, QByteArray(c.cap)) << c.continut;
+        EXPECT_EQ(s->Corp, QByteArray(c.corp)) << c.continut;
+    }
+    EXPECT_TRUE(m.mesaje.empty());
+}
+
+TEST(Sablon, CapulMergePanaLaUltimulMarcajIarCorpulPanaLaAcoladaFinala) {
     QTemporaryDir dir;
     MesajeInregistrate m;
     const auto s = CitesteSablon(

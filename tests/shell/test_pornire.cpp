@@ -1,3 +1,4 @@
+#include "shell/Ceas.h"
 #include "shell/Foldere.h"
 #include "shell/Pornire.h"
 #include "shell/ServiciuFisiere.h"
@@ -18,13 +19,17 @@ TEST(Pornire, PrimaPornireCreeazaFolderulSiBaza) {
     QTemporaryDir tmp;
     const QString date = QDir(tmp.path()).filePath(QStringLiteral("Ferolanta"));
     MesajeInregistrate m;
+    Ceas::SeteazaAzi(QDate(2026, 11, 24));
     RezultatPornire r = PornesteBaza(date, folderLivrat(), m);
+    Ceas::SeteazaAzi(QDate());
     ASSERT_EQ(r.stare, RezultatPornire::Stare::Deschisa) << m.Texte().join(QLatin1Char('\n')).toStdString();
     EXPECT_TRUE(m.mesaje.empty()) << m.Texte().join(QLatin1Char('\n')).toStdString();
     EXPECT_TRUE(QFile::exists(QDir(date).filePath(QStringLiteral("Ferolanta.db"))));
     EXPECT_TRUE(QFile::exists(QDir(date).filePath(QStringLiteral("bife.txt"))));
     const QString ini = QDir(date).filePath(Foldere::FisierSetari);
     EXPECT_EQ(ServiciuFisiere::CitesteIni(ini, QStringLiteral("Generale"), QStringLiteral("CaleBD")), date);
+    EXPECT_EQ(r.setari.LunaSetata, 11);
+    EXPECT_EQ(r.setari.AnSetat, 2026);
 
     // The next start finds everything in place and asks nothing.
     r.bd.reset();
@@ -68,6 +73,18 @@ TEST(Pornire, FolderulBazeiDeNeatinsOpresteProgramul) {
     EXPECT_EQ(PornesteBaza(tmp.path(), folderLivrat(), m).stare, RezultatPornire::Stare::Terminat);
     EXPECT_EQ(m.Texte(), QStringList{QStringLiteral(
                              "Reteaua nu functioneaza sau locatia catre baza de date nu e corecta. Verificati!")});
+}
+
+// A settings file that cannot be read (here a folder in its place) ends the start with a message.
+TEST(Pornire, FisierDeSetariIlizibilOpresteCuMesaj) {
+    QTemporaryDir tmp;
+    ASSERT_TRUE(QDir(tmp.path()).mkdir(Foldere::FisierSetari));
+    MesajeInregistrate m;
+    RezultatPornire r;
+    EXPECT_NO_THROW(r = PornesteBaza(tmp.path(), folderLivrat(), m));
+    EXPECT_EQ(r.stare, RezultatPornire::Stare::Terminat);
+    ASSERT_EQ(m.mesaje.size(), 1u);
+    EXPECT_TRUE(m.mesaje[0].text.contains(Foldere::FisierSetari)) << m.mesaje[0].text.toStdString();
 }
 
 } // namespace
