@@ -78,7 +78,7 @@ TEST_P(CliDocument, SetarileFolderuluiBazeiSiSablonulDat) {
 TEST_P(CliDocument, EsecurileSpunDeCeSiNuScriuNimic) {
     QFile s(In("fara.rtf"));
     ASSERT_TRUE(s.open(QIODevice::WriteOnly));
-    s.write("{\\rtf1\\pard #Nume#\\par}\r\n");
+    s.write("Dispozitie pentru #Nume#\r\n");
     s.close();
     const struct {
         QStringList argumente;
