@@ -52,7 +52,6 @@ RandCerere randDin(const Interogare& q) {
 std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f) {
     QStringList conditii;
     QVariantList valori;
-    const QString like = db.dialect().EsteSQLite() ? QStringLiteral("LIKE") : QStringLiteral("ILIKE");
     if (!f.CNP.isEmpty()) {
         // A code is digits: the prefix becomes a range that the index on CNP serves.
         static const QRegularExpression cifre(QStringLiteral("^[0-9]+$"));
@@ -72,13 +71,14 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
             valori << PrefixLike(f.CNP);
         }
     }
+    // Names are searched in their stored search keys, by prefix, which their indexes serve.
     if (!f.Nume.isEmpty()) {
-        conditii << QStringLiteral("M.Nume %1 ? ESCAPE '\\'").arg(like);
-        valori << PrefixLike(f.Nume);
+        conditii << QStringLiteral("M.NumeCautare LIKE ? ESCAPE '\\'");
+        valori << PrefixLike(CheieCautare(f.Nume));
     }
     if (!f.Prenume.isEmpty()) {
-        conditii << QStringLiteral("M.Prenume %1 ? ESCAPE '\\'").arg(like);
-        valori << PrefixLike(f.Prenume);
+        conditii << QStringLiteral("M.PrenumeCautare LIKE ? ESCAPE '\\'");
+        valori << PrefixLike(CheieCautare(f.Prenume));
     }
     if (!f.NrCerere.isEmpty()) {
         conditii << QStringLiteral("C.NrCerere = ?");

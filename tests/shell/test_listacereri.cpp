@@ -89,6 +89,59 @@ TEST_P(Lista, FiltreleCautaDupaInceput) {
                                  << c.f.Prenume.toStdString() << "|" << c.f.NrCerere.toStdString();
 }
 
+// Names are found whatever their case and diacritics: a comma below, an old file's cedilla, or none.
+TEST_P(Lista, NumeleSeGasescFaraMajusculeSiDiacritice) {
+    const struct {
+        qint64 id;
+        const char* nume;
+        const char* prenume;
+    } titulari[] = {
+        {4, "\u0218erban", "Ana"},             // Șerban
+        {5, "\u015EERBAN", "\u015Etefan"},     // ŞERBAN Ştefan, cedillas
+        {6, "\u021A\u00EErlea", "Ionu\u021B"}, // Țîrlea Ionuț
+        {7, "\u00CErimia", "\u0102urel"},      // Îrimia Ăurel
+        {8, "\u00C2rdeleanu", "\u0162icu"},    // Ârdeleanu Ţicu
+    };
+    for (const auto& t : titulari) {
+        CerereTest c;
+        c.cerereID = t.id;
+        c.nrCerere = 20 + t.id;
+        c.persoane = {{t.id + 2, QString::fromUtf8(t.nume), QString::fromUtf8(t.prenume), {}, 1}};
+        AdaugaCerereTest(Bd(), c);
+    }
+    const struct {
+        const char* nume;
+        const char* prenume;
+        QList<qint64> id;
+    } cazuri[] = {
+        {"serban", "", {4, 5}},
+        {"\u0218ERB", "", {4, 5}},
+        {"\u015Ferban", "", {4, 5}},
+        {"S\u0327er", "", {4, 5}}, // a cedilla typed as a mark after its letter
+        {"serbanescu", "", {}},
+        {"", "STEFAN", {5}},
+        {"", "\u0219tefan", {5}},
+        {"tirlea", "", {6}},
+        {"\u0162\u00CER", "", {6}},
+        {"", "ionut", {6}},
+        {"", "ion", {1, 6}},
+        {"i", "", {3, 7}},
+        {"\u00EE", "", {3, 7}},
+        {"", "aurel", {7}},
+        {"ar", "", {8}},
+        {"\u0103r", "", {8}},
+        {"", "\u021B", {8}},
+        {"s%", "", {}},
+    };
+    for (const auto& c : cazuri) {
+        FiltruCautare f;
+        f.Nume = QString::fromUtf8(c.nume);
+        f.Prenume = QString::fromUtf8(c.prenume);
+        f.OrdineNumerica = true;
+        EXPECT_EQ(Id(f), c.id) << c.nume << "|" << c.prenume;
+    }
+}
+
 TEST_P(Lista, StergereaPastreazaFamiliaSiPersoaneleComune) {
     ListaCereri::Sterge(Bd(), 2);
     EXPECT_EQ(Id({}), (QList<qint64>{1, 3}));
