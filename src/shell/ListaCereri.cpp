@@ -8,13 +8,20 @@
 
 namespace {
 
-const QString SelectLista = QStringLiteral(
-    "SELECT C.CerereID, C.FamilieID, C.NrCerere, C.NrCerere2, C.TipCerere, C.Stare, C.DataCerere, C.VenitTotal, "
-    "C.Cuantum, C.NrMembrii, C.NrCopii, M.Nume, M.Prenume, M.CNP, F.NrDosar2, F.Localitate, F.Strada, F.Nr, F.Sc, "
-    "F.Ap, G.Continut AS StareText "
-    "FROM Cereri C INNER JOIN Membrii M ON C.MembruID1 = M.MembruID "
-    "LEFT JOIN Familii F ON F.FamilieID = C.FamilieID "
-    "LEFT JOIN DateGen G ON G.Tip = 1 AND G.DataID = C.Stare");
+// A request whose titular is gone still shows, with no name, so that it can be opened and deleted.
+// A search by the titular's code or names finds no such request anyway, and joins the titular
+// plainly: the planner then starts from the index of what was typed, which it doesn't do from the
+// outer side of a LEFT JOIN.
+QString SelectLista(bool dupaTitular = false) {
+    return QStringLiteral(
+               "SELECT C.CerereID, C.FamilieID, C.NrCerere, C.NrCerere2, C.TipCerere, C.Stare, C.DataCerere, "
+               "C.VenitTotal, C.Cuantum, C.NrMembrii, C.NrCopii, M.Nume, M.Prenume, M.CNP, F.NrDosar2, F.Localitate, "
+               "F.Strada, F.Nr, F.Sc, F.Ap, G.Continut AS StareText "
+               "FROM Cereri C %1 JOIN Membrii M ON C.MembruID1 = M.MembruID "
+               "LEFT JOIN Familii F ON F.FamilieID = C.FamilieID "
+               "LEFT JOIN DateGen G ON G.Tip = 1 AND G.DataID = C.Stare")
+        .arg(dupaTitular ? QStringLiteral("INNER") : QStringLiteral("LEFT"));
+}
 
 RandCerere randDin(const Interogare& q) {
     RandCerere r;
@@ -35,7 +42,8 @@ RandCerere randDin(const Interogare& q) {
     r.Cuantum = Bani::DinVariant(q.Valoare(8));
     r.NrMembrii = q.Intreg(9);
     r.NrCopii = q.Intreg(10);
-    r.Solicitant = q.Valoare(11).toString() + QLatin1Char(' ') + q.Valoare(12).toString();
+    if (!q.Valoare(11).isNull() || !q.Valoare(12).isNull())
+        r.Solicitant = q.Valoare(11).toString() + QLatin1Char(' ') + q.Valoare(12).toString();
     r.CNP = q.Valoare(13).toString();
     QString adresa = q.Valoare(15).toString();
     const std::pair<int, const char*> parti[] = {{16, ", "}, {17, ", nr. "}, {18, ", sc. "}, {19, ", ap. "}};
@@ -96,7 +104,7 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
         conditii << QStringLiteral("C.TipCerere = ?");
         valori << f.LoadTipCerere;
     }
-    QString sql = SelectLista;
+    QString sql = SelectLista(!f.CNP.isEmpty() || !f.Nume.isEmpty() || !f.Prenume.isEmpty());
     if (!conditii.isEmpty()) sql += QStringLiteral(" WHERE ") + conditii.join(QStringLiteral(" AND "));
     // "+ 0" keeps the planner from walking the whole table in NrCerere order to spare a sort,
     // so that a search starts from the index of what the clerk typed.
@@ -113,7 +121,7 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
 }
 
 RandCerere ListaCereri::Citeste(BazaDate& db, qint64 cerereID) {
-    Interogare q(db, SelectLista + QStringLiteral(" WHERE C.CerereID = ?"));
+    Interogare q(db, SelectLista() + QStringLiteral(" WHERE C.CerereID = ?"));
     q.Leaga(cerereID);
     return q.Exista() ? randDin(q) : RandCerere{};
 }

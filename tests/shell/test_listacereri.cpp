@@ -1,3 +1,4 @@
+#include "cases/DateCerere.h"
 #include "shell/ListaCereri.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
@@ -140,6 +141,25 @@ TEST_P(Lista, NumeleSeGasescFaraMajusculeSiDiacritice) {
         f.OrdineNumerica = true;
         EXPECT_EQ(Id(f), c.id) << c.nume << "|" << c.prenume;
     }
+}
+
+// A titular removed by an older program or an import leaves a row with no name, which opens and deletes.
+TEST_P(Lista, CerereaFaraTitularSeVedeSiSeSterge) {
+    ExecutaCu(Bd(), QStringLiteral("UPDATE Cereri SET MembruID1 = NULL WHERE CerereID = 3"));
+    ExecutaCu(Bd(), QStringLiteral("DELETE FROM Membrii WHERE MembruID = 5"));
+    EXPECT_EQ(Id({}), (QList<qint64>{1, 2, 3}));
+    const RandCerere r = ListaCereri::Citeste(Bd(), 3);
+    EXPECT_EQ(r.CerereID, 3);
+    EXPECT_EQ(r.Solicitant, QString());
+    EXPECT_EQ(r.Adresa, QStringLiteral("Cernica, nr. 12"));
+
+    const CerereIncarcata c = IncarcaCerere(Bd(), 3, 3, 2024, mesaje);
+    EXPECT_TRUE(c.Gasita);
+    EXPECT_FALSE(c.Stare.MatriceMembri);
+
+    ListaCereri::Sterge(Bd(), 3);
+    EXPECT_EQ(Id({}), (QList<qint64>{1, 2}));
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Familii WHERE FamilieID = 3")), 0);
 }
 
 TEST_P(Lista, StergereaPastreazaFamiliaSiPersoaneleComune) {
