@@ -178,11 +178,14 @@ void ListaCereri::Sterge(BazaDate& db, qint64 cerereID) {
         .Leaga(cerereID)
         .Executa();
 
-    Interogare alte(db, QStringLiteral("SELECT COUNT(CerereID) AS Nr FROM Cereri WHERE FamilieID = ?"));
-    alte.Leaga(familie).Exista();
-    // The family row is found by the request's own key: one family per request, same number.
-    if (alte.Intreg(QStringLiteral("Nr")) <= 1)
-        Interogare(db, QStringLiteral("DELETE FROM Familii WHERE FamilieID = ?")).Leaga(cerereID).Executa();
+    // The request itself may already be gone with its titular: only the other requests count.
+    Interogare alte(db,
+                    QStringLiteral("SELECT COUNT(CerereID) AS Nr FROM Cereri WHERE FamilieID = ? AND CerereID <> ?"));
+    alte.Leaga(familie).Leaga(cerereID).Exista();
+    // By the request's family key, never by its own: in an imported database the two numbers may
+    // differ, and the family that bears the request's number is another household's.
+    if (alte.Intreg(QStringLiteral("Nr")) == 0)
+        Interogare(db, QStringLiteral("DELETE FROM Familii WHERE FamilieID = ?")).Leaga(familie).Executa();
 
     // When both the titular and the family are shared, no cascade reaches the request itself.
     Interogare(db, QStringLiteral("DELETE FROM Cereri WHERE CerereID = ?")).Leaga(cerereID).Executa();

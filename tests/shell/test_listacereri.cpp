@@ -162,6 +162,17 @@ TEST_P(Lista, CerereaFaraTitularSeVedeSiSeSterge) {
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Familii WHERE FamilieID = 3")), 0);
 }
 
+// The family goes by the request's family key: here request 5 of family 6, while family 5 is
+// another household's.
+TEST_P(Lista, StergereaIaFamiliaCereriiNuPeCeaCuNumarulEi) {
+    AdaugaCerereTest(Bd(), {5, 6, 40, 2, 1, {}, {}, {{6, "Stan", "Ion", {}, 1}}});
+    AdaugaCerereTest(Bd(), {7, 5, 41, 2, 1, {}, {}, {{7, "Dinu", "Ana", {}, 1}}});
+    ListaCereri::Sterge(Bd(), 5);
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Familii WHERE FamilieID = 6")), 0);
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Familii WHERE FamilieID = 5")), 1);
+    EXPECT_EQ(Id({}), (QList<qint64>{1, 2, 3, 7}));
+}
+
 TEST_P(Lista, StergereaPastreazaFamiliaSiPersoaneleComune) {
     ListaCereri::Sterge(Bd(), 2);
     EXPECT_EQ(Id({}), (QList<qint64>{1, 3}));
