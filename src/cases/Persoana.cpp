@@ -419,14 +419,14 @@ std::optional<qint64> CautaInMembrii(BazaDate& db, CautareMembrii camp, const QS
         model = PrefixLike(text);
         break;
     case CautareMembrii::Prenume:
-        conditie = QStringLiteral("lower(M.Prenume) LIKE ?");
+        conditie = QStringLiteral("M.PrenumeCautare LIKE ?");
         eticheta = QStringLiteral("Prenumele: ");
-        model = PrefixLike(text.toLower());
+        model = PrefixLike(CheieCautare(text));
         break;
     case CautareMembrii::Nume:
-        conditie = QStringLiteral("lower(M.Nume) LIKE ?");
+        conditie = QStringLiteral("M.NumeCautare LIKE ?");
         eticheta = QStringLiteral("Numele: ");
-        model = PrefixLike(text.toLower());
+        model = PrefixLike(CheieCautare(text));
         break;
     }
     Interogare q(db, QStringLiteral("SELECT M.MembruID FROM Membrii M WHERE %1 ESCAPE '\\' ORDER BY M.MembruID LIMIT 1")

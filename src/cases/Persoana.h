@@ -205,6 +205,6 @@ struct RandMembrii {
 std::vector<RandMembrii> ListaMembrii(BazaDate& db);
 
 enum class CautareMembrii { CNP, Prenume, Nume };
-// The first person of the browser's order whose field begins with the text (names case-blind);
+// The first person of the browser's order whose field begins with the text (names by CheieCautare);
 // with none, "Nu s-a gasit " and the field's label are shown.
 std::optional<qint64> CautaInMembrii(BazaDate& db, CautareMembrii camp, const QString& text, Mesaje& m);

@@ -74,6 +74,10 @@ QVariant Text(const char* tabela, const char* camp, const QString& v) {
                          .arg(c->marime));
     return v;
 }
+// What the search key of a name field holds: none for no name, as the name itself.
+QVariant cheieCautare(const QString& nume) {
+    return nume.isEmpty() ? QVariant() : QVariant(CheieCautare(nume));
+}
 QVariant Data(const QDate& d) {
     return d.isValid() ? QVariant(d) : QVariant();
 }
@@ -94,7 +98,8 @@ QString Cifra(bool b) {
 }
 
 // The names of one reference list that the case file uses and the list lacks are added, each
-// with the next key; the comparison ignores case, as the old LIKE did.
+// with the next key; names are compared by their search keys, so that neither case nor
+// diacritics (a cedilla against a comma below, say) make a second entry.
 void ExtindeLista(BazaDate& db, const char* tabela, const char* cheie, bool cuLocalitate, const QStringList& nume) {
     QStringList noi;
     for (const QString& n : nume)
@@ -105,12 +110,12 @@ void ExtindeLista(BazaDate& db, const char* tabela, const char* cheie, bool cuLo
         Interogare q(db, QStringLiteral("SELECT Denumire FROM %1").arg(QLatin1String(tabela)));
         q.Executa();
         while (q.Urmator())
-            cunoscute.insert(q.Valoare(0).toString().toCaseFolded());
+            cunoscute.insert(CheieCautare(q.Valoare(0).toString()));
     }
     std::optional<Interogare> ins;
     qint64 urmatoarea = 0;
     for (const QString& n : noi) {
-        if (cunoscute.contains(n.toCaseFolded())) continue;
+        if (cunoscute.contains(CheieCautare(n))) continue;
         if (!ins) {
             urmatoarea = db.CheieNoua(QLatin1String(tabela), QLatin1String(cheie));
             ins.emplace(db, cuLocalitate
@@ -122,7 +127,7 @@ void ExtindeLista(BazaDate& db, const char* tabela, const char* cheie, bool cuLo
         ins->Leaga(urmatoarea++).Leaga(Text(tabela, "Denumire", n));
         if (cuLocalitate) ins->Leaga(1);
         ins->Executa();
-        cunoscute.insert(n.toCaseFolded());
+        cunoscute.insert(CheieCautare(n));
     }
 }
 
@@ -284,6 +289,8 @@ private:
             const Randuri r = {
                 {"Nume", Text("Membrii", "Nume", p->Nume)},
                 {"Prenume", Text("Membrii", "Prenume", p->Prenume)},
+                {"NumeCautare", cheieCautare(p->Nume)},
+                {"PrenumeCautare", cheieCautare(p->Prenume)},
                 {"CNP", Text("Membrii", "CNP", p->CNP)},
                 {"TipAct", p->TipAct},
                 {"SerieBI", Text("Membrii", "SerieBI", p->SerieBI)},

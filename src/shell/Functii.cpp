@@ -184,6 +184,48 @@ QString PrefixLike(const QString& text) {
     return t + QLatin1Char('%');
 }
 
+namespace {
+
+bool esteSemn(char32_t c) {
+    switch (QChar::category(c)) {
+    case QChar::Mark_NonSpacing:
+    case QChar::Mark_SpacingCombining:
+    case QChar::Mark_Enclosing:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The letter a character is written on ('ș', 'ş' and 's' give 's'), following its canonical
+// decomposition while the rest of it is marks; a syllable that decomposes into letters stays whole.
+char32_t faraSemne(char32_t c) {
+    while (QChar::decompositionTag(c) == QChar::Canonical) {
+        const QList<uint> parti = QChar::decomposition(c).toUcs4();
+        if (parti.isEmpty() || !std::all_of(parti.begin() + 1, parti.end(), esteSemn)) break;
+        c = parti.front();
+    }
+    return c;
+}
+
+} // namespace
+
+QString CheieCautare(const QString& text) {
+    QString r;
+    r.reserve(text.size());
+    for (const char32_t c : text.toUcs4()) {
+        if (esteSemn(c)) continue;
+        const char32_t l = QChar::toLower(faraSemne(c));
+        if (QChar::requiresSurrogates(l)) {
+            r += QChar(QChar::highSurrogate(l));
+            r += QChar(QChar::lowSurrogate(l));
+        } else {
+            r += QChar(char16_t(l));
+        }
+    }
+    return r;
+}
+
 QString FormatData(const QDate& data) {
     return data.isValid() ? data.toString(QStringLiteral("dd.MM.yyyy")) : QString();
 }

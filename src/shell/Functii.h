@@ -48,6 +48,12 @@ QString FormatData(const QDate& data); // dd.mm.yyyy, empty for a missing date
 // A LIKE pattern (with a backslash as its ESCAPE) matching what begins with the text, its wild cards taken literally.
 QString PrefixLike(const QString& text);
 
+// The form in which names are searched and compared: lower case, each letter without its marks, so
+// that "Șerban", "Şerban" (the cedilla of old files) and "serban" give the same text. Each character
+// gives at most one, so the key fits wherever the name fits and the key of a prefix is a prefix of
+// the key.
+QString CheieCautare(const QString& text);
+
 // First character in upper case, the rest as it is.
 QString MajusculaPrima(const QString& s);
 // Every word (after a blank or a hyphen) with its first letter upper case and the rest lower.

@@ -8,13 +8,20 @@
 
 namespace {
 
-const QString SelectLista = QStringLiteral(
-    "SELECT C.CerereID, C.FamilieID, C.NrCerere, C.NrCerere2, C.TipCerere, C.Stare, C.DataCerere, C.VenitTotal, "
-    "C.Cuantum, C.NrMembrii, C.NrCopii, M.Nume, M.Prenume, M.CNP, F.NrDosar2, F.Localitate, F.Strada, F.Nr, F.Sc, "
-    "F.Ap, G.Continut AS StareText "
-    "FROM Cereri C INNER JOIN Membrii M ON C.MembruID1 = M.MembruID "
-    "LEFT JOIN Familii F ON F.FamilieID = C.FamilieID "
-    "LEFT JOIN DateGen G ON G.Tip = 1 AND G.DataID = C.Stare");
+// A request whose titular is gone still shows, with no name, so that it can be opened and deleted.
+// A search by the titular's code or names finds no such request anyway, and joins the titular
+// plainly: the planner then starts from the index of what was typed, which it doesn't do from the
+// outer side of a LEFT JOIN.
+QString SelectLista(bool dupaTitular = false) {
+    return QStringLiteral(
+               "SELECT C.CerereID, C.FamilieID, C.NrCerere, C.NrCerere2, C.TipCerere, C.Stare, C.DataCerere, "
+               "C.VenitTotal, C.Cuantum, C.NrMembrii, C.NrCopii, M.Nume, M.Prenume, M.CNP, F.NrDosar2, F.Localitate, "
+               "F.Strada, F.Nr, F.Sc, F.Ap, G.Continut AS StareText "
+               "FROM Cereri C %1 JOIN Membrii M ON C.MembruID1 = M.MembruID "
+               "LEFT JOIN Familii F ON F.FamilieID = C.FamilieID "
+               "LEFT JOIN DateGen G ON G.Tip = 1 AND G.DataID = C.Stare")
+        .arg(dupaTitular ? QStringLiteral("INNER") : QStringLiteral("LEFT"));
+}
 
 RandCerere randDin(const Interogare& q) {
     RandCerere r;
@@ -35,7 +42,8 @@ RandCerere randDin(const Interogare& q) {
     r.Cuantum = Bani::DinVariant(q.Valoare(8));
     r.NrMembrii = q.Intreg(9);
     r.NrCopii = q.Intreg(10);
-    r.Solicitant = q.Valoare(11).toString() + QLatin1Char(' ') + q.Valoare(12).toString();
+    if (!q.Valoare(11).isNull() || !q.Valoare(12).isNull())
+        r.Solicitant = q.Valoare(11).toString() + QLatin1Char(' ') + q.Valoare(12).toString();
     r.CNP = q.Valoare(13).toString();
     QString adresa = q.Valoare(15).toString();
     const std::pair<int, const char*> parti[] = {{16, ", "}, {17, ", nr. "}, {18, ", sc. "}, {19, ", ap. "}};
@@ -52,7 +60,6 @@ RandCerere randDin(const Interogare& q) {
 std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f) {
     QStringList conditii;
     QVariantList valori;
-    const QString like = db.dialect().EsteSQLite() ? QStringLiteral("LIKE") : QStringLiteral("ILIKE");
     if (!f.CNP.isEmpty()) {
         // A code is digits: the prefix becomes a range that the index on CNP serves.
         static const QRegularExpression cifre(QStringLiteral("^[0-9]+$"));
@@ -72,13 +79,14 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
             valori << PrefixLike(f.CNP);
         }
     }
+    // Names are searched in their stored search keys, by prefix, which their indexes serve.
     if (!f.Nume.isEmpty()) {
-        conditii << QStringLiteral("M.Nume %1 ? ESCAPE '\\'").arg(like);
-        valori << PrefixLike(f.Nume);
+        conditii << QStringLiteral("M.NumeCautare LIKE ? ESCAPE '\\'");
+        valori << PrefixLike(CheieCautare(f.Nume));
     }
     if (!f.Prenume.isEmpty()) {
-        conditii << QStringLiteral("M.Prenume %1 ? ESCAPE '\\'").arg(like);
-        valori << PrefixLike(f.Prenume);
+        conditii << QStringLiteral("M.PrenumeCautare LIKE ? ESCAPE '\\'");
+        valori << PrefixLike(CheieCautare(f.Prenume));
     }
     if (!f.NrCerere.isEmpty()) {
         conditii << QStringLiteral("C.NrCerere = ?");
@@ -96,7 +104,7 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
         conditii << QStringLiteral("C.TipCerere = ?");
         valori << f.LoadTipCerere;
     }
-    QString sql = SelectLista;
+    QString sql = SelectLista(!f.CNP.isEmpty() || !f.Nume.isEmpty() || !f.Prenume.isEmpty());
     if (!conditii.isEmpty()) sql += QStringLiteral(" WHERE ") + conditii.join(QStringLiteral(" AND "));
     // "+ 0" keeps the planner from walking the whole table in NrCerere order to spare a sort,
     // so that a search starts from the index of what the clerk typed.
@@ -113,7 +121,7 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
 }
 
 RandCerere ListaCereri::Citeste(BazaDate& db, qint64 cerereID) {
-    Interogare q(db, SelectLista + QStringLiteral(" WHERE C.CerereID = ?"));
+    Interogare q(db, SelectLista() + QStringLiteral(" WHERE C.CerereID = ?"));
     q.Leaga(cerereID);
     return q.Exista() ? randDin(q) : RandCerere{};
 }
@@ -170,11 +178,14 @@ void ListaCereri::Sterge(BazaDate& db, qint64 cerereID) {
         .Leaga(cerereID)
         .Executa();
 
-    Interogare alte(db, QStringLiteral("SELECT COUNT(CerereID) AS Nr FROM Cereri WHERE FamilieID = ?"));
-    alte.Leaga(familie).Exista();
-    // The family row is found by the request's own key: one family per request, same number.
-    if (alte.Intreg(QStringLiteral("Nr")) <= 1)
-        Interogare(db, QStringLiteral("DELETE FROM Familii WHERE FamilieID = ?")).Leaga(cerereID).Executa();
+    // The request itself may already be gone with its titular: only the other requests count.
+    Interogare alte(db,
+                    QStringLiteral("SELECT COUNT(CerereID) AS Nr FROM Cereri WHERE FamilieID = ? AND CerereID <> ?"));
+    alte.Leaga(familie).Leaga(cerereID).Exista();
+    // By the request's family key, never by its own: in an imported database the two numbers may
+    // differ, and the family that bears the request's number is another household's.
+    if (alte.Intreg(QStringLiteral("Nr")) == 0)
+        Interogare(db, QStringLiteral("DELETE FROM Familii WHERE FamilieID = ?")).Leaga(familie).Executa();
 
     // When both the titular and the family are shared, no cascade reaches the request itself.
     Interogare(db, QStringLiteral("DELETE FROM Cereri WHERE CerereID = ?")).Leaga(cerereID).Executa();

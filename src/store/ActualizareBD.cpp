@@ -2,6 +2,7 @@
 
 #include "shell/Bani.h"
 #include "shell/Eroare.h"
+#include "shell/Functii.h"
 #include "shell/Mesaje.h"
 #include "store/BazaDate.h"
 #include "store/Cataloage.h"
@@ -10,6 +11,7 @@
 #include "store/SeminteDateGen.h"
 
 #include <QSet>
+#include <limits>
 #include <set>
 #include <tuple>
 
@@ -35,6 +37,7 @@ public:
         for (const auto& p : PasiActualizare::Lista())
             if (p.etapa == 3) pasSchema(p);
         completeazaSchema();
+        pasProtejat(QStringLiteral("Membrii"), [&] { cheiCautare(); });
         pasProtejat(QStringLiteral("Adeverinte"), [&] { reparaAdeverinte(); });
         pasProtejat(QStringLiteral("Adeverinte"), [&] { marcheazaCurente(); });
         catalog([&] { return Cataloage::IncarcaListaVenituri(db_, caleBD_, m_, jurnal_); });
@@ -175,6 +178,43 @@ private:
         const int n = RecalculVenitTotal(db_);
         m_.Informatie(QStringLiteral("%1 cereri calculate").arg(n));
         schimbare(QStringLiteral("VenitTotal recalculat pentru %1 cereri").arg(n));
+    }
+
+    // The search keys of the persons written before they existed, or since by an older program,
+    // which knows nothing of them. Read in pages by key, so that no page is read while it changes.
+    void cheiCautare() {
+        if (!ops_.CampExista(QStringLiteral("Membrii"), QStringLiteral("NumeCautare")) ||
+            !ops_.CampExista(QStringLiteral("Membrii"), QStringLiteral("PrenumeCautare")))
+            return;
+        Interogare citeste(db_, QStringLiteral("SELECT MembruID, Nume, Prenume FROM Membrii WHERE MembruID > ? "
+                                               "AND ((NumeCautare IS NULL AND Nume <> '') "
+                                               "OR (PrenumeCautare IS NULL AND Prenume <> '')) "
+                                               "ORDER BY MembruID LIMIT 5000"));
+        Interogare scrie(db_,
+                         QStringLiteral("UPDATE Membrii SET NumeCautare = ?, PrenumeCautare = ? WHERE MembruID = ?"));
+        // As the save writes them: no key for no name.
+        const auto cheie = [](const QVariant& nume) {
+            const QString n = nume.toString();
+            return n.isEmpty() ? QVariant() : QVariant(CheieCautare(n));
+        };
+        struct Rand {
+            qint64 id;
+            QVariant nume, prenume;
+        };
+        qint64 dupa = std::numeric_limits<qint64>::min();
+        qint64 completate = 0;
+        for (;;) {
+            std::vector<Rand> pagina;
+            citeste.Leaga(dupa).Executa();
+            while (citeste.Urmator())
+                pagina.push_back({citeste.Intreg(0), citeste.Valoare(1), citeste.Valoare(2)});
+            if (pagina.empty()) break;
+            for (const Rand& r : pagina)
+                scrie.Leaga(cheie(r.nume)).Leaga(cheie(r.prenume)).Leaga(r.id).Executa();
+            completate += qint64(pagina.size());
+            dupa = pagina.back().id;
+        }
+        if (completate > 0) schimbare(QStringLiteral("Membrii: chei de cautare scrise: %1").arg(completate));
     }
 
     // Certificates whose three dates are all the old engine's zero date are left-overs of an old

@@ -1,5 +1,6 @@
 #include "store/DateReferinta.h"
 
+#include "shell/Functii.h"
 #include "store/BazaDate.h"
 #include "store/Schema.h"
 
@@ -13,17 +14,12 @@ QString camp(int i) {
     return QString::fromLatin1(CampuriPrimarie[size_t(i)]);
 }
 
-// The name's length as both engines count it: in characters, not in UTF-16 units.
-qint64 lungime(const QString& s) {
-    return s.toUcs4().size();
-}
-
-// The keys of the streets named `denumire` up to case. The folding is done here and not by
-// lower() in SQL, which folds only ASCII letters on SQLite and every letter on PostgreSQL; the
-// length test only narrows the rows read.
+// The keys of the streets named `denumire` as AceeasiDenumire compares. The comparison is done
+// here and not in SQL, whose lower() folds only ASCII letters on SQLite and keeps the marks on both
+// engines; the list is short.
 std::vector<qint64> StraziNumite(BazaDate& db, const QString& denumire) {
-    Interogare q(db, QStringLiteral("SELECT StradaID, Denumire FROM Strazi WHERE length(Denumire) = ?"));
-    q.Leaga(lungime(denumire)).Executa();
+    Interogare q(db, QStringLiteral("SELECT StradaID, Denumire FROM Strazi"));
+    q.Executa();
     std::vector<qint64> r;
     while (q.Urmator())
         if (AceeasiDenumire(q.Text(QStringLiteral("Denumire")), denumire))
@@ -52,7 +48,7 @@ QStringList Denumiri(BazaDate& db, const QString& sql) {
 } // namespace
 
 bool AceeasiDenumire(const QString& a, const QString& b) {
-    return a.compare(b, Qt::CaseInsensitive) == 0;
+    return CheieCautare(a) == CheieCautare(b);
 }
 
 // ---- The town hall ----
@@ -165,8 +161,8 @@ std::optional<QString> VerificaStrada(BazaDate& db, const QString& denumire, std
 }
 
 bool StradaFolosita(BazaDate& db, const QString& denumire) {
-    Interogare q(db, QStringLiteral("SELECT DISTINCT Strada FROM Familii WHERE length(Strada) = ?"));
-    q.Leaga(lungime(denumire)).Executa();
+    Interogare q(db, QStringLiteral("SELECT DISTINCT Strada FROM Familii WHERE Strada IS NOT NULL"));
+    q.Executa();
     while (q.Urmator())
         if (AceeasiDenumire(q.Text(QStringLiteral("Strada")), denumire)) return true;
     return false;

@@ -73,8 +73,8 @@ struct Strada {
 std::vector<Strada> Strazi(BazaDate& db);
 std::optional<Strada> CitesteStrada(BazaDate& db, qint64 stradaID);
 
-// A blank name, then a name that another street already has up to case (no wild cards, blanks
-// kept). `editata` is the street being changed, none when adding.
+// A blank name, then a name that another street already has (AceeasiDenumire: no wild cards,
+// blanks kept). `editata` is the street being changed, none when adding.
 std::optional<QString> VerificaStrada(BazaDate& db, const QString& denumire, std::optional<qint64> editata);
 
 // A family's address names the street, compared as VerificaStrada compares.
@@ -106,7 +106,8 @@ Motiv AdaugaMotiv(BazaDate& db, Motiv m);
 bool ModificaMotiv(BazaDate& db, const Motiv& m);
 bool StergeMotiv(BazaDate& db, qint64 motivID);
 
-// The same name up to case, as the duplicate and use tests compare.
+// The same name up to case and diacritics (a cedilla and a comma below are one letter), as the
+// duplicate and use tests compare; blanks count.
 bool AceeasiDenumire(const QString& a, const QString& b);
 
 } // namespace DateReferinta

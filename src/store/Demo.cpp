@@ -49,7 +49,7 @@ Generator::Generator(BazaDate& db, quint64 samanta, const QDate& azi)
       familii_(db, insert("Familii", {"FamilieID", "Judet", "Localitate", "Strada", "Nr", "Sc", "Ap", "NrDosar2",
                                       "NrDosar", "Bloc", "Etaj", "Telefon", "Mobil"})),
       membrii_(db, insert("Membrii", {"MembruID", "Nume", "Prenume", "CNP", "SerieBI", "NrBI", "TipAct", "Eliberat",
-                                      "DataElib", "Dizabilitate"})),
+                                      "DataElib", "Dizabilitate", "NumeCautare", "PrenumeCautare"})),
       cereri_(db, insert("Cereri", {"CerereID", "FamilieID", "NrCerere", "DataCerere", "MembruID1", "MembruID2",
                                     "Stare", "NrMembrii", "NrCopii", "Cuantum", "MotivStare", "DataStare",
                                     "VenitTotal", "VenitpeMembru", "ReprLegal", "ModPlata", "NumeTitularCont", "Cont",

@@ -119,9 +119,12 @@ void OperatiiSchema::CreazaRelatie(const RelatieSchema& r) {
 
 void OperatiiSchema::CreazaIndex(const IndexSchema& ix) {
     QStringList campuri = ix.campuri;
-    if (ix.faraMajuscule && db_.dialect().EsteSQLite())
+    // SQLite's LIKE ignores ASCII case and so takes an index in NOCASE order; PostgreSQL's takes
+    // one in plain character order whatever the database's collation.
+    if (ix.cautarePrefix)
         for (QString& c : campuri)
-            c += QStringLiteral(" COLLATE NOCASE");
+            c +=
+                db_.dialect().EsteSQLite() ? QStringLiteral(" COLLATE NOCASE") : QStringLiteral(" varchar_pattern_ops");
     db_.Executa(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2 (%3)")
                     .arg(ix.Nume(), ix.tabela, campuri.join(QStringLiteral(", "))));
 }

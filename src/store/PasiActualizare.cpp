@@ -55,7 +55,7 @@ add CereriMembrii.LocScoala; add CereriMembrii.Repetent; add CereriMembrii.Aband
 CereriMembrii.Peste20abs; create table ListaBife; add ListaBife.Denumire; add ListaBife.Valoare; add
 ListaBife.Tip; add ListaBife.Cod; create table BifeText; create relation CereriBifeText; add BifeText.NrBifa;
 add BifeText.Valoare; create table LocScolare; add LocScolare.Denumire; create table ListaActe; add
-ListaActe.Denumire; add Adeverinte.AdvCurenta
+ListaActe.Denumire; add Adeverinte.AdvCurenta; add Membrii.NumeCautare; add Membrii.PrenumeCautare
 )";
 
 void adauga(std::vector<PasActualizare>& pasi, const char* text, int etapa) {

@@ -61,7 +61,8 @@ std::vector<TabelaSchema> construiesteTabele() {
                  true});
     t.push_back({"Membrii",
                  {K("MembruID"), X("Nume", 50), X("Prenume", 50), X("CNP", 13), X("SerieBI", 10), X("NrBI", 15),
-                  B("TipAct"), X("Eliberat", 30), D("DataElib"), X("Politie", 50), B("Dizabilitate")},
+                  B("TipAct"), X("Eliberat", 30), D("DataElib"), X("Politie", 50), B("Dizabilitate"),
+                  X("NumeCautare", 50), X("PrenumeCautare", 50)},
                  chei({"MembruID"}),
                  true});
     t.push_back({"Cereri",
@@ -249,7 +250,7 @@ std::vector<IndexSchema> construiesteIndexuri() {
     auto ix = [](const char* t, std::initializer_list<const char*> c) {
         return IndexSchema{QString::fromLatin1(t), chei(c)};
     };
-    auto ci = [](const char* t, const char* c) { return IndexSchema{QString::fromLatin1(t), chei({c}), true}; };
+    auto prefix = [](const char* t, const char* c) { return IndexSchema{QString::fromLatin1(t), chei({c}), true}; };
     return {
         ix("Familii", {"NrDosar"}),
         ix("Cereri", {"FamilieID"}),
@@ -259,8 +260,8 @@ std::vector<IndexSchema> construiesteIndexuri() {
         ix("Cereri", {"Stare"}),
         ix("CereriMembrii", {"MembruID"}),
         ix("Membrii", {"CNP"}),
-        ci("Membrii", "Nume"),
-        ci("Membrii", "Prenume"),
+        prefix("Membrii", "NumeCautare"),
+        prefix("Membrii", "PrenumeCautare"),
         ix("DateGen", {"Tip", "DataID"}),
         ix("DateGen", {"Denumire"}),
         ix("Dispozitii", {"CerereID"}),

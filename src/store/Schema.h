@@ -31,11 +31,11 @@ struct RelatieSchema {
 struct IndexSchema {
     QString tabela;
     QStringList campuri;
-    // Names searched by prefix whatever the case: on SQLite the index then serves LIKE.
-    bool faraMajuscule = false;
+    // Searched by a prefix LIKE: the index is built so that each engine serves LIKE with it.
+    bool cautarePrefix = false;
     QString Nume() const {
         return QStringLiteral("ix_%1_%2%3")
-            .arg(tabela, campuri.join(QLatin1Char('_')), faraMajuscule ? QStringLiteral("_ci") : QString())
+            .arg(tabela, campuri.join(QLatin1Char('_')), cautarePrefix ? QStringLiteral("_like") : QString())
             .toLower();
     }
 };

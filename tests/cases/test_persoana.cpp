@@ -837,13 +837,14 @@ protected:
         } persoane[] = {
             {1, "POPESCU", "ION", CnpTitular, 2},    {2, "POPA", "MARIA", CnpPartener, 1},
             {3, "IONESCU", "ANA", CnpCopil, 0},      {4, "POP_A", "ANDREI", CnpCunoscut, 4},
-            {5, "O'NEILL", "DAN", CnpFaraCerere, 2},
+            {5, "O'NEILL", "DAN", CnpFaraCerere, 2}, {6, "\u015ETEFAN", "\u0162IC\u0102", T("6140203400022"), 2},
         };
         for (const auto& p : persoane)
             ExecutaCu(db,
-                      T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP, TipAct, SerieBI, NrBI) "
-                        "VALUES (?, ?, ?, ?, ?, ?, ?)"),
-                      p.id, T(p.nume), T(p.prenume), p.cnp, p.tipAct, T("S%1").arg(p.id), T("N%1").arg(p.id));
+                      T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP, TipAct, SerieBI, NrBI, NumeCautare, "
+                        "PrenumeCautare) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+                      p.id, T(p.nume), T(p.prenume), p.cnp, p.tipAct, T("S%1").arg(p.id), T("N%1").arg(p.id),
+                      CheieCautare(T(p.nume)), CheieCautare(T(p.prenume)));
         return db;
     }
 };
@@ -851,7 +852,7 @@ protected:
 TEST_P(MembriiBaza, ListaCuActulScurt) {
     BazaDate& db = Baza();
     const std::vector<RandMembrii> r = ListaMembrii(db);
-    ASSERT_EQ(r.size(), 5u);
+    ASSERT_EQ(r.size(), 6u);
     EXPECT_EQ(r[0].MembruID, 1);
     EXPECT_EQ(r[0].Nume, T("POPESCU"));
     EXPECT_EQ(r[0].Prenume, T("ION"));
@@ -883,6 +884,12 @@ TEST_P(MembriiBaza, CautareaGasestePrimulCareIncepeCuTextul) {
         {CautareMembrii::Prenume, T("an"), 3},
         {CautareMembrii::Prenume, T("ANDREI"), 4},
         {CautareMembrii::Prenume, T("Ionel"), std::nullopt, "Nu s-a gasit Prenumele: Ionel"},
+        {CautareMembrii::Nume, T("stefan"), 6},
+        {CautareMembrii::Nume, T("\u0218tef"), 6},
+        {CautareMembrii::Nume, T("\u0219TEFANESCU"), std::nullopt, "Nu s-a gasit Numele: \u0219TEFANESCU"},
+        {CautareMembrii::Prenume, T("tica"), 6},
+        {CautareMembrii::Prenume, T("\u021Bic\u0103"), 6},
+        {CautareMembrii::Prenume, T("Tic\u00E2"), 6},
         {CautareMembrii::CNP, CnpCopil.left(7), 3},
         {CautareMembrii::CNP, CnpPartener, 2},
         {CautareMembrii::CNP, T("9"), std::nullopt, "Nu s-a gasit CNP-ul: 9"},

@@ -138,7 +138,7 @@ TEST_P(Salvare, DosarulSalvatSeCitesteInapoiCamp_cuCamp) {
 }
 
 // The names typed into a case file that the reference lists lack are added once each, whatever
-// their letters' case; the street of residence and a blank name add nothing.
+// their letters' case and diacritics; the street of residence and a blank name add nothing.
 TEST_P(Salvare, ListeleDeReferintaCrescCuNumeleNoi) {
     BazaNoua();
     Dosar d = DosarComplet(Bd());
@@ -146,12 +146,16 @@ TEST_P(Salvare, ListeleDeReferintaCrescCuNumeleNoi) {
         Tranzactie t(Bd());
         ExecutaCu(Bd(), QStringLiteral("INSERT INTO Scoli (ScoalaID, Denumire, LocalitateID) VALUES (7, ?, 2)"),
                   QStringLiteral("LICEUL TEORETIC"));
+        // An old file's cedillas; the titular's issuer is typed with commas below, another's with no diacritics.
+        ExecutaCu(Bd(), QStringLiteral("INSERT INTO Politii (PolitiaID, Denumire, LocalitateID) VALUES (3, ?, 2)"),
+                  QString::fromUtf8("SPCLEP Br\u0103ne\u015Fti"));
         t.Confirma();
     }
+    (*d.stare.MatriceMembri)[0].Eliberat = QString::fromUtf8("SPCLEP Br\u0103ne\u0219ti");
     (*d.stare.MatriceMembri)[1].Eliberat = QStringLiteral("   ");
     ASSERT_EQ(Salveaza(d).stare, RezultatSalvare::Stare::Salvata);
     EXPECT_EQ(Denumiri("Strazi"), QStringList{QStringLiteral("Strada Morii")});
-    EXPECT_EQ(Denumiri("Politii"), QStringList{QStringLiteral("SPCLEP Branesti")});
+    EXPECT_EQ(Denumiri("Politii"), QStringList{QString::fromUtf8("SPCLEP Br\u0103ne\u015Fti")});
     EXPECT_EQ(Denumiri("Scoli"),
               (QStringList{QStringLiteral("LICEUL TEORETIC"), QStringLiteral("Scoala Gimnaziala nr. 1")}));
     EXPECT_EQ(Denumiri("LocScolare"), (QStringList{QStringLiteral("Branesti"), QStringLiteral("Buftea")}));

@@ -1,3 +1,4 @@
+#include "cases/DateCerere.h"
 #include "shell/ListaCereri.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
@@ -87,6 +88,89 @@ TEST_P(Lista, FiltreleCautaDupaInceput) {
     for (const auto& c : cazuri)
         EXPECT_EQ(Id(c.f), c.id) << c.f.CNP.toStdString() << "|" << c.f.Nume.toStdString() << "|"
                                  << c.f.Prenume.toStdString() << "|" << c.f.NrCerere.toStdString();
+}
+
+// Names are found whatever their case and diacritics: a comma below, an old file's cedilla, or none.
+TEST_P(Lista, NumeleSeGasescFaraMajusculeSiDiacritice) {
+    const struct {
+        qint64 id;
+        const char* nume;
+        const char* prenume;
+    } titulari[] = {
+        {4, "\u0218erban", "Ana"},             // Șerban
+        {5, "\u015EERBAN", "\u015Etefan"},     // ŞERBAN Ştefan, cedillas
+        {6, "\u021A\u00EErlea", "Ionu\u021B"}, // Țîrlea Ionuț
+        {7, "\u00CErimia", "\u0102urel"},      // Îrimia Ăurel
+        {8, "\u00C2rdeleanu", "\u0162icu"},    // Ârdeleanu Ţicu
+    };
+    for (const auto& t : titulari) {
+        CerereTest c;
+        c.cerereID = t.id;
+        c.nrCerere = 20 + t.id;
+        c.persoane = {{t.id + 2, QString::fromUtf8(t.nume), QString::fromUtf8(t.prenume), {}, 1}};
+        AdaugaCerereTest(Bd(), c);
+    }
+    const struct {
+        const char* nume;
+        const char* prenume;
+        QList<qint64> id;
+    } cazuri[] = {
+        {"serban", "", {4, 5}},
+        {"\u0218ERB", "", {4, 5}},
+        {"\u015Ferban", "", {4, 5}},
+        {"S\u0327er", "", {4, 5}}, // a cedilla typed as a mark after its letter
+        {"serbanescu", "", {}},
+        {"", "STEFAN", {5}},
+        {"", "\u0219tefan", {5}},
+        {"tirlea", "", {6}},
+        {"\u0162\u00CER", "", {6}},
+        {"", "ionut", {6}},
+        {"", "ion", {1, 6}},
+        {"i", "", {3, 7}},
+        {"\u00EE", "", {3, 7}},
+        {"", "aurel", {7}},
+        {"ar", "", {8}},
+        {"\u0103r", "", {8}},
+        {"", "\u021B", {8}},
+        {"s%", "", {}},
+    };
+    for (const auto& c : cazuri) {
+        FiltruCautare f;
+        f.Nume = QString::fromUtf8(c.nume);
+        f.Prenume = QString::fromUtf8(c.prenume);
+        f.OrdineNumerica = true;
+        EXPECT_EQ(Id(f), c.id) << c.nume << "|" << c.prenume;
+    }
+}
+
+// A titular removed by an older program or an import leaves a row with no name, which opens and deletes.
+TEST_P(Lista, CerereaFaraTitularSeVedeSiSeSterge) {
+    ExecutaCu(Bd(), QStringLiteral("UPDATE Cereri SET MembruID1 = NULL WHERE CerereID = 3"));
+    ExecutaCu(Bd(), QStringLiteral("DELETE FROM Membrii WHERE MembruID = 5"));
+    EXPECT_EQ(Id({}), (QList<qint64>{1, 2, 3}));
+    const RandCerere r = ListaCereri::Citeste(Bd(), 3);
+    EXPECT_EQ(r.CerereID, 3);
+    EXPECT_EQ(r.Solicitant, QString());
+    EXPECT_EQ(r.Adresa, QStringLiteral("Cernica, nr. 12"));
+
+    const CerereIncarcata c = IncarcaCerere(Bd(), 3, 3, 2024, mesaje);
+    EXPECT_TRUE(c.Gasita);
+    EXPECT_FALSE(c.Stare.MatriceMembri);
+
+    ListaCereri::Sterge(Bd(), 3);
+    EXPECT_EQ(Id({}), (QList<qint64>{1, 2}));
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Familii WHERE FamilieID = 3")), 0);
+}
+
+// The family goes by the request's family key: here request 5 of family 6, while family 5 is
+// another household's.
+TEST_P(Lista, StergereaIaFamiliaCereriiNuPeCeaCuNumarulEi) {
+    AdaugaCerereTest(Bd(), {5, 6, 40, 2, 1, {}, {}, {{6, "Stan", "Ion", {}, 1}}});
+    AdaugaCerereTest(Bd(), {7, 5, 41, 2, 1, {}, {}, {{7, "Dinu", "Ana", {}, 1}}});
+    ListaCereri::Sterge(Bd(), 5);
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Familii WHERE FamilieID = 6")), 0);
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Familii WHERE FamilieID = 5")), 1);
+    EXPECT_EQ(Id({}), (QList<qint64>{1, 2, 3, 7}));
 }
 
 TEST_P(Lista, StergereaPastreazaFamiliaSiPersoaneleComune) {

@@ -26,8 +26,9 @@ protected:
         Tranzactie t(db);
         db.Executa(
             QStringLiteral("INSERT INTO Familii (FamilieID, Localitate) VALUES (1, 'Brănești'), (2, 'Brănești')"));
-        db.Executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, CNP) VALUES (1, 'Popa', '2850315400123'), "
-                                  "(2, 'Popa', '5150601400120'), (3, 'Ene', '1800101400121')"));
+        db.Executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES "
+                                  "(1, 'Șerban', 'Ana', '2850315400123'), (2, 'ŞERBAN', NULL, '5150601400120'), "
+                                  "(3, 'Ene', 'Ţicu', '1800101400121')"));
         db.Executa(QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, NrCerere, MembruID1, Stare, "
                                   "VenitPermanent, VenitVanzari, VenitAlte) "
                                   "VALUES (1, 1, 10, 1, 2, 1200.5, 99, 300.25), (2, 2, 11, 3, 1, NULL, NULL, 80)"));
@@ -41,6 +42,16 @@ protected:
             "2), "
             "('GOSPODARIE', 26, 3, 'DE STERS', 3), ('ISR', 0, 1, '660', 0), ('TIPACT', 30, 1, 'Somaj', 1)"));
         t.Confirma();
+    }
+
+    // Each person's search keys, "name|first name", in key order.
+    QStringList Chei() {
+        Interogare q(Bd(), QStringLiteral("SELECT NumeCautare, PrenumeCautare FROM Membrii ORDER BY MembruID"));
+        q.Executa();
+        QStringList r;
+        while (q.Urmator())
+            r << q.Valoare(0).toString() + QLatin1Char('|') + q.Valoare(1).toString();
+        return r;
     }
 
     QString Continut(int tip, int dataID) {
@@ -127,6 +138,23 @@ TEST_P(Actualizare, ADouaRulareNuSchimbaNimic) {
     // and after reopening, as at the next start
     Redeschide();
     EXPECT_EQ(Ruleaza().schimbari, 0);
+}
+
+// The persons of an older file get their search keys, and so do those that an older program
+// writes after the upgrade.
+TEST_P(Actualizare, PersoaneleExistentePrimescCheiDeCautare) {
+    UmpleBazaVeche();
+    CopiazaCataloage();
+    ASSERT_TRUE(Ruleaza().Reusit());
+    EXPECT_EQ(Chei(),
+              (QStringList{QStringLiteral("serban|ana"), QStringLiteral("serban|"), QStringLiteral("ene|ticu")}));
+
+    Bd().Executa(
+        QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume) VALUES (4, 'Ăvram', 'Ștefan'), (5, '', NULL)"));
+    QStringList linii;
+    ASSERT_TRUE(Ruleaza(&linii).Reusit());
+    EXPECT_EQ(linii, QStringList{QStringLiteral("Membrii: chei de cautare scrise: 1")});
+    EXPECT_EQ(Chei().mid(3), (QStringList{QStringLiteral("avram|stefan"), QStringLiteral("|")}));
 }
 
 TEST_P(Actualizare, CorectiileRevinLaFiecarePornire) {

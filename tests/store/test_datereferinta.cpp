@@ -74,8 +74,9 @@ TEST_P(Referinte, OStradaFolositaDeOFamilieNuSePoateStergePanaNuSeSchimbaAdresa)
         const char* nume;
         bool folosita;
     } cazuri[] = {
-        {"Garii", true},  {"garii", true}, {"ȘCOLII", true}, {"Garii ", false}, {" Garii", false},    {"Gar%", false},
-        {"Gar_i", false}, {"Gar*", false}, {"Morii", false}, {"Morii ", true},  {"Sc. Garii", false},
+        {"Garii", true},      {"garii", true},  {"ȘCOLII", true}, {"Garii ", false},  {" Garii", false},
+        {"Gar%", false},      {"Gar_i", false}, {"Gar*", false},  {"Morii", false},   {"Morii ", true},
+        {"Sc. Garii", false}, {"ŞCOLII", true}, {"Scolii", true}, {"Scolile", false},
     };
     for (const auto& c : cazuri)
         EXPECT_EQ(StradaFolosita(Bd(), QString::fromUtf8(c.nume)), c.folosita) << c.nume;
@@ -88,7 +89,7 @@ TEST_P(Referinte, OStradaFolositaDeOFamilieNuSePoateStergePanaNuSeSchimbaAdresa)
     EXPECT_TRUE(CitesteStrada(Bd(), 2).has_value());
 }
 
-TEST_P(Referinte, NumeleStraziiEsteUnicPanaLaMajuscule) {
+TEST_P(Referinte, NumeleStraziiEsteUnicPanaLaMajusculeSiDiacritice) {
     StradaDirecta(1, QStringLiteral("Garii"));
     StradaDirecta(2, QStringLiteral("Ștefan cel Mare"));
     StradaDirecta(3, QStringLiteral("O'Neil"));
@@ -113,6 +114,10 @@ TEST_P(Referinte, NumeleStraziiEsteUnicPanaLaMajuscule) {
         {"Gar*", std::nullopt, std::nullopt},
         {"ȘTEFAN CEL MARE", std::nullopt, exista},
         {"ștefan cel mare", 2, std::nullopt},
+        {"Ştefan cel Mare", std::nullopt, exista}, // an old file's cedilla
+        {"Stefan cel Mare", std::nullopt, exista},
+        {"Stefan cel Mare", 2, std::nullopt},
+        {"Stefan cel Mare ", std::nullopt, std::nullopt},
         {"o'neil", std::nullopt, exista},
         {"O'Neil", 3, std::nullopt},
         {"O''Neil", std::nullopt, std::nullopt},

@@ -150,13 +150,13 @@ TEST(SchemaSiActualizare, FiecarePasNumesteCeExistaInSchema) {
 
 TEST(SchemaSiActualizare, ListaAreOrdineaPasilor) {
     const auto& l = PasiActualizare::Lista();
-    ASSERT_EQ(l.size(), 174u);
+    ASSERT_EQ(l.size(), 176u);
     EXPECT_EQ(l.front().camp, QStringLiteral("NrDosar2"));
     EXPECT_EQ(l[43].camp, QStringLiteral("Bife"));
     EXPECT_EQ(l[43].etapa, 1);
     EXPECT_EQ(l[44].camp, QStringLiteral("TipCerere"));
     EXPECT_EQ(l[44].etapa, 3);
-    EXPECT_EQ(l.back().camp, QStringLiteral("AdvCurenta"));
+    EXPECT_EQ(l.back().camp, QStringLiteral("PrenumeCautare"));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/Functii.h"
 #include "store/BazaDate.h"
 #include "support/SqlTest.h"
 
@@ -42,8 +43,10 @@ inline void AdaugaCerereTest(BazaDate& db, const CerereTest& c) {
         Interogare exista(db, QStringLiteral("SELECT 1 FROM Membrii WHERE MembruID = ?"));
         exista.Leaga(p.membruID);
         if (!exista.Exista())
-            ExecutaCu(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"),
-                      p.membruID, p.nume, p.prenume, p.cnp);
+            ExecutaCu(db,
+                      QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP, NumeCautare, PrenumeCautare) "
+                                     "VALUES (?, ?, ?, ?, ?, ?)"),
+                      p.membruID, p.nume, p.prenume, p.cnp, CheieCautare(p.nume), CheieCautare(p.prenume));
         ExecutaCu(db, QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID) VALUES (?, ?, ?)"),
                   c.cerereID, p.membruID, p.rudenie);
     }

@@ -179,8 +179,10 @@ TEST_P(FormMembrii, ListaSiCautarea) {
     }
 
     // A person added after the list was read is found and shown.
-    ExecutaCu(Bd(), T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, ?, ?)"), 20, T("Zamfir"),
-              T("Ion"), T("1900101400019"));
+    ExecutaCu(Bd(),
+              T("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP, NumeCautare, PrenumeCautare) "
+                "VALUES (?, ?, ?, ?, ?, ?)"),
+              20, T("Zamfir"), T("Ion"), T("1900101400019"), T("zamfir"), T("ion"));
     f.Txt[2]->setText(T("Zam"));
     f.Txt_KeyPress(2);
     EXPECT_EQ(Selectat(f), T("20"));
