@@ -5,16 +5,13 @@
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
 #include "support/DosarTest.h"
+#include "support/Texte.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 using namespace Adeverinte;
-
-QString T(const char* s) {
-    return QString::fromUtf8(s);
-}
 
 const TipuriAdeverinte
     Tipuri({{1, T("AJOFM (somaj)")}, {2, T("Finante")}, {3, T("de la scoala (pt elevi)")}, {6, T("venit net")}});

@@ -3,19 +3,13 @@
 #include "shell/Functii.h"
 #include "support/BazaTest.h"
 #include "support/SqlTest.h"
+#include "support/Texte.h"
 
 #include <QStringList>
 #include <functional>
 #include <gtest/gtest.h>
 
 namespace {
-
-QString T(const char* s) {
-    return QString::fromUtf8(s);
-}
-Bani B(const char* s) {
-    return *Bani::DinText(T(s));
-}
 
 // The working month of every case: December 2014.
 constexpr int Luna = 12, An = 2014;

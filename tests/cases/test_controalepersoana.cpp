@@ -2,16 +2,13 @@
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
 #include "support/SqlTest.h"
+#include "support/Texte.h"
 
 #include <gtest/gtest.h>
 
 using namespace ElemPersoana;
 
 namespace {
-
-QString T(const char* s) {
-    return QString::fromUtf8(s);
-}
 
 QStringList Texte(const std::vector<AlegereCombo>& l) {
     QStringList t;

@@ -25,7 +25,7 @@ const QString MesajLuna = QStringLiteral("Luna dispozitiei nu poate fi mai mica 
 const QString FaraLuna = QStringLiteral("Selectati o luna corecta!");
 const QString FaraAn = QStringLiteral("Nu puteti salva datele inainte de a introduce Anul");
 
-std::optional<Bani> Lei(const char* s) {
+std::optional<Bani> B(const char* s) {
     return Bani::DinText(QString::fromLatin1(s));
 }
 
@@ -75,7 +75,7 @@ TEST(SumeDispozitie, CaLeTasteazaFunctionarii) {
     };
     for (const auto& c : cazuri) {
         const Bani b = Dispozitii::SumaTastata(QString::fromLatin1(c.text));
-        EXPECT_EQ(b, *Lei(c.suma)) << c.text;
+        EXPECT_EQ(b, *B(c.suma)) << c.text;
         EXPECT_EQ(Dispozitii::TextSuma(b), QString::fromLatin1(c.suma)) << c.text;
     }
     EXPECT_THROW(Dispozitii::SumaTastata(QStringLiteral("1e300")), Eroare);
@@ -141,9 +141,9 @@ TEST_P(DispozitiiBaza, DeschidereaPropuneTipulDupaStareaCererii) {
 }
 
 TEST_P(DispozitiiBaza, DeschidereaPentruAdaugareIaDinCerereSiDinUltimaDispozitie) {
-    CerereDisp acordata{.id = 1, .nrCerere = 17, .stare = 2, .cuantum = Lei("172.5")};
-    CerereDisp modificata{.id = 2, .nrCerere = 18, .stare = 7, .cuantum = Lei("210")};
-    CerereDisp titularNou{.id = 3, .nrCerere = 19, .stare = 8, .cuantum = Lei("99.25")};
+    CerereDisp acordata{.id = 1, .nrCerere = 17, .stare = 2, .cuantum = B("172.5")};
+    CerereDisp modificata{.id = 2, .nrCerere = 18, .stare = 7, .cuantum = B("210")};
+    CerereDisp titularNou{.id = 3, .nrCerere = 19, .stare = 8, .cuantum = B("99.25")};
     CerereDisp faraDate{.id = 4, .nrCerere = 20, .stare = 1, .cuantum = std::nullopt};
     faraDate.dataStare = QDate();
     faraDate.motivStare.clear();
@@ -253,7 +253,7 @@ TEST_P(DispozitiiBaza, SalvareaScrieCampurileCaLeTasteazaFunctionarii) {
     EXPECT_EQ(r.luna, QStringLiteral("4"));
     EXPECT_EQ(r.an, QStringLiteral("2024"));
     EXPECT_EQ(r.actiune, QStringLiteral("1"));
-    EXPECT_EQ(r.cuantum, Lei("12"));
+    EXPECT_EQ(r.cuantum, B("12"));
     EXPECT_EQ(r.cuantumVechi, std::nullopt);
     EXPECT_EQ(r.motiv, QStringLiteral("Indeplineste conditiile"));
 
@@ -267,7 +267,7 @@ TEST_P(DispozitiiBaza, SalvareaScrieCampurileCaLeTasteazaFunctionarii) {
     r = CitesteDisp(Bd(), 41);
     EXPECT_EQ(r.nrDisp, QStringLiteral("12"));
     EXPECT_EQ(r.actiune, QStringLiteral("3"));
-    EXPECT_EQ(r.cuantum, Lei("164"));
+    EXPECT_EQ(r.cuantum, B("164"));
     EXPECT_EQ(r.motiv, QString());
 
     // A number that does not fit its field is refused and nothing is written.
@@ -284,8 +284,8 @@ TEST_P(DispozitiiBaza, SchimbareaPastreazaSumaVecheSiCandSeSchimbaTipul) {
     d.SumaNoua = QStringLiteral("164,90");
     const qint64 id = Dispozitii::Salveaza(Bd(), d, ModDispozitie::Adaugare);
     RandDisp r = CitesteDisp(Bd(), id);
-    EXPECT_EQ(r.cuantumVechi, Lei("150"));
-    EXPECT_EQ(r.cuantum, Lei("164"));
+    EXPECT_EQ(r.cuantumVechi, B("150"));
+    EXPECT_EQ(r.cuantum, B("164"));
 
     // Opened again: both amounts where they were typed.
     auto e = Dispozitii::DeschideModificare(Bd(), mesaje, id);
@@ -307,8 +307,8 @@ TEST_P(DispozitiiBaza, SchimbareaPastreazaSumaVecheSiCandSeSchimbaTipul) {
     ASSERT_EQ(Dispozitii::Salveaza(Bd(), e->d, ModDispozitie::Modificare), id);
     r = CitesteDisp(Bd(), id);
     EXPECT_EQ(r.actiune, QStringLiteral("3"));
-    EXPECT_EQ(r.cuantum, Lei("99.5"));
-    EXPECT_EQ(r.cuantumVechi, Lei("150"));
+    EXPECT_EQ(r.cuantum, B("99.5"));
+    EXPECT_EQ(r.cuantumVechi, B("150"));
     EXPECT_EQ(r.dinData, QDate(2025, 6, 1));
     EXPECT_EQ(r.luna, QStringLiteral("6"));
     EXPECT_EQ(r.an, QStringLiteral("2025"));

@@ -32,8 +32,8 @@ protected:
         DateCerere d;
         d.cboCerere[3] = {1, TextTipCerere(1)};
         d.dtpData[1] = Decembrie2014;
-        d.txtCerere[12] = Utf(venitTotal);
-        d.txtCerere[15] = Utf(nrMembrii);
+        d.txtCerere[12] = T(venitTotal);
+        d.txtCerere[15] = T(nrMembrii);
         d.txtCerere[14] = QStringLiteral("-");
         d.txtCerere[16] = QStringLiteral("-");
         return d;
@@ -115,12 +115,12 @@ TEST_P(EditorCerereTest, OSchimbareDeTextRecalculeazaCeTrebuie) {
         SCOPED_TRACE(c.nume);
         CalculEditor calc = Calcul();
         DateCerere d = Boxe(c.venitTotal, c.nrMembrii);
-        d.txtCerere[13] = Utf(c.inainte);
+        d.txtCerere[13] = T(c.inainte);
         calc.TextSchimbat(d, c.element, s, mesaje);
-        EXPECT_EQ(d.txtCerere[13], Utf(c.venitPeMembru));
-        EXPECT_EQ(d.txtCerere[14], Utf(c.cuantum));
-        EXPECT_EQ(d.txtCerere[16], Utf(c.nrCopii));
-        EXPECT_EQ(d.txtCerere[12], Utf(c.venitTotal)) << "the clerk's box is never rewritten";
+        EXPECT_EQ(d.txtCerere[13], T(c.venitPeMembru));
+        EXPECT_EQ(d.txtCerere[14], T(c.cuantum));
+        EXPECT_EQ(d.txtCerere[16], T(c.nrCopii));
+        EXPECT_EQ(d.txtCerere[12], T(c.venitTotal)) << "the clerk's box is never rewritten";
     }
     EXPECT_TRUE(mesaje.mesaje.empty()) << mesaje.Texte().join(QLatin1Char('|')).toStdString();
 }
@@ -176,9 +176,9 @@ TEST_P(EditorCerereTest, DupaVenituriBunuriSiListaPersoanelor) {
     CalculEditor calc = Calcul();
     StareCerere s;
     s.MatriceMembri = std::vector<MembruCerere>{Om(1), Om(3), Om(3)};
-    s.Venituri[0] = Lei("250.25");
-    s.Venituri[40] = Lei("50");
-    s.Venituri[78] = Lei("0.0001");
+    s.Venituri[0] = B("250.25");
+    s.Venituri[40] = B("50");
+    s.Venituri[78] = B("0.0001");
     DateCerere d = Boxe("9999", "3");
     calc.DupaVenituri(d, s, mesaje);
     EXPECT_EQ(d.txtCerere[12], QStringLiteral("300.2501"));
@@ -195,7 +195,7 @@ TEST_P(EditorCerereTest, DupaVenituriBunuriSiListaPersoanelor) {
     EXPECT_TRUE(mesaje.mesaje.empty());
 
     // The goods dialog with a list out of step: told, and the list's count is written.
-    s.Bunuri[1] = Lei("20"); // 20 x 150 = 3000 EUR, above the limit of 2500
+    s.Bunuri[1] = B("20"); // 20 x 150 = 3000 EUR, above the limit of 2500
     calc.DupaBunuri(d, s, 5, mesaje);
     EXPECT_EQ(d.txtCerere[15], QStringLiteral("5"));
     EXPECT_EQ(d.txtCerere[13], QStringLiteral("60.05002"));

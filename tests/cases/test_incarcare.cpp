@@ -198,11 +198,11 @@ TEST_P(Incarcare, ValorileDinTabeleAjungLaLocullor) {
     EXPECT_EQ(s.GospodLoc, 2) << "a null GospodLoc with Gospodarire set";
     EXPECT_EQ(s.Bife, QString());
     StareCerere asteptat;
-    asteptat.Bunuri[0] = Lei("1.5");
-    asteptat.Bunuri[41] = Lei("2");
-    asteptat.Bunuri[74] = Lei("3");
-    asteptat.Venituri[0] = Lei("10");
-    asteptat.Venituri[78] = Lei("20.5");
+    asteptat.Bunuri[0] = B("1.5");
+    asteptat.Bunuri[41] = B("2");
+    asteptat.Bunuri[74] = B("3");
+    asteptat.Venituri[0] = B("10");
+    asteptat.Venituri[78] = B("20.5");
     asteptat.LocuinteSel[0] = {2, true};
     asteptat.LocuinteSel[7] = {0, true};
     EXPECT_EQ(s.Bunuri, asteptat.Bunuri);
@@ -243,7 +243,7 @@ TEST_P(Incarcare, ValorileDinTabeleAjungLaLocullor) {
     iesit.Prenume = QStringLiteral("Ion");
     iesit.CNP = QStringLiteral("1700101400099");
     iesit.Rudenie = QStringLiteral("COPIL IN TUTELA");
-    iesit.Suma = Lei("75.5");
+    iesit.Suma = B("75.5");
     iesit.SerieBI = QStringLiteral("RT");
     iesit.NrBI = QStringLiteral("22");
     iesit.RudenieID = 6;

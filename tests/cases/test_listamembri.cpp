@@ -1,6 +1,7 @@
 #include "cases/ListaMembri.h"
 #include "shell/Eroare.h"
 #include "support/BazaTest.h"
+#include "support/Texte.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -8,13 +9,6 @@
 using namespace ElemPersoana;
 
 namespace {
-
-QString T(const char* s) {
-    return QString::fromUtf8(s);
-}
-Bani B(const char* s) {
-    return *Bani::DinText(T(s));
-}
 
 const QString Exceptie =
     T("Exceptie Tarn in Calcule: Nr Membrii din lista este diferite de cel din matrice. Sunati la 0700-111222");

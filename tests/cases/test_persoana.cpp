@@ -6,6 +6,7 @@
 #include "support/DosarTest.h"
 #include "support/PersoaneTest.h"
 #include "support/SqlTest.h"
+#include "support/Texte.h"
 
 #include <QStringList>
 #include <functional>
@@ -14,13 +15,6 @@
 using namespace ElemPersoana;
 
 namespace {
-
-QString T(const char* s) {
-    return QString::fromUtf8(s);
-}
-Bani B(const char* s) {
-    return *Bani::DinText(T(s));
-}
 
 const QString CnpTitular = CuControl("185050546001");    // 5 May 1985
 const QString CnpCopil = CuControl("510031546002");      // 15 March 2010

@@ -103,7 +103,7 @@ TEST_P(Salvare, DosarulSalvatSeCitesteInapoiCamp_cuCamp) {
     elena.Rudenie = m[3].Rudenie;
     elena.RudenieID = 3;
     elena.MotivID = 1;
-    elena.Suma = Lei("50.75");
+    elena.Suma = B("50.75");
     elena.TipValuta = 1;
     schimbat.iesiti.push_back(elena);
     m.erase(m.begin() + 3);
@@ -112,7 +112,7 @@ TEST_P(Salvare, DosarulSalvatSeCitesteInapoiCamp_cuCamp) {
     m[2].Adeverinte[1].AdvCurenta = 0;
     m[0].Nume = QStringLiteral("Popescu-Radu");
     schimbat.stare.Bunuri[20] = Bani();
-    schimbat.stare.Venituri[5] = Lei("250");
+    schimbat.stare.Venituri[5] = B("250");
     schimbat.date.txtCerere[12] = QStringLiteral("650.5");
     mesaje.mesaje.clear();
     const RezultatSalvare r2 = Salveaza(schimbat);
@@ -258,7 +258,7 @@ TEST_P(Salvare, EsecLaOricePasNuLasaNimicScris) {
     const CerereIncarcata c = Incarca(1);
     Dosar schimbat{c.Date, c.Stare, c.Iesiti};
     (*schimbat.stare.MatriceMembri)[0].Nume = QStringLiteral("Altul");
-    schimbat.stare.Venituri[3] = Lei("10");
+    schimbat.stare.Venituri[3] = B("10");
     Dosar nou = DosarComplet(Bd());
     nou.date.txtCerere[0] = QStringLiteral("4321");
     (*nou.stare.MatriceMembri)[5].CNP = QStringLiteral("6100228400099");

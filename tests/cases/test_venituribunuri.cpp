@@ -69,8 +69,8 @@ TEST(Celule, SumaCuVirgulaSauPunct) {
     };
     for (const auto& c : bune) {
         SCOPED_TRACE(c.text);
-        EXPECT_EQ(CitesteSuma(QString::fromLatin1(c.text)), Lei(c.suma));
-        EXPECT_EQ(CitesteCantitate(QString::fromLatin1(c.text)), Lei(c.suma));
+        EXPECT_EQ(CitesteSuma(QString::fromLatin1(c.text)), B(c.suma));
+        EXPECT_EQ(CitesteCantitate(QString::fromLatin1(c.text)), B(c.suma));
     }
     const struct {
         const char* text;
@@ -93,8 +93,8 @@ TEST(Celule, SumaCuVirgulaSauPunct) {
     }
     EXPECT_THROW(CitesteCantitate(QStringLiteral("-0,5")), Eroare);
     EXPECT_EQ(TextCelula(Bani()), QString());
-    EXPECT_EQ(TextCelula(Lei("1234.5")), QStringLiteral("1234.50"));
-    EXPECT_EQ(TextCelula(Lei("0.0001")), QStringLiteral("0.0001"));
+    EXPECT_EQ(TextCelula(B("1234.5")), QStringLiteral("1234.50"));
+    EXPECT_EQ(TextCelula(B("0.0001")), QStringLiteral("0.0001"));
 }
 
 class VenituriBunuri : public TestBaza {
@@ -111,7 +111,7 @@ TEST_P(VenituriBunuri, CataloageleInOrdine) {
     ASSERT_EQ(venituri.size(), 78u);
     EXPECT_EQ(venituri.front().Nr, 1);
     EXPECT_EQ(venituri.back().Nr, 78);
-    EXPECT_TRUE(venituri.front().Denumire.startsWith(Utf("Salariu net")));
+    EXPECT_TRUE(venituri.front().Denumire.startsWith(T("Salariu net")));
 
     const auto acte = CitesteListaActe(Bd());
     ASSERT_EQ(acte.size(), 28u);
@@ -125,61 +125,61 @@ TEST_P(VenituriBunuri, CataloageleInOrdine) {
     EXPECT_EQ(b.Excludere.back().Nr, 10);
     EXPECT_EQ(
         b.Bunuri.front(),
-        (BunCatalog{11, Utf("TE"), 1, Utf("Teren arabil cultivat cu grâu, orz, ovăz sau secară (ha)"), Lei("150")}));
+        (BunCatalog{11, T("TE"), 1, T("Teren arabil cultivat cu grâu, orz, ovăz sau secară (ha)"), B("150")}));
     EXPECT_EQ(b.Bunuri.back().NrBifa, 85);
-    EXPECT_EQ(b.Bunuri.back().Valoare, Lei("100"));
-    EXPECT_EQ(b.Bunuri[74].Tip, Utf("PA"));
+    EXPECT_EQ(b.Bunuri.back().Valoare, B("100"));
+    EXPECT_EQ(b.Bunuri[74].Tip, T("PA"));
 }
 
 TEST_P(VenituriBunuri, GrilaVenituriiArataStareaSiTotalul) {
     std::array<Bani, 79> v{};
-    v[0] = Lei("100");
-    v[77] = Lei("50.25");
-    v[78] = Lei("7"); // no row of the catalogue shows it
+    v[0] = B("100");
+    v[77] = B("50.25");
+    v[78] = B("7"); // no row of the catalogue shows it
     GrilaVenituri g(CitesteListaVenituri(Bd()), v);
     ASSERT_EQ(g.Randuri().size(), 78u);
-    EXPECT_EQ(g.Suma(0), Lei("100"));
-    EXPECT_EQ(g.Suma(77), Lei("50.25"));
+    EXPECT_EQ(g.Suma(0), B("100"));
+    EXPECT_EQ(g.Suma(77), B("50.25"));
     EXPECT_EQ(g.TextTotal(), QStringLiteral("Total venituri: 150.25 lei"));
 
-    EXPECT_EQ(g.Seteaza(1, QStringLiteral("1.234,5")), Lei("1234.5"));
+    EXPECT_EQ(g.Seteaza(1, QStringLiteral("1.234,5")), B("1234.5"));
     EXPECT_EQ(g.TextTotal(), QStringLiteral("Total venituri: 1384.75 lei"));
-    EXPECT_EQ(g.Seteaza(1, QStringLiteral("1234,5")), Lei("1234.5"));
+    EXPECT_EQ(g.Seteaza(1, QStringLiteral("1234,5")), B("1234.5"));
     EXPECT_THROW(g.Seteaza(1, QStringLiteral("abc")), Eroare);
-    EXPECT_EQ(g.Suma(1), Lei("1234.5")) << "a refused text keeps the amount";
+    EXPECT_EQ(g.Suma(1), B("1234.5")) << "a refused text keeps the amount";
     EXPECT_EQ(g.Seteaza(0, QString()), Bani());
-    EXPECT_EQ(g.Total(), Lei("1284.75"));
+    EXPECT_EQ(g.Total(), B("1284.75"));
 
     std::array<Bani, 79> scrise = v;
-    scrise[5] = Lei("3"); // overwritten by the grid's empty row
+    scrise[5] = B("3"); // overwritten by the grid's empty row
     g.CopiazaIn(scrise);
     EXPECT_EQ(scrise[0], Bani());
-    EXPECT_EQ(scrise[1], Lei("1234.5"));
+    EXPECT_EQ(scrise[1], B("1234.5"));
     EXPECT_EQ(scrise[5], Bani());
-    EXPECT_EQ(scrise[77], Lei("50.25"));
-    EXPECT_EQ(scrise[78], Lei("7"));
-    EXPECT_EQ(SumaVenituri(scrise), Lei("1291.75"));
+    EXPECT_EQ(scrise[77], B("50.25"));
+    EXPECT_EQ(scrise[78], B("7"));
+    EXPECT_EQ(SumaVenituri(scrise), B("1291.75"));
 }
 
 TEST_P(VenituriBunuri, GrilaBunurilorValoreazaRandulEi) {
     std::array<Bani, 75> b{};
-    b[0] = Lei("2");    // grain, 150 a hectare
-    b[10] = Lei("1.5"); // potatoes, 600
-    b[74] = Lei("3");   // ostrich, 100 a head
+    b[0] = B("2");    // grain, 150 a hectare
+    b[10] = B("1.5"); // potatoes, 600
+    b[74] = B("3");   // ostrich, 100 a head
     GrilaBunuri g(CitesteListaBife(Bd()).Bunuri, b);
     ASSERT_EQ(g.Randuri().size(), 75u);
-    EXPECT_EQ(g.Valoare(), Lei("1500"));
-    EXPECT_EQ(g.Seteaza(10, QStringLiteral("0,5")), Lei("0.5"));
-    EXPECT_EQ(g.Valoare(), Lei("900"));
+    EXPECT_EQ(g.Valoare(), B("1500"));
+    EXPECT_EQ(g.Seteaza(10, QStringLiteral("0,5")), B("0.5"));
+    EXPECT_EQ(g.Valoare(), B("900"));
     EXPECT_THROW(g.Seteaza(10, QStringLiteral("doi")), Eroare);
-    EXPECT_EQ(g.Valoare(), Lei("900"));
+    EXPECT_EQ(g.Valoare(), B("900"));
 
     const QString html = g.Html();
     EXPECT_TRUE(html.contains(QStringLiteral("<th>Cantitate (ha, buc)</th>")));
     EXPECT_TRUE(html.contains(QStringLiteral("VENITUL NET (EURO): 900.00")));
     // Each row with its quantity, in the grid's order.
-    const qsizetype grau = html.indexOf(Utf("grâu"));
-    const qsizetype strut = html.indexOf(Utf("Struț de fermă"));
+    const qsizetype grau = html.indexOf(T("grâu"));
+    const qsizetype strut = html.indexOf(T("Struț de fermă"));
     ASSERT_GE(grau, 0);
     EXPECT_GT(strut, grau);
     EXPECT_TRUE(html.mid(grau, 200).contains(QStringLiteral(">2.00<")));
@@ -187,26 +187,26 @@ TEST_P(VenituriBunuri, GrilaBunurilorValoreazaRandulEi) {
     EXPECT_EQ(html.count(QStringLiteral("<tr>")), 76);
 
     std::array<Bani, 75> scrise{};
-    scrise[74] = Lei("9");
+    scrise[74] = B("9");
     g.CopiazaIn(scrise);
-    EXPECT_EQ(scrise[0], Lei("2"));
-    EXPECT_EQ(scrise[10], Lei("0.5"));
-    EXPECT_EQ(scrise[74], Lei("3"));
+    EXPECT_EQ(scrise[0], B("2"));
+    EXPECT_EQ(scrise[10], B("0.5"));
+    EXPECT_EQ(scrise[74], B("3"));
 }
 
 TEST_P(VenituriBunuri, CuLipsaRandurilorDinCatalogIntrarileRamanNeatinse) {
     ExecutaCu(Bd(), QStringLiteral("DELETE FROM ListaBife WHERE NrBifa > ?"), 80);
     std::array<Bani, 75> b{};
-    b[72] = Lei("4");
-    b[73] = Lei("5");
+    b[72] = B("4");
+    b[73] = B("5");
     GrilaBunuri g(CitesteListaBife(Bd()).Bunuri, b);
     ASSERT_EQ(g.Randuri().size(), 70u);
     g.Seteaza(0, QStringLiteral("1"));
     std::array<Bani, 75> scrise = b;
     g.CopiazaIn(scrise);
-    EXPECT_EQ(scrise[0], Lei("1"));
-    EXPECT_EQ(scrise[72], Lei("4"));
-    EXPECT_EQ(scrise[73], Lei("5"));
+    EXPECT_EQ(scrise[0], B("1"));
+    EXPECT_EQ(scrise[72], B("4"));
+    EXPECT_EQ(scrise[73], B("5"));
     // A name with markup is printed as text.
     ExecutaCu(Bd(), QStringLiteral("UPDATE ListaBife SET Denumire = ? WHERE NrBifa = ?"),
               QStringLiteral("Vaci <lapte> & %2"), 11);
@@ -264,14 +264,14 @@ TEST_P(Excludere, BifeleSiBunurileDinDialog) {
     ASSERT_EQ(g.Randuri()[16].NrBifa, 27);
     ASSERT_EQ(g.Randuri()[17].NrBifa, 28);
     g.Seteaza(17, QStringLiteral("1"));
-    EXPECT_EQ(g.Valoare(), Lei("60"));
+    EXPECT_EQ(g.Valoare(), B("60"));
     g.CopiazaIn(s.Bunuri);
     EXPECT_EQ(Cuantum(s), Bani()) << "valued as greenhouses, 5000";
 
     // And the other way: 30 ostriches are 3000 in the grid, valued as pheasants (2 each).
     g.Seteaza(17, QString());
     g.Seteaza(74, QStringLiteral("30"));
-    EXPECT_EQ(g.Valoare(), Lei("3000"));
+    EXPECT_EQ(g.Valoare(), B("3000"));
     g.CopiazaIn(s.Bunuri);
     EXPECT_EQ(Cuantum(s), plin);
     EXPECT_TRUE(mesaje.Texte().isEmpty()) << mesaje.Texte().join(QLatin1Char('|')).toStdString();
@@ -303,7 +303,7 @@ TEST_P(VenituriBunuri, DosarulCuVenituriBunuriSiLocuintaSeCitesteInapoi) {
     l.chkLocuinta = {false, true, false, false, false, false, true};
     l.txtNrCamere = QStringLiteral("4");
     l.cboLocuinta = {5, 2, 1, 2, 4};
-    l.txtLocuinta = {Utf("Groupama Asigurări"), QStringLiteral("X-9")};
+    l.txtLocuinta = {T("Groupama Asigurări"), QStringLiteral("X-9")};
     ASSERT_EQ(CopiazaInStare(l, s), std::nullopt);
 
     OptiuniSalvare o = OptiuniDosar();

@@ -3,6 +3,7 @@
 #include "shell/Bani.h"
 #include "store/BazaDate.h"
 #include "support/SqlTest.h"
+#include "support/Texte.h"
 
 #include <QDate>
 #include <QFile>
@@ -87,13 +88,9 @@ inline void ScrieDispozitie(BazaDate& db, const DispozitieTest& d) {
               d.Motiv);
 }
 
-inline QString U(const char* s) {
-    return QString::fromUtf8(s);
-}
-
 // Town hall A: an ordinary commune.
 inline PrimarieTest PrimarieA() {
-    return {U("Ilfov"), U("Brănești"), U("Ion Ionescu"), U("Maria Georgescu"), U("4420636"), 1, U("Elena Dumitru")};
+    return {T("Ilfov"), T("Brănești"), T("Ion Ionescu"), T("Maria Georgescu"), T("4420636"), 1, T("Elena Dumitru")};
 }
 
 // Request 7: a father with one child (and the rest of the household for the declaration).
@@ -108,28 +105,28 @@ inline CerereDocTest CerereA() {
     c.VenitTotal = Suma("1200.5");
     c.VenitpeMembru = QVariant();
     c.Cuantum = Suma("82");
-    c.MotivStare = U("Motiv din cerere");
-    c.Judet = U("Ilfov");
-    c.Localitate = U("Brănești");
-    c.Strada = U("Florilor");
-    c.Nr = U("12");
-    c.Sc = U("B");
-    c.Ap = U("4");
-    c.Persoane = {{70, U("Popa"), U("Vasile"), U("1850312410015"), 1, 1, QVariant()},
-                  {71, U("Popa"), U("Ioana"), U("2870506410021"), 2, 99, 3},
-                  {72, U("Popa"), U("Mihai"), U("5100203410034"), 3, QVariant(), 3},
-                  {73, U("Ionescu"), U("Dan"), U("5120808410047"), 6, 8, QVariant()},
-                  {74, U("Popa"), U("Gheorghe"), U("1500101410055"), 4, QVariant(), 2}};
+    c.MotivStare = T("Motiv din cerere");
+    c.Judet = T("Ilfov");
+    c.Localitate = T("Brănești");
+    c.Strada = T("Florilor");
+    c.Nr = T("12");
+    c.Sc = T("B");
+    c.Ap = T("4");
+    c.Persoane = {{70, T("Popa"), T("Vasile"), T("1850312410015"), 1, 1, QVariant()},
+                  {71, T("Popa"), T("Ioana"), T("2870506410021"), 2, 99, 3},
+                  {72, T("Popa"), T("Mihai"), T("5100203410034"), 3, QVariant(), 3},
+                  {73, T("Ionescu"), T("Dan"), T("5120808410047"), 6, 8, QVariant()},
+                  {74, T("Popa"), T("Gheorghe"), T("1500101410055"), 4, QVariant(), 2}};
     return c;
 }
 
 inline DispozitieTest DispozitieA() {
-    return {3, 7, 45, QDate(2015, 2, 20), QDate(2015, 3, 1), 1, Suma("82"), QVariant(), U("Îndeplinește condițiile")};
+    return {3, 7, 45, QDate(2015, 2, 20), QDate(2015, 3, 1), 1, Suma("82"), QVariant(), T("Îndeplinește condițiile")};
 }
 
 // Town hall B: the town whose names are printed with capitals at each word.
 inline PrimarieTest PrimarieB() {
-    return {U("Cluj"), U("FIZEȘU GHERLII"), U("Dan Pop"), U("Ana Rus"), QVariant(), QVariant(), QVariant()};
+    return {T("Cluj"), T("FIZEȘU GHERLII"), T("Dan Pop"), T("Ana Rus"), QVariant(), QVariant(), QVariant()};
 }
 
 // Request 8: a single mother of five.
@@ -144,17 +141,17 @@ inline CerereDocTest CerereB() {
     c.VenitTotal = Suma("300");
     c.VenitpeMembru = Suma("50");
     c.Cuantum = Suma("428");
-    c.MotivStare = U("Mutare în localitate");
-    c.Judet = U("Cluj");
-    c.Localitate = U("fizeșu gherlii");
-    c.Strada = U("LIBERTĂȚII");
-    c.Nr = U("3");
+    c.MotivStare = T("Mutare în localitate");
+    c.Judet = T("Cluj");
+    c.Localitate = T("fizeșu gherlii");
+    c.Strada = T("LIBERTĂȚII");
+    c.Nr = T("3");
     c.Sc = QVariant();
-    c.Ap = U("");
-    c.Persoane = {{80, U("MUREȘAN"), U("ana-maria"), U("2900715123456"), 1, 4, QVariant()}};
+    c.Ap = T("");
+    c.Persoane = {{80, T("MUREȘAN"), T("ana-maria"), T("2900715123456"), 1, 4, QVariant()}};
     return c;
 }
 
 inline DispozitieTest DispozitieB() {
-    return {4, 8, QVariant(), QVariant(), QDate(2016, 6, 1), 1, Suma("428"), QVariant(), U("motiv din dispozitie")};
+    return {4, 8, QVariant(), QVariant(), QDate(2016, 6, 1), 1, Suma("428"), QVariant(), T("motiv din dispozitie")};
 }

@@ -213,17 +213,17 @@ TEST_P(DocumenteTest, SabloaneleLivrateSeCompleteazaIntregi) {
         ASSERT_EQ(Documente::GenereazaDispozitie(Bd(), 3, o, iesire, mesaje), Rezultat::Scris)
             << actiune << mesaje.Texte().join(u'\n').toStdString();
         VerificaDocument(CitesteTot(iesire), QDir(o.FolderActe).filePath(Documente::SablonDispozitie(actiune)),
-                         {U("Popa Vasile"), U("1850312410015"), U("Brănești"), U("Ion Ionescu"),
-                          U("privind ") + U(titluri[actiune - 1])});
+                         {T("Popa Vasile"), T("1850312410015"), T("Brănești"), T("Ion Ionescu"),
+                          T("privind ") + T(titluri[actiune - 1])});
     }
     const QString fisa = QDir(Locatie().caleBD).filePath(QStringLiteral("FisaCerere.rtf"));
     ASSERT_EQ(Documente::GenereazaFisa(Bd(), 7, o, fisa, mesaje), Rezultat::Scris);
     VerificaDocument(CitesteTot(fisa), QDir(o.FolderActe).filePath(Documente::SablonFisa),
-                     {U("Popa Vasile"), U("1200.5 lei"), U("02.06.2025"), U("Elena Dumitru")});
+                     {T("Popa Vasile"), T("1200.5 lei"), T("02.06.2025"), T("Elena Dumitru")});
     const QString declaratie = QDir(Locatie().caleBD).filePath(QStringLiteral("Declar.rtf"));
     ASSERT_EQ(Documente::GenereazaDeclaratie(Bd(), 7, o, declaratie, mesaje), Rezultat::Scris);
     VerificaDocument(CitesteTot(declaratie), QDir(o.FolderActe).filePath(Documente::SablonDeclaratie),
-                     {U("Popa Vasile"), U("Ionescu Dan"), U("elev cl i-viii"), U("Brănești, str. Florilor")});
+                     {T("Popa Vasile"), T("Ionescu Dan"), T("elev cl i-viii"), T("Brănești, str. Florilor")});
     EXPECT_TRUE(mesaje.mesaje.empty()) << mesaje.Texte().join(u'\n').toStdString();
 }
 
@@ -245,15 +245,15 @@ TEST_P(DocumenteTest, SabloaneleSalvateDeAlteProcesoareSeCompleteaza) {
         f.close();
         ASSERT_EQ(Documente::GenereazaDispozitie(Bd(), 3, o, iesire, mesaje), Rezultat::Scris)
             << mesaje.Texte().join(u'\n').toStdString();
-        VerificaDocument(CitesteTot(iesire), sablon, {U("Popa Vasile"), U("1850312410015"), U("privind acordarea")});
+        VerificaDocument(CitesteTot(iesire), sablon, {T("Popa Vasile"), T("1850312410015"), T("privind acordarea")});
     }
     EXPECT_TRUE(mesaje.mesaje.empty()) << mesaje.Texte().join(u'\n').toStdString();
 }
 
 TEST_P(DocumenteTest, MaiMulteDispozitiiIntrUnSinguDocument) {
     CazA();
-    ScrieDispozitie(Bd(), {5, 7, 46, QDate(2015, 5, 2), QDate(2015, 6, 1), 3, Suma("0"), QVariant(), U("Absențe")});
-    ScrieDispozitie(Bd(), {6, 7, 47, QDate(2015, 8, 2), QDate(2015, 9, 1), 2, Suma("90"), Suma("82"), U("Venit nou")});
+    ScrieDispozitie(Bd(), {5, 7, 46, QDate(2015, 5, 2), QDate(2015, 6, 1), 3, Suma("0"), QVariant(), T("Absențe")});
+    ScrieDispozitie(Bd(), {6, 7, 47, QDate(2015, 8, 2), QDate(2015, 9, 1), 2, Suma("90"), Suma("82"), T("Venit nou")});
     ASSERT_EQ(Documente::GenereazaDispozitii(Bd(), {5, 3, 6}, o, iesire, mesaje), Rezultat::Scris)
         << mesaje.Texte().join(u'\n').toStdString();
     const QByteArray doc = CitesteTot(iesire);
@@ -267,7 +267,7 @@ TEST_P(DocumenteTest, MaiMulteDispozitiiIntrUnSinguDocument) {
     const qsizetype a = doc.indexOf("nr. 46 din"), b = doc.indexOf("nr. 45 din"), c = doc.indexOf("nr. 47 din");
     const qsizetype p1 = doc.indexOf("\\page"), p2 = doc.lastIndexOf("\\page");
     EXPECT_TRUE(a > 0 && a < p1 && p1 < b && b < p2 && p2 < c) << a << " " << p1 << " " << b << " " << p2 << " " << c;
-    EXPECT_TRUE(doc.contains(TextRtf(U("suspendarea plății"))));
+    EXPECT_TRUE(doc.contains(TextRtf(T("suspendarea plății"))));
     EXPECT_TRUE(doc.contains("de la {\\b 82 lei} la {\\b 90 lei}"));
 
     // Any disposition that can't be merged stops the run before anything is written.
@@ -333,9 +333,9 @@ TEST_P(DocumenteTest, DeclaratieFaraVenituriGolesteDoisprezeceRanduri) {
 
     // The same request in the special town: the declaration's address stays as stored.
     ScriePrimarie(Bd(), PrimarieB());
-    ExecutaCu(Bd(), QStringLiteral("UPDATE Familii SET Localitate = ? WHERE FamilieID = 7"), U("fizeșu gherlii"));
+    ExecutaCu(Bd(), QStringLiteral("UPDATE Familii SET Localitate = ? WHERE FamilieID = 7"), T("fizeșu gherlii"));
     ASSERT_EQ(Documente::GenereazaDeclaratie(Bd(), 7, o, iesire, mesaje, Sablon("#adresa#")), Rezultat::Scris);
-    EXPECT_EQ(Corp(), TextRtf(U("fizeșu gherlii,  Florilor, nr. 12, sc. B, ap. 4")));
+    EXPECT_EQ(Corp(), TextRtf(T("fizeșu gherlii,  Florilor, nr. 12, sc. B, ap. 4")));
     EXPECT_TRUE(mesaje.mesaje.empty());
 }
 

@@ -118,17 +118,17 @@ public:
 // quote, a double quote, a backslash, angle brackets and a cedilla letter, with its household,
 // incomes, goods, housing, a leaver, several dispositions and inquiries (one of each undated).
 inline QString PrenumeTitular() {
-    return U("Ţăndărică D'Or \"Ion\" \\ <b>");
+    return T("Ţăndărică D'Or \"Ion\" \\ <b>");
 }
 inline QString NumeTitular() {
-    return U("Șerban");
+    return T("Șerban");
 }
 inline const char* CnpTitular = "1850312410015";
 
 inline QString AspecteAncheta() {
     // Every character of the code page from the blank on, a line break in the middle, and both
     // forms of ș ț; neither end is a blank, which the program trims.
-    QString s = U("«");
+    QString s = T("«");
     QStringDecoder d("windows-1250");
     for (int b = 0x20; b <= 0xFF; ++b) {
         if (b == 0x7F) continue;
@@ -136,7 +136,7 @@ inline QString AspecteAncheta() {
         if (c != QStringLiteral("\uFFFD") && (c[0].unicode() < 0x80 || c[0].unicode() >= 0xA0)) s += c;
         if (b == 0x80) s += u'\n';
     }
-    return s + U("șțȘȚ»");
+    return s + T("șțȘȚ»");
 }
 
 inline void ScrieDosarWeb(BazaDate& db) {
@@ -144,10 +144,10 @@ inline void ScrieDosarWeb(BazaDate& db) {
     CerereDocTest c = CerereA();
     c.VenitpeMembru = Suma("400.1667");
     c.Cuantum = Suma("164");
-    c.MotivStare = U("Linia 1\nLinia 2");
+    c.MotivStare = T("Linia 1\nLinia 2");
     c.Persoane = {{70, NumeTitular(), PrenumeTitular(), QString::fromLatin1(CnpTitular), 1, 1, 3},
-                  {72, U("Popescu"), U("Mihai"), U("5100203410034"), 3, 8, QVariant()},
-                  {71, U("Popescu"), U("Ioana"), U("2870506410021"), 2, 4, 2}};
+                  {72, T("Popescu"), T("Mihai"), T("5100203410034"), 3, 8, QVariant()},
+                  {71, T("Popescu"), T("Ioana"), T("2870506410021"), 2, 4, 2}};
     ScrieCerere(db, c);
     Tranzactie t(db);
     ExecutaCu(db,
@@ -160,7 +160,7 @@ inline void ScrieDosarWeb(BazaDate& db) {
                              "WHERE MembruID = 70"),
               QDate(2012, 7, 1));
     ExecutaCu(db, QStringLiteral("UPDATE CereriMembrii SET UScolara = ?, Clasa = ? WHERE MembruID = 72"),
-              U("Școala Gimnazială nr. 1"), U("a V-a"));
+              T("Școala Gimnazială nr. 1"), T("a V-a"));
     for (const auto& [cod, valoare] : {std::pair{1, "1000.5"}, std::pair{12, "200"}})
         ExecutaCu(db, QStringLiteral("INSERT INTO Venituri (CerereID, CodVenit, Valoare) VALUES (7, ?, ?)"), cod,
                   Suma(valoare));
@@ -168,8 +168,8 @@ inline void ScrieDosarWeb(BazaDate& db) {
     Interogare(db, QStringLiteral("INSERT INTO Locuinte (CerereID, Cod, NrCamere, Suprafata) VALUES (7, 3, 2, 48.5)"))
         .Executa();
     ExecutaCu(db, QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (75, ?, ?, ?)"),
-              U("Popescu"), U("Ana"), U("6150101410011"));
-    ExecutaCu(db, QStringLiteral("INSERT INTO Motive (MotivID, Denumire) VALUES (1, ?)"), U("Încredințare"));
+              T("Popescu"), T("Ana"), T("6150101410011"));
+    ExecutaCu(db, QStringLiteral("INSERT INTO Motive (MotivID, Denumire) VALUES (1, ?)"), T("Încredințare"));
     Interogare(db, QStringLiteral("INSERT INTO CMIesiti (CerereID, MembruID, RudenieID, MotivID) VALUES (7, 75, 3, 1)"))
         .Executa();
     // The newest that grants, changes or resumes is number 60; 77 suspends, 99 has no date.
@@ -184,23 +184,23 @@ inline void ScrieDosarWeb(BazaDate& db) {
                       {5, 77, QDate(2017, 5, 1), 3, "0"},
                       {6, 99, QVariant(), 1, "82"}};
     for (const auto& d : dispozitii)
-        ScrieDispozitie(db, {d.id, 7, d.nr, d.data, QVariant(), d.actiune, Suma(d.cuantum), QVariant(), U("motiv")});
+        ScrieDispozitie(db, {d.id, 7, d.nr, d.data, QVariant(), d.actiune, Suma(d.cuantum), QVariant(), T("motiv")});
     // The newest is inquiry 2; 3 has no date.
     const struct {
         qint64 id;
         QVariant data;
         const char* intocmitor;
         QString aspecte;
-    } anchete[] = {{1, QDate(2015, 3, 1), "Ana Vechi", U("vechi")},
+    } anchete[] = {{1, QDate(2015, 3, 1), "Ana Vechi", T("vechi")},
                    {2, QDate(2016, 2, 1), "Elena Dumitru", AspecteAncheta()},
-                   {3, QVariant(), "Fara Data", U("fara data")}};
+                   {3, QVariant(), "Fara Data", T("fara data")}};
     for (const auto& a : anchete)
         ExecutaCu(db,
                   QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, Intocmitor, "
                                  "DataExpirarii, NrMembrii, NrCopii, TipLocuinta, RegimJuridic, NrCamere, "
                                  "SuprUtila, TipDetinere, Aspecte) VALUES (?, 7, ?, ?, ?, 3, 1, 3, 1, 2, 48.5, "
                                  "1, ?)"),
-                  a.id, a.data, U(a.intocmitor), a.data.isNull() ? QVariant() : QVariant(a.data.toDate().addMonths(6)),
+                  a.id, a.data, T(a.intocmitor), a.data.isNull() ? QVariant() : QVariant(a.data.toDate().addMonths(6)),
                   a.aspecte);
     t.Confirma();
 }

@@ -41,7 +41,7 @@ TEST_P(CliDocument, ScrieCeleTreiDocumenteCuNumeleLorFixe) {
     EXPECT_EQ(d.out, QStringLiteral("Documentul a fost scris: %1\n").arg(QDir::toNativeSeparators(In("Disp.rtf"))));
     const QByteArray disp = CitesteTot(In("Disp.rtf"));
     EXPECT_TRUE(disp.startsWith("{\\rtf1"));
-    EXPECT_TRUE(disp.contains(TextRtf(U("privind acordarea alocației"))));
+    EXPECT_TRUE(disp.contains(TextRtf(T("privind acordarea alocației"))));
     EXPECT_TRUE(disp.contains("{\\b Popa Vasile}, CNP 1850312410015"));
     EXPECT_TRUE(disp.contains("{\\b 82 lei}"));
 
@@ -72,7 +72,7 @@ TEST_P(CliDocument, SetarileFolderuluiBazeiSiSablonulDat) {
                             QStringLiteral("--sablon"), In("s.rtf"), QStringLiteral("--out"), In("m.rtf")});
     ASSERT_EQ(r.cod, 0) << r.err.toStdString();
     EXPECT_EQ(CitesteTot(In("m.rtf")), "{\\rtf1{\\pntxta )}}Motiv din cerere|" +
-                                           TextRtf(U("Brănești, sat Florilor, nr. 12, sc. B, ap. 4")) + "}");
+                                           TextRtf(T("Brănești, sat Florilor, nr. 12, sc. B, ap. 4")) + "}");
 }
 
 TEST_P(CliDocument, EsecurileSpunDeCeSiNuScriuNimic) {

@@ -132,14 +132,14 @@ TEST_P(Sql2JsonTest, ValorileGreleTrecNeatinse) {
     ASSERT_EQ(r.size(), 2u);
     ASSERT_EQ(r[0].size(), 1u);
     // Windows-1250 has only the cedilla forms: both come back as those.
-    EXPECT_EQ(r[0][0].at(QStringLiteral("nume")), U("Şerban"));
+    EXPECT_EQ(r[0][0].at(QStringLiteral("nume")), T("Şerban"));
     EXPECT_EQ(r[0][0].at(QStringLiteral("prenume")), PrenumeTitular());
     EXPECT_EQ(r[0][0].at(QStringLiteral("cnp")), QString::fromLatin1(CnpTitular));
     EXPECT_TRUE(r[1].empty()) << "no request 70";
 
     const Rezultate motiv =
         CitesteJson(Ruleaza(QStringLiteral("SELECT MotivStare FROM Cereri WHERE CerereID = ${CerereID}"), 7));
-    EXPECT_EQ(motiv[0][0].at(QStringLiteral("motivstare")), U("Linia 1\nLinia 2"));
+    EXPECT_EQ(motiv[0][0].at(QStringLiteral("motivstare")), T("Linia 1\nLinia 2"));
 }
 
 TEST_P(Sql2JsonTest, RezultatGolDaListaGoalaPeLoculSau) {
@@ -286,7 +286,7 @@ TEST_P(StartCerereWebTest, InterogarileLivrateAleUneiCereri) {
     ASSERT_EQ(r[1].size(), 3u);
     EXPECT_EQ(r[1][0].at(QStringLiteral("rudenietext")), QStringLiteral("TITULARUL"));
     EXPECT_EQ(r[1][1].at(QStringLiteral("prenume")), QStringLiteral("Ioana"));
-    EXPECT_EQ(r[1][2].at(QStringLiteral("uscolara")), U("Şcoala Gimnazială nr. 1"));
+    EXPECT_EQ(r[1][2].at(QStringLiteral("uscolara")), T("Şcoala Gimnazială nr. 1"));
     ASSERT_EQ(r[2].size(), 2u);
     EXPECT_EQ(r[2][0].at(QStringLiteral("valoare")), QStringLiteral("1000.5"));
     ASSERT_EQ(r[3].size(), 1u);
@@ -303,7 +303,7 @@ TEST_P(StartCerereWebTest, InterogarileLivrateAleUneiCereri) {
     ASSERT_EQ(r[7].size(), 1u);
     EXPECT_EQ(r[7][0].at(QStringLiteral("associal")), QStringLiteral("Elena Dumitru"));
     ASSERT_EQ(r[8].size(), 1u);
-    EXPECT_EQ(r[8][0].at(QStringLiteral("motivtext")), U("Încredinţare"));
+    EXPECT_EQ(r[8][0].at(QStringLiteral("motivtext")), T("Încredinţare"));
     EXPECT_EQ(r[9].size(), 10u);
     EXPECT_EQ(r[10].size(), 28u);
 }

@@ -2,15 +2,12 @@
 #include "shell/Functii.h"
 #include "support/BazaTest.h"
 #include "support/SqlTest.h"
+#include "support/Texte.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
 
 namespace {
-
-QString T(const char* s) {
-    return QString::fromUtf8(s);
-}
 
 // The recorder keeps texts only; these functions also promise a box title.
 class MesajeCuTitlu : public MesajeInregistrate {

@@ -1,6 +1,7 @@
 #include "shell/Foldere.h"
 #include "shell/ServiciuFisiere.h"
 #include "shell/Setari.h"
+#include "support/Texte.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,10 +15,6 @@
 namespace {
 
 namespace SF = ServiciuFisiere;
-
-std::string S(const QString& q) {
-    return q.toStdString();
-}
 
 class FisierSetari : public ::testing::Test {
 protected:

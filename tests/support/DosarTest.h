@@ -4,6 +4,7 @@
 #include "cases/SalvareCerere.h"
 #include "store/BazaDate.h"
 #include "support/BazaTest.h"
+#include "support/Texte.h"
 
 #include <QSqlRecord>
 #include <gtest/gtest.h>
@@ -16,13 +17,6 @@ inline void PrintTo(const Bani& b, std::ostream* os) {
 }
 inline void PrintTo(const QDate& d, std::ostream* os) {
     *os << (d.isValid() ? d.toString(Qt::ISODate).toStdString() : std::string("(fara data)"));
-}
-
-inline QString Utf(const char* s) {
-    return QString::fromUtf8(s);
-}
-inline Bani Lei(const char* s) {
-    return *Bani::DinText(Utf(s));
 }
 
 // The text of a DateGen value, straight from the table.
@@ -53,7 +47,7 @@ inline OptiuniSalvare OptiuniDosar() {
 inline AdeverintaMembru Adeverinta(int tip, const char* nr, QDate emisa, QDate depusa, QDate expira, int curenta) {
     AdeverintaMembru a;
     a.TipAdeverinta = tip;
-    a.NrAdev = Utf(nr);
+    a.NrAdev = T(nr);
     a.DataAdeverinta = emisa;
     a.DataDepunerii = depusa;
     a.DataExpAdev = expira;
@@ -66,12 +60,12 @@ inline AdeverintaMembru Adeverinta(int tip, const char* nr, QDate emisa, QDate d
 inline MembruCerere Persoana(BazaDate& db, int rudenie, const char* nume, const char* prenume, const char* cnp,
                              const char* dataNast, QDate nastere) {
     MembruCerere p;
-    p.Nume = Utf(nume);
-    p.Prenume = Utf(prenume);
-    p.CNP = Utf(cnp);
+    p.Nume = T(nume);
+    p.Prenume = T(prenume);
+    p.CNP = T(cnp);
     p.RudenieID = rudenie;
     p.Rudenie = ContinutDateGen(db, 2, rudenie);
-    p.DataNast = Utf(dataNast);
+    p.DataNast = T(dataNast);
     p.DataNastere = nastere;
     p.ModificatLaSalvare = 1;
     return p;
@@ -98,14 +92,14 @@ inline Dosar DosarComplet(BazaDate& db) {
         {30, "77/2014"}};
     // clang-format on
     for (const auto& [i, text] : texte)
-        c.txtCerere[size_t(i)] = Utf(text);
-    c.cboCerere[0] = {0, Utf("Strada Morii")};
+        c.txtCerere[size_t(i)] = T(text);
+    c.cboCerere[0] = {0, T("Strada Morii")};
     c.cboCerere[1] = {3, ContinutDateGen(db, 27, 3)};
     c.cboCerere[2] = {2, ContinutDateGen(db, 12, 2)};
     c.cboCerere[3] = {1, TextTipCerere(1)};
     c.cboCerere[4] = {2, ContinutDateGen(db, 1, 2)};
-    c.cboCerere[5] = {0, Utf("Indeplineste conditiile")};
-    c.cboCerere[6] = {0, Utf("Strada Garii")};
+    c.cboCerere[5] = {0, T("Indeplineste conditiile")};
+    c.cboCerere[6] = {0, T("Strada Garii")};
     c.dtpData = {QDate(2014, 11, 14), QDate(2014, 12, 1)};
     c.chkVmg = true;
     c.chkSupl = true;
@@ -116,34 +110,34 @@ inline Dosar DosarComplet(BazaDate& db) {
     MembruCerere t = Persoana(db, 1, "Popescu", "Ion", "1850305400011", "05 Martie 1985", QDate(1985, 3, 5));
     Ocupatie(db, t, 1, 4);
     t.TipAct = 2;
-    t.SerieBI = Utf("RX");
-    t.NrBI = Utf("123456");
-    t.Eliberat = Utf("SPCLEP Branesti");
+    t.SerieBI = T("RX");
+    t.NrBI = T("123456");
+    t.Eliberat = T("SPCLEP Branesti");
     t.DataElib = QDate(2010, 6, 1);
     t.CetatenieID = 1;
-    t.TaraCetatenie = Utf("Romania");
+    t.TaraCetatenie = T("Romania");
     t.ResedintaID = 1;
-    t.LocResedinta = Utf("Branesti");
+    t.LocResedinta = T("Branesti");
     t.StCivila = 2;
     t.DrAsSociala = 1;
-    t.MotivStare = Utf("Schimbare domiciliu");
+    t.MotivStare = T("Schimbare domiciliu");
     t.DataStare = QDate(2014, 11, 20);
     t.LocuitAfara = 1;
-    t.Perioada11 = Utf("2012-2013");
-    t.TaraAfara11 = Utf("Italia");
-    t.Perioada22 = Utf("2013");
-    t.TaraAfara22 = Utf("Spania");
+    t.Perioada11 = T("2012-2013");
+    t.TaraAfara11 = T("Italia");
+    t.Perioada22 = T("2013");
+    t.TaraAfara22 = T("Spania");
     t.LucreazaAfara = 1;
-    t.Perioada1 = Utf("2012");
-    t.TaraAfara1 = Utf("Italia");
-    t.Perioada2 = Utf("2013");
-    t.TaraAfara2 = Utf("Germania");
+    t.Perioada1 = T("2012");
+    t.TaraAfara1 = T("Italia");
+    t.Perioada2 = T("2013");
+    t.TaraAfara2 = T("Germania");
     t.VMG = 1;
     t.Incalzire = 1;
     t.TipIncalzTrecut = 2;
-    t.Venit = Lei("450.25");
+    t.Venit = B("450.25");
     t.MotivID = 2;
-    t.Suma = Lei("120.5");
+    t.Suma = B("120.5");
     t.TipValuta = 1;
     t.StareMembru = 1;
     // Latest expiry first, as the list of a person is read back.
@@ -163,9 +157,9 @@ inline Dosar DosarComplet(BazaDate& db) {
     MembruCerere a = Persoana(db, 3, "Popescu", "Andrei", "5080417400033", "17 Aprilie 2008", QDate(2008, 4, 17));
     Ocupatie(db, a, 8, 3);
     a.Data18Ani = QDate(2026, 4, 17);
-    a.Motiv = Utf("implinirea varstei de 18 ani");
-    a.UScolara = Utf("Scoala Gimnaziala nr. 1");
-    a.LocScoala = Utf("Branesti");
+    a.Motiv = T("implinirea varstei de 18 ani");
+    a.UScolara = T("Scoala Gimnaziala nr. 1");
+    a.LocScoala = T("Branesti");
     a.Alocatie = 1;
     a.Adeverinte = {Adeverinta(3, "S-55", {2014, 9, 15}, {2014, 9, 20}, {2015, 6, 30}, 1)};
     m.push_back(a);
@@ -174,38 +168,38 @@ inline Dosar DosarComplet(BazaDate& db) {
     Ocupatie(db, e, 8, 4);
     e.Data18Ani = QDate(2023, 1, 1);
     e.Repetent = 1;
-    e.UScolara = Utf("Liceul Teoretic");
-    e.LocScoala = Utf("Buftea");
+    e.UScolara = T("Liceul Teoretic");
+    e.LocScoala = T("Buftea");
     e.Adeverinte = {Adeverinta(3, "S-56", {2014, 9, 16}, {2014, 9, 21}, {2015, 6, 30}, 1)};
     m.push_back(e);
 
     MembruCerere r = Persoana(db, 4, "Ionescu", "Vasile", "1500720400055", "20 Iulie 1950", QDate(1950, 7, 20));
     Ocupatie(db, r, 2, 2);
-    r.Eliberat = Utf("spclep BRANESTI"); // the titular's issuer in other letters: one row of Politii
-    r.MotivStare = Utf("Indeplineste conditiile");
+    r.Eliberat = T("spclep BRANESTI"); // the titular's issuer in other letters: one row of Politii
+    r.MotivStare = T("Indeplineste conditiile");
     m.push_back(r);
 
     MembruCerere u = Persoana(db, 6, "Marin", "Ana", "6100228400066", "28 Februarie 2010", QDate(2010, 2, 28));
     Ocupatie(db, u, 8, 3);
     u.Data18Ani = QDate(2028, 2, 28);
-    u.UScolara = Utf("Scoala Gimnaziala nr. 1");
-    u.LocScoala = Utf("Branesti");
+    u.UScolara = T("Scoala Gimnaziala nr. 1");
+    u.LocScoala = T("Branesti");
     u.Diminuare20 = 0;
     m.push_back(u);
     d.stare.MatriceMembri = m;
 
     StareCerere& s = d.stare;
-    s.Venituri[0] = Lei("300.5");
-    s.Venituri[5] = Lei("200");
-    s.Venituri[78] = Lei("100.0001");
-    s.Bunuri[1] = Lei("2");    // NrBifa 10, valued as row 11: 2 x 150
-    s.Bunuri[20] = Lei("1.5"); // NrBifa 29, valued as row 31: 1.5 x 600
-    s.Bunuri[74] = Lei("3");   // NrBifa 83, valued as row 84: 3 x 2
+    s.Venituri[0] = B("300.5");
+    s.Venituri[5] = B("200");
+    s.Venituri[78] = B("100.0001");
+    s.Bunuri[1] = B("2");    // NrBifa 10, valued as row 11: 2 x 150
+    s.Bunuri[20] = B("1.5"); // NrBifa 29, valued as row 31: 1.5 x 600
+    s.Bunuri[74] = B("3");   // NrBifa 83, valued as row 84: 3 x 2
     s.LocuinteSel[0] = {3, true};
     s.LocuinteSel[2] = {0, true};
     s.LocuinteSel[7] = {1, true};
-    s.Bife = Utf("0000000000");
-    s.ActeBife = Utf("1101000000000000000000000001");
+    s.Bife = T("0000000000");
+    s.ActeBife = T("1101000000000000000000000001");
     s.LunaGospod = 4;
     s.GospodLoc = 1;
     s.NrCamere = 3;
@@ -214,8 +208,8 @@ inline Dosar DosarComplet(BazaDate& db) {
     s.TipIncalzire = 3;
     s.TipLocuinta = 1;
     s.Polita = true;
-    s.SocietatePolita = Utf("Omniasig");
-    s.NrPolita = Utf("PAD123");
+    s.SocietatePolita = T("Omniasig");
+    s.NrPolita = T("PAD123");
     s.DataStartPolita = QDate(2014, 5, 1);
     s.DataStopPolita = QDate(2015, 4, 30);
     s.AcoperaRiscuri = true;

@@ -173,7 +173,7 @@ TEST_P(FormCerere, CerereNouaSalvataSiRedeschisa) {
         {24, "Ilfov"}, {23, "Buftea"}, {20, "14"}, {18, "C2"}, {19, "1"}, {21, "22"}};
     // clang-format on
     for (const auto& [i, text] : texte)
-        Scrie(Text(*f, i), Utf(text));
+        Scrie(Text(*f, i), T(text));
     Lista(*f, 0)->setEditText(QStringLiteral("Strada Morii"));
     Lista(*f, 6)->setEditText(QStringLiteral("Strada Garii"));
     Lista(*f, 5)->setEditText(QStringLiteral("Indeplineste conditiile"));
@@ -189,13 +189,13 @@ TEST_P(FormCerere, CerereNouaSalvataSiRedeschisa) {
 
     Adauga(*f, Familie());
     f->DeschideVenituri = [](StareCerere& s) {
-        s.Venituri[0] = Lei("300.5");
-        s.Venituri[5] = Lei("200");
+        s.Venituri[0] = B("300.5");
+        s.Venituri[5] = B("200");
         return true;
     };
     f->cmdVenituri->click();
     f->DeschideBife = [](StareCerere& s) {
-        s.Bunuri[1] = Lei("2");
+        s.Bunuri[1] = B("2");
         s.Bife = QStringLiteral("0000000000");
         return true;
     };
@@ -351,7 +351,7 @@ TEST_P(FormCerere, OKSpuneCeLipsesteSiRamaneDeschis) {
         mesaje.mesaje.clear();
         p.completeaza();
         f->cmdOK->click();
-        EXPECT_EQ(mesaje.Texte(), QStringList{Utf(p.mesaj)});
+        EXPECT_EQ(mesaje.Texte(), QStringList{T(p.mesaj)});
         ASSERT_NE(f->focusWidget(), nullptr);
         EXPECT_EQ(f->focusWidget()->objectName(), QLatin1String(p.focus));
         EXPECT_TRUE(f->isVisible());
@@ -455,7 +455,7 @@ TEST_P(FormCerere, CuantumulUrmeazaPersoaneleSiCasetele) {
     EXPECT_EQ(Text(*f, 14)->text(), QStringLiteral("92"));
 
     // The child leaves: the amount falls to nothing, the count of children stays shown.
-    motiv = MotivIesire{3, Lei("150"), 1};
+    motiv = MotivIesire{3, B("150"), 1};
     f->lvw->setCurrentItem(f->lvw->topLevelItem(1));
     f->cmdDelete->click();
     EXPECT_EQ(motiveCerute, 1);
@@ -482,7 +482,7 @@ TEST_P(FormCerere, EliminareaMutaPersoanaLaIesiti) {
     EXPECT_EQ(f->lvw->topLevelItemCount(), 6) << "No keeps the person";
     EXPECT_EQ(motiveCerute, 0);
 
-    motiv = MotivIesire{2, Lei("75.5"), 1};
+    motiv = MotivIesire{2, B("75.5"), 1};
     f->cmdDelete->click();
     EXPECT_EQ(motiveCerute, 1);
     EXPECT_EQ(Coloana(f->lvw, colPrenume),
@@ -531,7 +531,7 @@ TEST_P(FormCerere, StareaEsteADialoguluiSiPleacaOdataCuEl) {
     StareCerere* primita = nullptr;
     f->DeschideVenituri = [&](StareCerere& s) {
         primita = &s;
-        EXPECT_EQ(s.Venituri[0], Lei("300.5")) << "the stored incomes";
+        EXPECT_EQ(s.Venituri[0], B("300.5")) << "the stored incomes";
         s.Venituri[5] = Bani();
         return true;
     };
@@ -542,7 +542,7 @@ TEST_P(FormCerere, StareaEsteADialoguluiSiPleacaOdataCuEl) {
               (QStringList{QStringLiteral("400.5001"), QStringLiteral("66.7500166666667"), QStringLiteral("173")}));
     // A cancelled dialog changes nothing.
     f->DeschideVenituri = [](StareCerere& s) {
-        s.Venituri[1] = Lei("1000");
+        s.Venituri[1] = B("1000");
         return false;
     };
     f->cmdVenituri->click();
@@ -605,7 +605,7 @@ TEST_P(FormCerere, ButoaneleDeschidDialogurileDosarului) {
     f->cmdVenituri->click();
     EXPECT_EQ(deschise, (QStringList{QStringLiteral("frmBife"), QStringLiteral("frmAddActe"),
                                      QStringLiteral("frmAddLocuinta"), QStringLiteral("frmAddVenituri")}));
-    EXPECT_EQ(f->Stare()->Venituri[1], Lei("250.5"));
+    EXPECT_EQ(f->Stare()->Venituri[1], B("250.5"));
     EXPECT_EQ(Text(*f, 12)->text(), TextSuma(SumaVenituri(f->Stare()->Venituri)));
     EXPECT_NE(Text(*f, 12)->text(), TextSuma(SumaVenituri(inainte.Venituri)));
 }

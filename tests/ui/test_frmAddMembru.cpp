@@ -7,6 +7,7 @@
 #include "support/FormTest.h"
 #include "support/PersoaneTest.h"
 #include "support/SqlTest.h"
+#include "support/Texte.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -25,10 +26,6 @@
 using namespace ElemPersoana;
 
 namespace {
-
-QString T(const char* s) {
-    return QString::fromUtf8(s);
-}
 
 const QString CnpMama = CuControl("285030240001");     // 2 March 1985, on request 3
 const QString CnpFiu = CuControl("514020340002");      // 3 February 2014, on request 3

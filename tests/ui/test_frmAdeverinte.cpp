@@ -9,6 +9,7 @@
 #include "shell/UiDataOptionala.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
+#include "support/Texte.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -26,10 +27,6 @@
 namespace {
 
 const QDate Azi(2026, 11, 22);
-
-QString T(const char* s) {
-    return QString::fromUtf8(s);
-}
 
 class FormAdeverinte : public TestBaza {
 protected:

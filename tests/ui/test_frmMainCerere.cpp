@@ -180,7 +180,7 @@ TEST_P(FereastraSiEditor, ModificareaRescrieRandul) {
     EXPECT_EQ(r->CerereID, id);
     EXPECT_EQ(r->Stare, 4);
     EXPECT_TRUE(r->Rosu());
-    EXPECT_EQ(r->VenitTotal, Lei("900.5"));
+    EXPECT_EQ(r->VenitTotal, B("900.5"));
     EXPECT_EQ(r->StareText, ListaCereri::Citeste(Bd(), id).StareText);
     EXPECT_EQ(Model().Rand(0)->Stare, 2) << "the other row is untouched";
 

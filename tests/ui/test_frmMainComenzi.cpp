@@ -324,8 +324,8 @@ TEST_P(ComenziFereastra, FisaDeCalculCuDataEmiteriiSiDeclaratia) {
 }
 
 TEST_P(ComenziFereastra, TiparireaTuturorDispozitiilorSiOprireaEi) {
-    ScrieDispozitie(Bd(), {5, 7, 44, QDate(2015, 3, 2), QDate(2015, 3, 1), 1, Suma("82"), QVariant(), U("a doua")});
-    ScrieDispozitie(Bd(), {6, 7, 47, QDate(2015, 3, 2), QDate(2015, 4, 1), 1, Suma("82"), QVariant(), U("aprilie")});
+    ScrieDispozitie(Bd(), {5, 7, 44, QDate(2015, 3, 2), QDate(2015, 3, 1), 1, Suma("82"), QVariant(), T("a doua")});
+    ScrieDispozitie(Bd(), {6, 7, 47, QDate(2015, 3, 2), QDate(2015, 4, 1), 1, Suma("82"), QVariant(), T("aprilie")});
     frmMain& f = Deschide();
     QAction* a = f.findChild<QAction*>(QStringLiteral("mnuAnexa2"));
     ASSERT_EQ(a, f.mnuAnexa2);

@@ -4,6 +4,7 @@
 #include "support/CereriTest.h"
 #include "support/FormTest.h"
 #include "support/SqlTest.h"
+#include "support/Texte.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -15,10 +16,6 @@
 #include <QTest>
 
 namespace {
-
-QString T(const char* s) {
-    return QString::fromUtf8(s);
-}
 
 // ---------------------------------------------------------------------------------------------
 // frmMotiv

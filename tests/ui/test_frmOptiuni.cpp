@@ -4,6 +4,7 @@
 #include "shell/frmOptiuni.h"
 #include "support/FormTest.h"
 #include "support/MesajeInregistrate.h"
+#include "support/Texte.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -17,10 +18,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-std::string S(const QString& q) {
-    return q.toStdString();
-}
 
 class DialogOptiuni : public ::testing::Test {
 protected:

@@ -4,6 +4,7 @@
 #include "cases/frmBife.h"
 #include "support/BazaTest.h"
 #include "support/FormTest.h"
+#include "support/Texte.h"
 
 #include <QApplication>
 #include <QDir>
@@ -20,10 +21,6 @@
 
 namespace {
 
-Bani Lei(const char* s) {
-    return *Bani::DinText(QString::fromLatin1(s));
-}
-
 const QString NuEsteSuma =
     QStringLiteral("\"abc\" nu este o suma valida: se asteapta un numar, cu virgula sau punct inaintea zecimalelor.");
 
@@ -33,11 +30,11 @@ protected:
         TestBaza::SetUp();
         if (IsSkipped()) return;
         BazaNoua();
-        stare.Venituri[0] = Lei("1500");
-        stare.Venituri[2] = Lei("250.5");
-        stare.Venituri[78] = Lei("9"); // no row of the catalogue: kept
-        stare.Bunuri[0] = Lei("2");
-        stare.Bunuri[74] = Lei("3");
+        stare.Venituri[0] = B("1500");
+        stare.Venituri[2] = B("250.5");
+        stare.Venituri[78] = B("9"); // no row of the catalogue: kept
+        stare.Bunuri[0] = B("2");
+        stare.Bunuri[74] = B("3");
         stare.Bife = QStringLiteral("0100000001");
         stare.ActeBife = QStringLiteral("1101");
     }
@@ -115,10 +112,10 @@ TEST_P(DialoguriCerere, VeniturileSeScriuLaOKSiTotalulUrmeazaFiecareCelula) {
     EXPECT_EQ(f.result(), QDialog::Accepted);
     StareCerere asteptat = inainte;
     asteptat.Venituri[0] = Bani();
-    asteptat.Venituri[1] = Lei("1234.5");
-    asteptat.Venituri[77] = Lei("0.25");
+    asteptat.Venituri[1] = B("1234.5");
+    asteptat.Venituri[77] = B("0.25");
     EXPECT_TRUE(stare == asteptat);
-    EXPECT_EQ(stare.Venituri[78], Lei("9"));
+    EXPECT_EQ(stare.Venituri[78], B("9"));
 }
 
 TEST_P(DialoguriCerere, RenuntareaLaVenituriNuAtingeStarea) {
@@ -194,7 +191,7 @@ TEST_P(DialoguriCerere, BunurileSiExcludereaSeScriuLaOK) {
     StareCerere asteptat = inainte;
     asteptat.Bife = QStringLiteral("0000100001");
     asteptat.Bunuri[0] = Bani();
-    asteptat.Bunuri[10] = Lei("0.5");
+    asteptat.Bunuri[10] = B("0.5");
     EXPECT_TRUE(stare == asteptat) << stare.Bife.toStdString();
 }
 
