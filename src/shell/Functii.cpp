@@ -83,14 +83,16 @@ bool VerificaCNP(const QString& cnp, Mesaje* m) {
     const int judet = cifra(cnp, 7) * 10 + cifra(cnp, 8);
     if (!((judet >= 1 && judet <= 47) || judet == 51 || judet == 52 || judet == 99)) return respins(judetSauControl);
 
+    if (CifraControlCnp(cnp) != cifra(cnp, 12)) return respins(judetSauControl);
+    return true;
+}
+
+int CifraControlCnp(QStringView douasprezece) {
     static constexpr std::array<int, 12> ponderi{2, 7, 9, 1, 4, 6, 3, 5, 8, 2, 7, 9};
     int suma = 0;
     for (int i = 0; i < 12; ++i)
-        suma += cifra(cnp, i) * ponderi[i];
-    int control = suma % 11;
-    if (control == 10) control = 1;
-    if (control != cifra(cnp, 12)) return respins(judetSauControl);
-    return true;
+        suma += (douasprezece[i].unicode() - u'0') * ponderi[size_t(i)];
+    return suma % 11 == 10 ? 1 : suma % 11;
 }
 
 QDate DataNasterii(const QString& cnp, bool adauga18, Mesaje* m) {

@@ -18,6 +18,9 @@ class Mesaje;
 // A personal numeric code: 13 digits S YY MM DD JJ NNN C. The checks run in a fixed order and
 // the first failure is the only one reported, as a critical box titled "CNP".
 bool VerificaCNP(const QString& cnp, Mesaje* m);
+// The control digit of a code's first twelve digits: their sum weighted 2 7 9 1 4 6 3 5 8 2 7 9,
+// modulo 11, with 10 written as 1.
+int CifraControlCnp(QStringView douasprezece);
 // Only the ASCII digits 0 to 9: other scripts' digits are not part of a CNP.
 bool EsteCifra(QChar c);
 // Val(text) between jos and sus, both included.

@@ -240,7 +240,6 @@ QString Generator::cnp(const QDate& nastere, bool barbat, int judet) {
     int nnn = zar_.Intre(1, 999);
     auto poz = std::find(coduriCnp_.begin(), coduriCnp_.end(), judet);
     size_t ij = poz == coduriCnp_.end() ? 0 : size_t(poz - coduriCnp_.begin());
-    static const int ponderi[12] = {2, 7, 9, 1, 4, 6, 3, 5, 8, 2, 7, 9};
     // A collision moves on to the next serial number, then the next county, without drawing:
     // the rest of the data stays the same whatever the database already holds.
     for (size_t incercari = 0; incercari < 999 * coduriCnp_.size(); ++incercari) {
@@ -257,14 +256,13 @@ QString Generator::cnp(const QDate& nastere, bool barbat, int judet) {
                            nnn / 100,
                            nnn / 10 % 10,
                            nnn % 10};
-        int suma = 0;
+        QString douasprezece;
         quint64 numar = 0;
         for (int i = 0; i < 12; ++i) {
-            suma += c[i] * ponderi[i];
+            douasprezece += QChar(u'0' + c[i]);
             numar = numar * 10 + quint64(c[i]);
         }
-        const int control = suma % 11 == 10 ? 1 : suma % 11;
-        numar = numar * 10 + quint64(control);
+        numar = numar * 10 + quint64(CifraControlCnp(douasprezece));
         if (cnpFolosite_.insert(numar).second) return QStringLiteral("%1").arg(numar, 13, 10, QLatin1Char('0'));
         nnn = nnn % 999 + 1;
         if (incercari % 999 == 998) ij = (ij + 1) % coduriCnp_.size();

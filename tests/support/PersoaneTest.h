@@ -1,16 +1,11 @@
 #pragma once
 
 #include "cases/StareCerere.h"
+#include "shell/Functii.h"
 
-// A code with the control digit of its first twelve: weights 2 7 9 1 4 6 3 5 8 2 7 9, sum
-// modulo 11, 10 written as 1.
-inline QString CuControl(const char* douasprezece) {
-    static const int ponderi[12] = {2, 7, 9, 1, 4, 6, 3, 5, 8, 2, 7, 9};
-    int suma = 0;
-    for (int i = 0; i < 12; ++i)
-        suma += (douasprezece[i] - '0') * ponderi[i];
-    const int control = suma % 11 == 10 ? 1 : suma % 11;
-    return QString::fromLatin1(douasprezece) + QString::number(control);
+// A code with the control digit of its first twelve.
+inline QString CuControl(const QString& douasprezece) {
+    return douasprezece + QString::number(CifraControlCnp(douasprezece));
 }
 
 // Three elements that fill every field their kind of person has, for the round trips through
