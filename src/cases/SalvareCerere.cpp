@@ -74,10 +74,6 @@ QVariant Text(const char* tabela, const char* camp, const QString& v) {
                          .arg(c->marime));
     return v;
 }
-// What the search key of a name field holds: none for no name, as the name itself.
-QVariant cheieCautare(const QString& nume) {
-    return nume.isEmpty() ? QVariant() : QVariant(CheieCautare(nume));
-}
 QVariant Data(const QDate& d) {
     return d.isValid() ? QVariant(d) : QVariant();
 }
@@ -289,8 +285,8 @@ private:
             const Randuri r = {
                 {"Nume", Text("Membrii", "Nume", p->Nume)},
                 {"Prenume", Text("Membrii", "Prenume", p->Prenume)},
-                {"NumeCautare", cheieCautare(p->Nume)},
-                {"PrenumeCautare", cheieCautare(p->Prenume)},
+                {"NumeCautare", CheieCautareStocata(p->Nume)},
+                {"PrenumeCautare", CheieCautareStocata(p->Prenume)},
                 {"CNP", Text("Membrii", "CNP", p->CNP)},
                 {"TipAct", p->TipAct},
                 {"SerieBI", Text("Membrii", "SerieBI", p->SerieBI)},

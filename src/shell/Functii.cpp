@@ -228,6 +228,10 @@ QString CheieCautare(const QString& text) {
     return r;
 }
 
+QVariant CheieCautareStocata(const QString& nume) {
+    return nume.isEmpty() ? QVariant() : QVariant(CheieCautare(nume));
+}
+
 QString FormatData(const QDate& data) {
     return data.isValid() ? data.toString(QStringLiteral("dd.MM.yyyy")) : QString();
 }

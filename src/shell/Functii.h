@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <QStringView>
+#include <QVariant>
 #include <cstdint>
 #include <optional>
 
@@ -56,6 +57,8 @@ QString PrefixLike(const QString& text);
 // gives at most one, so the key fits wherever the name fits and the key of a prefix is a prefix of
 // the key.
 QString CheieCautare(const QString& text);
+// The search key as a name's field stores it: none for no name, as the name itself.
+QVariant CheieCautareStocata(const QString& nume);
 
 // First character in upper case, the rest as it is.
 QString MajusculaPrima(const QString& s);

@@ -192,14 +192,9 @@ private:
                                                "ORDER BY MembruID LIMIT 5000"));
         Interogare scrie(db_,
                          QStringLiteral("UPDATE Membrii SET NumeCautare = ?, PrenumeCautare = ? WHERE MembruID = ?"));
-        // As the save writes them: no key for no name.
-        const auto cheie = [](const QVariant& nume) {
-            const QString n = nume.toString();
-            return n.isEmpty() ? QVariant() : QVariant(CheieCautare(n));
-        };
         struct Rand {
             qint64 id;
-            QVariant nume, prenume;
+            QString nume, prenume;
         };
         qint64 dupa = std::numeric_limits<qint64>::min();
         qint64 completate = 0;
@@ -207,10 +202,10 @@ private:
             std::vector<Rand> pagina;
             citeste.Leaga(dupa).Executa();
             while (citeste.Urmator())
-                pagina.push_back({citeste.Intreg(0), citeste.Valoare(1), citeste.Valoare(2)});
+                pagina.push_back({citeste.Intreg(0), citeste.Valoare(1).toString(), citeste.Valoare(2).toString()});
             if (pagina.empty()) break;
             for (const Rand& r : pagina)
-                scrie.Leaga(cheie(r.nume)).Leaga(cheie(r.prenume)).Leaga(r.id).Executa();
+                scrie.Leaga(CheieCautareStocata(r.nume)).Leaga(CheieCautareStocata(r.prenume)).Leaga(r.id).Executa();
             completate += qint64(pagina.size());
             dupa = pagina.back().id;
         }

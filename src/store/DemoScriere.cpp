@@ -49,8 +49,8 @@ void Generator::scrie(Dosar& d) {
             .Leaga(p.eliberat)
             .Leaga(p.dataElib)
             .Leaga(p.dizabilitate ? 1 : 0)
-            .Leaga(CheieCautare(p.nume))
-            .Leaga(CheieCautare(p.prenume))
+            .Leaga(CheieCautareStocata(p.nume))
+            .Leaga(CheieCautareStocata(p.prenume))
             .Executa();
 
     const bool cont = zar_.Sansa(d.dataCerere.year() >= 2018 ? 60 : 35);
