@@ -3,7 +3,7 @@
 #include "cases/Adeverinte.h"
 #include "store/ActualizareBD.h"
 #include "store/DateLivrate.h"
-#include "store/Demo.h"
+#include "maintenance/Demo.h"
 
 #include <QDir>
 #include <QFile>

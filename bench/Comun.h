@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Mesaje.h"
+#include "base/Mesaje.h"
 #include "store/BazaDate.h"
 
 #include <QString>

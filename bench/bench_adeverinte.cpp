@@ -1,7 +1,7 @@
 #include "Comun.h"
 
 #include "cases/Adeverinte.h"
-#include "shell/Ceas.h"
+#include "base/Ceas.h"
 #include "store/BazaDate.h"
 
 #include <benchmark/benchmark.h>

@@ -2,7 +2,7 @@
 #include "store/ActualizareBD.h"
 #include "store/BazaDate.h"
 #include "store/DateLivrate.h"
-#include "store/Demo.h"
+#include "maintenance/Demo.h"
 
 #include <QFile>
 #include <QTemporaryDir>

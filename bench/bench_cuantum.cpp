@@ -1,5 +1,5 @@
 #include "cases/CalculCuantum.h"
-#include "shell/Mesaje.h"
+#include "base/Mesaje.h"
 #include "store/BazaDate.h"
 #include "store/DateLivrate.h"
 

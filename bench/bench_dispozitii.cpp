@@ -2,8 +2,8 @@
 
 #include "cases/Anchete.h"
 #include "cases/Dispozitii.h"
-#include "shell/ListaCereri.h"
-#include "shell/PaneluriCerere.h"
+#include "cases/ListaCereri.h"
+
 #include "store/BazaDate.h"
 
 #include <QDate>
@@ -67,7 +67,7 @@ void SchimbareRand(benchmark::State& st) {
     for (auto _ : st) {
         const RandCerere r = ListaCereri::Citeste(*db, id);
         const auto anchete = Anchete::ListaAnchete(*db, id);
-        const auto dispozitii = PaneluriCerere::ListaDispozitii(*db, id);
+        const auto dispozitii = Dispozitii::ListaDispozitii(*db, id);
         benchmark::DoNotOptimize(r.CerereID);
         randuri += anchete.size() + dispozitii.size();
         ++cereri;

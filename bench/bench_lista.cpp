@@ -1,8 +1,8 @@
 #include "Comun.h"
 
-#include "shell/ListaCereri.h"
-#include "shell/ModelCereri.h"
-#include "shell/Setari.h"
+#include "cases/ListaCereri.h"
+#include "cases/ModelCereri.h"
+#include "base/Setari.h"
 #include "store/ActualizareBD.h"
 #include "store/BazaDate.h"
 

@@ -1,6 +1,6 @@
 #include "Comun.h"
 
-#include "operations/PunteWeb.h"
+#include "documents/web/PunteWeb.h"
 #include "store/BazaDate.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "Comun.h"
 
 #include "cases/frmListaActeExpira.h"
-#include "shell/Ceas.h"
+#include "base/Ceas.h"
 
 #include <QAbstractItemModel>
 #include <QApplication>

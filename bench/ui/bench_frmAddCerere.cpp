@@ -1,7 +1,7 @@
 #include "Comun.h"
 
 #include "cases/frmAddCerere.h"
-#include "shell/Setari.h"
+#include "base/Setari.h"
 #include "store/BazaDate.h"
 
 #include <QApplication>

@@ -2,10 +2,10 @@
 
 #include "cases/Dispozitii.h"
 #include "cases/frmAnexa2.h"
-#include "shell/ModelCereri.h"
-#include "shell/Program.h"
-#include "shell/Setari.h"
-#include "shell/frmMain.h"
+#include "cases/ModelCereri.h"
+#include "store/Program.h"
+#include "base/Setari.h"
+#include "app/frmMain.h"
 #include "store/BazaDate.h"
 
 #include <QComboBox>

@@ -1,11 +1,11 @@
-#include "shell/Eroare.h"
-#include "shell/Foldere.h"
-#include "shell/Pornire.h"
-#include "shell/Program.h"
-#include "shell/UiMesaje.h"
-#include "shell/frmGeneral.h"
-#include "shell/frmLogin.h"
-#include "shell/frmMain.h"
+#include "base/Eroare.h"
+#include "base/Foldere.h"
+#include "app/Pornire.h"
+#include "store/Program.h"
+#include "ui/UiMesaje.h"
+#include "app/frmGeneral.h"
+#include "app/frmLogin.h"
+#include "app/frmMain.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,9 +1,10 @@
 #include "cases/Adeverinte.h"
 
 #include "cases/DateCerere.h"
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
+#include "base/Eroare.h"
+#include "base/Texte.h"
+#include "cases/Cnp.h"
+#include "base/Mesaje.h"
 #include "store/BazaDate.h"
 #include "store/Schema.h"
 
@@ -448,4 +449,19 @@ bool Adeverinte::StergeAdeverintaScolara(BazaDate& db, Mesaje& m, qint64 adevID,
     Interogare(db, QStringLiteral("DELETE FROM Adeverinte WHERE AdevID = ?")).Leaga(adevID).Executa();
     t.Confirma();
     return true;
+}
+
+bool Adeverinte::ActeCareExpira(BazaDate& db, const QDate& azi) {
+    const QDate inceput(azi.year(), azi.month(), 1);
+    Interogare q(db, QStringLiteral("SELECT 1 FROM Familii F INNER JOIN Cereri C ON F.FamilieID = C.FamilieID "
+                                    "INNER JOIN Adeverinte A ON C.CerereID = A.CerereID "
+                                    "WHERE C.Stare IN (2, 6, 7, 8) AND A.DataExpAdev >= ? AND A.DataExpAdev < ? "
+                                    "AND A.AdvCurenta = 1"));
+    q.Leaga(inceput).Leaga(inceput.addMonths(1));
+    return q.Exista();
+}
+
+QString Adeverinte::TextNotificare(const QDate& azi) {
+    return QStringLiteral("Aveti acte care expira in luna %1 !\nClick pentru a detalii.")
+        .arg(LuniAn()[azi.month() - 1]);
 }

@@ -189,4 +189,8 @@ qint64 SalveazaAdeverintaScolara(BazaDate& db, const AdeverintaScolara& a, bool 
 // longer in the database (deleted now, or already gone, which is told); false when the clerk said no.
 bool StergeAdeverintaScolara(BazaDate& db, Mesaje& m, qint64 adevID, const QString& nrAdev);
 
+// Whether a paying request has a current certificate that expires in the month of `azi`.
+bool ActeCareExpira(BazaDate& db, const QDate& azi);
+QString TextNotificare(const QDate& azi);
+
 } // namespace Adeverinte

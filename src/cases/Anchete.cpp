@@ -1,11 +1,11 @@
 #include "cases/Anchete.h"
 
 #include "cases/RandDisponibil.h"
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
-#include "shell/Pornire.h"
-#include "shell/Val.h"
+#include "base/Eroare.h"
+#include "base/Texte.h"
+#include "cases/Cnp.h"
+#include "base/Mesaje.h"
+#include "base/Val.h"
 #include "store/BazaDate.h"
 
 #include <QVariant>

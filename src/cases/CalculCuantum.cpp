@@ -1,10 +1,11 @@
 #include "cases/CalculCuantum.h"
 
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
-#include "shell/Setari.h"
-#include "shell/Val.h"
+#include "base/Eroare.h"
+#include "base/Texte.h"
+#include "base/Sume.h"
+#include "base/Mesaje.h"
+#include "base/Setari.h"
+#include "base/Val.h"
 #include "store/BazaDate.h"
 
 #include <algorithm>
@@ -189,4 +190,37 @@ QString VenitPeMembruText(const Bani& venitTotal, int nrMembrii) {
         }
     }
     return t;
+}
+
+QString VerificaPraguriVenit(const std::optional<QString>& continut, Mesaje& m) {
+    const QString titlu = QStringLiteral("Eroare");
+    const QString formatGresit = QStringLiteral("Format praguri gresit!");
+    if (!continut) {
+        m.Critic(QStringLiteral("PRAGURI_VENIT nu exista!"), titlu);
+        return {};
+    }
+    const QString& praguri = *continut;
+    if (praguri.trimmed().isEmpty()) {
+        m.Critic(QStringLiteral("Nu sunt definite praguri venit!"), titlu);
+        return {};
+    }
+    if (!praguri.contains(u'|')) {
+        m.Critic(formatGresit, titlu);
+        return {};
+    }
+    // A blank part is no threshold: "210.2|" holds only one.
+    const auto parti = QStringView(praguri).split(u'|');
+    const auto pline = std::count_if(parti.begin(), parti.end(), [](QStringView p) { return !p.trimmed().isEmpty(); });
+    if (pline < 2) {
+        m.Critic(formatGresit + QStringLiteral("\nTrebuie cel putin doua praguri."), titlu);
+        return {};
+    }
+    return praguri;
+}
+
+QString PraguriVenit(BazaDate& db, Mesaje& m) {
+    Interogare q(db, QStringLiteral("SELECT Continut FROM DateGen WHERE Denumire = ?"));
+    q.Leaga(QStringLiteral("PRAGURI_VENIT"));
+    if (!q.Exista()) return VerificaPraguriVenit(std::nullopt, m);
+    return VerificaPraguriVenit(q.Valoare(0).toString(), m);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cases/StareCerere.h"
-#include "shell/Bani.h"
+#include "base/Bani.h"
 
 #include <QDate>
 #include <QString>
@@ -75,3 +75,11 @@ TotaluriMembri RecalculTotaluri(int nrInLista, const std::optional<std::vector<M
 // point, no trailing zeros ("333.333333333333"). Empty when NrMembrii is not above 0: the box
 // then keeps its text.
 QString VenitPeMembruText(const Bani& venitTotal, int nrMembrii);
+
+// The income thresholds text of DateGen ("210.2|557.03"); empty after a critical message when
+// it is missing, blank or not at least two values separated by "|".
+QString PraguriVenit(BazaDate& db, Mesaje& m);
+
+// The same checks over a Continut already read: nullopt stands for a missing row, and a null
+// Continut is an empty text.
+QString VerificaPraguriVenit(const std::optional<QString>& continut, Mesaje& m);

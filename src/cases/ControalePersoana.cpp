@@ -1,7 +1,8 @@
 #include "cases/ControalePersoana.h"
 
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
+#include "base/Eroare.h"
+#include "base/Texte.h"
+#include "base/Sume.h"
 #include "store/BazaDate.h"
 
 #include <QRegularExpression>

@@ -1,9 +1,11 @@
 #include "cases/DateCerere.h"
 
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
-#include "shell/Val.h"
+#include "base/Eroare.h"
+#include "base/Texte.h"
+#include "base/Sume.h"
+#include "cases/Cnp.h"
+#include "base/Mesaje.h"
+#include "base/Val.h"
 #include "store/BazaDate.h"
 
 #include <map>

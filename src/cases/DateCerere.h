@@ -1,8 +1,7 @@
 #pragma once
 
 #include "cases/StareCerere.h"
-#include "shell/Bani.h"
-#include "shell/Functii.h"
+#include "base/Bani.h"
 
 #include <QDate>
 #include <QString>

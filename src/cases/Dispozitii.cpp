@@ -1,11 +1,10 @@
 #include "cases/Dispozitii.h"
 
 #include "cases/RandDisponibil.h"
-#include "shell/Ceas.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Pornire.h"
-#include "shell/Val.h"
+#include "base/Ceas.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "base/Val.h"
 #include "store/BazaDate.h"
 
 #include <QStringList>
@@ -443,4 +442,35 @@ std::vector<DispozitieDeTiparit> Dispozitii::SelecteazaPentruTiparire(BazaDate& 
     }
     if (r.empty()) m.Informatie(QStringLiteral("Nu exista nici o dispozitie de tiparit. Faceti o alta selectie!"));
     return r;
+}
+
+std::vector<RandDispozitie> Dispozitii::ListaDispozitii(BazaDate& db, qint64 cerereID) {
+    Interogare q(
+        db,
+        QStringLiteral("SELECT D.DispozitieID, D.NrDisp, D.DataDisp, G.Continut AS TipDecizie, D.Cuantum, D.Luna, D.An "
+                       "FROM Dispozitii D LEFT JOIN DateGen G ON G.Tip = 20 AND G.DataID = D.Actiune "
+                       "WHERE D.CerereID = ? ORDER BY D.DataDisp DESC, D.DispozitieID DESC"));
+    q.Leaga(cerereID).Executa();
+    std::vector<RandDispozitie> r;
+    while (q.Urmator()) {
+        auto text = [&](const char* camp) {
+            const QVariant v = q.Valoare(QString::fromLatin1(camp));
+            return v.isNull() ? QString() : v.toString();
+        };
+        r.push_back({q.Intreg(QStringLiteral("DispozitieID")), text("NrDisp"), q.Data(QStringLiteral("DataDisp")),
+                     text("TipDecizie"), q.Suma(QStringLiteral("Cuantum")), text("Luna"), text("An")});
+    }
+    return r;
+}
+
+QString Dispozitii::TitluDispozitii(const QString& solicitant, size_t randuri) {
+    return randuri == 0 ? QString() : QStringLiteral("Dispozitiile lui %1.").arg(solicitant);
+}
+
+bool Dispozitii::StergeDispozitie(BazaDate& db, qint64 dispozitieID) {
+    Tranzactie t(db);
+    Interogare d(db, QStringLiteral("DELETE FROM Dispozitii WHERE DispozitieID = ?"));
+    d.Leaga(dispozitieID).Executa();
+    t.Confirma();
+    return d.RanduriAfectate() > 0;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/Bani.h"
-#include "shell/Functii.h"
+#include "base/Bani.h"
+#include "base/Sume.h"
 
 #include <QDate>
 #include <QString>
@@ -100,6 +100,16 @@ struct DispozitieDeTiparit {
     int Actiune = 0;
 };
 
+// A row of the main window's dispositions list.
+struct RandDispozitie {
+    qint64 DispozitieID = 0;
+    QString NrDisp;
+    QDate DataDisp;
+    QString TipDecizie; // the action's text
+    Bani Cuantum;
+    QString Luna, An;
+};
+
 namespace Dispozitii {
 
 // The six kinds, in the order of Actiune.
@@ -150,5 +160,11 @@ QStringList MesajeGenerare(const RezultatGenerare& r);
 // anSetat; an unset choice or an empty number counts as 0. None: its message, and an empty list.
 std::vector<DispozitieDeTiparit> SelecteazaPentruTiparire(BazaDate& db, Mesaje& m, const SelectieTiparire& s,
                                                           int anSetat);
+
+// The main window's list of a request's dispositions, newest first.
+std::vector<RandDispozitie> ListaDispozitii(BazaDate& db, qint64 cerereID);
+QString TitluDispozitii(const QString& solicitant, size_t randuri);
+// Deletes one disposition; false when it was already gone.
+bool StergeDispozitie(BazaDate& db, qint64 dispozitieID);
 
 } // namespace Dispozitii

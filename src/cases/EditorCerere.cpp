@@ -1,9 +1,9 @@
 #include "cases/EditorCerere.h"
 
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
-#include "shell/Val.h"
+#include "base/Eroare.h"
+#include "base/Sume.h"
+#include "base/Mesaje.h"
+#include "base/Val.h"
 #include "store/BazaDate.h"
 
 namespace {

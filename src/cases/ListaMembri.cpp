@@ -1,8 +1,9 @@
 #include "cases/ListaMembri.h"
 
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
+#include "base/Eroare.h"
+#include "base/Texte.h"
+#include "base/Sume.h"
+#include "base/Mesaje.h"
 
 #include <algorithm>
 

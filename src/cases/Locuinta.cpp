@@ -1,7 +1,7 @@
 #include "cases/Locuinta.h"
 
 #include "cases/StareCerere.h"
-#include "shell/Val.h"
+#include "base/Val.h"
 #include "store/BazaDate.h"
 
 #include <cmath>

@@ -1,8 +1,11 @@
 #include "cases/Persoana.h"
 
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
+#include "base/Eroare.h"
+#include "base/Sume.h"
+#include "base/Texte.h"
+#include "cases/Cnp.h"
+#include "store/Dialect.h"
+#include "base/Mesaje.h"
 #include "store/BazaDate.h"
 
 #include <algorithm>

@@ -1,7 +1,6 @@
 #include "cases/RandDisponibil.h"
 
-#include "shell/Mesaje.h"
-#include "shell/Pornire.h"
+#include "base/Mesaje.h"
 #include "store/BazaDate.h"
 
 bool RandDisponibil(BazaDate& db, Mesaje& m, qint64 cheie, const QString& faraSelectie, const QString& sql,

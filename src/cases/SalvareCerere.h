@@ -2,7 +2,7 @@
 
 #include "cases/DateCerere.h"
 #include "cases/StareCerere.h"
-#include "shell/Bani.h"
+#include "base/Bani.h"
 
 #include <QString>
 #include <functional>

@@ -1,7 +1,7 @@
 #include "cases/UiCampuriAdeverinta.h"
 
-#include "shell/Ceas.h"
-#include "shell/UiDataOptionala.h"
+#include "base/Ceas.h"
+#include "ui/UiDataOptionala.h"
 #include "store/Schema.h"
 
 #include <QFormLayout>

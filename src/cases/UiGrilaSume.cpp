@@ -1,7 +1,7 @@
 #include "cases/UiGrilaSume.h"
 
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
 
 #include <QHeaderView>
 #include <QTableWidget>

@@ -1,7 +1,7 @@
 #include "cases/VenituriBunuri.h"
 
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
+#include "base/Eroare.h"
+#include "base/Sume.h"
 #include "store/BazaDate.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "cases/SalvareCerere.h"
 
-#include "shell/Mesaje.h"
-#include "shell/Val.h"
+#include "base/Mesaje.h"
+#include "base/Val.h"
 #include "store/BazaDate.h"
 
 #include <cmath>

@@ -1,12 +1,12 @@
 #include "cases/frmAdAdeverinte.h"
 
 #include "cases/UiCampuriAdeverinta.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Pornire.h"
-#include "shell/UiButoane.h"
-#include "shell/UiDataOptionala.h"
-#include "shell/UiFormular.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "store/BazaDate.h"
+#include "ui/UiButoane.h"
+#include "ui/UiDataOptionala.h"
+#include "ui/UiFormular.h"
 
 #include <QComboBox>
 #include <QFormLayout>

@@ -2,9 +2,9 @@
 
 #include "cases/StareCerere.h"
 #include "cases/VenituriBunuri.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/UiButoane.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "ui/UiButoane.h"
 
 #include <QHBoxLayout>
 #include <QListWidget>

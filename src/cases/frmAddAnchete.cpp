@@ -1,12 +1,12 @@
 #include "cases/frmAddAnchete.h"
 
-#include "shell/Ceas.h"
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
-#include "shell/UiButoane.h"
-#include "shell/UiDataOptionala.h"
-#include "shell/UiFormular.h"
+#include "base/Ceas.h"
+#include "base/Eroare.h"
+#include "base/Texte.h"
+#include "base/Mesaje.h"
+#include "ui/UiButoane.h"
+#include "ui/UiDataOptionala.h"
+#include "ui/UiFormular.h"
 #include "store/Schema.h"
 
 #include <QComboBox>

@@ -1,11 +1,11 @@
 #include "cases/frmAddDispozitie.h"
 
 #include "cases/Anchete.h"
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
-#include "shell/UiButoane.h"
-#include "shell/UiFormular.h"
+#include "base/Eroare.h"
+#include "base/Texte.h"
+#include "base/Mesaje.h"
+#include "ui/UiButoane.h"
+#include "ui/UiFormular.h"
 
 #include <QComboBox>
 #include <QDateEdit>

@@ -1,10 +1,10 @@
 #include "cases/frmAddLocuinta.h"
 
 #include "cases/StareCerere.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/UiButoane.h"
-#include "shell/UiDataOptionala.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "ui/UiButoane.h"
+#include "ui/UiDataOptionala.h"
 #include "store/Schema.h"
 
 #include <QCheckBox>

@@ -1,10 +1,10 @@
 #include "cases/frmAddMembru.h"
 
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/UiButoane.h"
-#include "shell/UiDataOptionala.h"
-#include "shell/UiFormular.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "ui/UiButoane.h"
+#include "ui/UiDataOptionala.h"
+#include "ui/UiFormular.h"
 #include "store/Schema.h"
 
 #include <QCheckBox>

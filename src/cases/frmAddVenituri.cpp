@@ -2,10 +2,10 @@
 
 #include "cases/StareCerere.h"
 #include "cases/UiGrilaSume.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Setari.h"
-#include "shell/UiButoane.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "base/Setari.h"
+#include "ui/UiButoane.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>

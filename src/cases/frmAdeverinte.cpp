@@ -3,11 +3,11 @@
 #include "cases/Adeverinte.h"
 #include "cases/DateCerere.h"
 #include "cases/frmAdAdeverinte.h"
-#include "shell/Ceas.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Pornire.h"
-#include "store/UiListe.h"
+#include "base/Ceas.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "store/BazaDate.h"
+#include "reference/UiListe.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>

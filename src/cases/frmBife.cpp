@@ -2,10 +2,10 @@
 
 #include "cases/StareCerere.h"
 #include "cases/UiGrilaSume.h"
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
-#include "shell/UiButoane.h"
+#include "base/Eroare.h"
+#include "base/Sume.h"
+#include "base/Mesaje.h"
+#include "ui/UiButoane.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>

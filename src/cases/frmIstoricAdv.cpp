@@ -1,8 +1,8 @@
 #include "cases/frmIstoricAdv.h"
 
 #include "cases/Adeverinte.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>

@@ -2,10 +2,10 @@
 
 #include "cases/Adeverinte.h"
 #include "cases/DateCerere.h"
-#include "shell/Ceas.h"
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
+#include "base/Ceas.h"
+#include "base/Eroare.h"
+#include "base/Texte.h"
+#include "base/Mesaje.h"
 
 #include <QAbstractTableModel>
 #include <QHBoxLayout>

@@ -1,9 +1,9 @@
 #include "cases/frmMembrii.h"
 
 #include "cases/ControalePersoana.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/UiButoane.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "ui/UiButoane.h"
 
 #include <QAbstractTableModel>
 #include <QGridLayout>

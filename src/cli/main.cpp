@@ -1,4 +1,4 @@
-#include "operations/ComenziCli.h"
+#include "cli/ComenziCli.h"
 
 #include <QCoreApplication>
 

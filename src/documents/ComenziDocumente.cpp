@@ -2,8 +2,7 @@
 
 #include "cases/DateCerere.h"
 #include "documents/Documente.h"
-#include "shell/Mesaje.h"
-#include "shell/Pornire.h"
+#include "base/Mesaje.h"
 #include "store/BazaDate.h"
 
 #include <QDir>

@@ -1,10 +1,11 @@
 #include "documents/DateDocument.h"
 
 #include "cases/DateCerere.h"
-#include "shell/Functii.h"
-#include "shell/Setari.h"
+#include "base/Texte.h"
+#include "base/Sume.h"
+#include "base/Setari.h"
 #include "store/BazaDate.h"
-#include "store/DateReferinta.h"
+#include "reference/DateReferinta.h"
 
 #include <QDir>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Bani.h"
+#include "base/Bani.h"
 
 #include <QDate>
 #include <QString>

@@ -1,6 +1,6 @@
 #include "documents/DeschideDocument.h"
 
-#include "shell/Mesaje.h"
+#include "base/Mesaje.h"
 
 #include <QDir>
 #include <QProcess>

@@ -3,8 +3,8 @@
 #include "documents/InlocuireCerere.h"
 #include "documents/InlocuireDispozitie.h"
 #include "documents/Sablon.h"
-#include "shell/Mesaje.h"
-#include "shell/Pornire.h"
+#include "base/Mesaje.h"
+#include "store/BazaDate.h"
 
 #include <QDir>
 #include <map>

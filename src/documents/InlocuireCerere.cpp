@@ -2,8 +2,8 @@
 
 #include "cases/DateCerere.h"
 #include "documents/Sablon.h"
-#include "shell/Ceas.h"
-#include "shell/Mesaje.h"
+#include "base/Ceas.h"
+#include "base/Mesaje.h"
 #include "store/BazaDate.h"
 
 #include <map>

@@ -2,10 +2,11 @@
 
 #include "cases/DateCerere.h"
 #include "documents/Sablon.h"
-#include "shell/Ceas.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
-#include "shell/Val.h"
+#include "base/Ceas.h"
+#include "base/Texte.h"
+#include "base/Sume.h"
+#include "base/Mesaje.h"
+#include "base/Val.h"
 #include "store/BazaDate.h"
 
 #include <unordered_map>

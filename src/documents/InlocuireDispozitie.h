@@ -1,7 +1,7 @@
 #pragma once
 
 #include "documents/DateDocument.h"
-#include "shell/Bani.h"
+#include "base/Bani.h"
 
 #include <QByteArray>
 #include <QDate>

@@ -1,9 +1,9 @@
 #include "store/ActualizareBD.h"
 
-#include "shell/Bani.h"
-#include "shell/Eroare.h"
-#include "shell/Functii.h"
-#include "shell/Mesaje.h"
+#include "base/Bani.h"
+#include "base/Eroare.h"
+#include "base/Texte.h"
+#include "base/Mesaje.h"
 #include "store/BazaDate.h"
 #include "store/Cataloage.h"
 #include "store/OperatiiSchema.h"

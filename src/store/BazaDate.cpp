@@ -1,7 +1,8 @@
 #include "store/BazaDate.h"
 
-#include "shell/Eroare.h"
-#include "shell/ServiciuFisiere.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "base/ServiciuFisiere.h"
 
 #include <QAtomicInt>
 #include <QDir>
@@ -253,5 +254,20 @@ qint64 RanduriCuCheie(BazaDate& db, const QString& tabela, const QString& camp, 
         return q.Exista() ? q.Intreg(0) : 0;
     } catch (const Eroare&) {
         return 0;
+    }
+}
+
+bool VerificaBD(BazaDate& bd, Mesaje& m) {
+    switch (bd.Stare()) {
+    case 0:
+        return true;
+    case 1:
+        m.Critic(QStringLiteral("Baza de date nu a fost gasita. Probabil nu functioneaza reteaua. Verificati!"));
+        return false;
+    case 2:
+        m.Critic(QStringLiteral("Locatia bazei de date nu e corecta. Probabil nu functioneaza reteaua. Verificati!"));
+        return false;
+    default:
+        return false;
     }
 }

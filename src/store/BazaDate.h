@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Bani.h"
+#include "base/Bani.h"
 #include "store/Dialect.h"
 
 #include <QDate>
@@ -28,6 +28,8 @@ struct LocatieBD {
 };
 
 // The one open connection of the process. Every statement is prepared with bound values.
+class Mesaje;
+
 class BazaDate {
 public:
     enum class Mod { Existenta, Noua };
@@ -154,3 +156,6 @@ private:
 // The rows of `tabela` whose `camp` equals `id`; 0 also when the read fails, which the editors
 // treat as a row removed by another computer.
 qint64 RanduriCuCheie(BazaDate& db, const QString& tabela, const QString& camp, qint64 id);
+
+// Whether the database is reachable; when not, says why as a critical message.
+bool VerificaBD(BazaDate& bd, Mesaje& m);

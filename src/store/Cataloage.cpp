@@ -1,10 +1,10 @@
 #include "store/Cataloage.h"
 
-#include "shell/Bani.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/ServiciuFisiere.h"
-#include "shell/Val.h"
+#include "base/Bani.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "base/ServiciuFisiere.h"
+#include "base/Val.h"
 #include "store/BazaDate.h"
 
 #include <QDir>

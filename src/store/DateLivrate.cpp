@@ -1,8 +1,8 @@
 #include "store/DateLivrate.h"
 
-#include "shell/Ceas.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
+#include "base/Ceas.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
 #include "store/Cataloage.h"
 #include "store/OperatiiSchema.h"
 #include "store/Schema.h"

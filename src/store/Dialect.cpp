@@ -40,3 +40,11 @@ QVariant Dialect::Parametru(const QVariant& v) const {
         return v;
     }
 }
+
+QString PrefixLike(const QString& text) {
+    QString t = text;
+    t.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
+    t.replace(QLatin1Char('%'), QStringLiteral("\\%"));
+    t.replace(QLatin1Char('_'), QStringLiteral("\\_"));
+    return t + QLatin1Char('%');
+}

@@ -24,3 +24,6 @@ public:
 private:
     Motor motor_;
 };
+
+// A LIKE pattern (with a backslash as its ESCAPE) matching what begins with the text, its wild cards taken literally.
+QString PrefixLike(const QString& text);

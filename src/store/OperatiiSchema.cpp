@@ -1,6 +1,6 @@
 #include "store/OperatiiSchema.h"
 
-#include "shell/Eroare.h"
+#include "base/Eroare.h"
 #include "store/BazaDate.h"
 
 void OperatiiSchema::uita(const QString& tabela) {

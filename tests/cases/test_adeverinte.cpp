@@ -1,7 +1,7 @@
 #include "cases/Adeverinte.h"
 #include "cases/DateCerere.h"
 #include "cases/SalvareCerere.h"
-#include "shell/Eroare.h"
+#include "base/Eroare.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
 #include "support/DosarTest.h"

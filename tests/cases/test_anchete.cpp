@@ -1,5 +1,5 @@
 #include "cases/Anchete.h"
-#include "shell/Eroare.h"
+#include "base/Eroare.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
 #include "support/SqlTest.h"

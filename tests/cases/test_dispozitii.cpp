@@ -1,7 +1,7 @@
 #include "cases/Anchete.h"
 #include "cases/Dispozitii.h"
-#include "shell/Ceas.h"
-#include "shell/Eroare.h"
+#include "base/Ceas.h"
+#include "base/Eroare.h"
 #include "support/BazaTest.h"
 #include "support/DispozitiiTest.h"
 

@@ -1,5 +1,5 @@
 #include "cases/ListaMembri.h"
-#include "shell/Eroare.h"
+#include "base/Eroare.h"
 #include "support/BazaTest.h"
 #include "support/Texte.h"
 

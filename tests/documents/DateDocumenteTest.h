@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Bani.h"
+#include "base/Bani.h"
 #include "store/BazaDate.h"
 #include "support/SqlTest.h"
 #include "support/Texte.h"

@@ -3,7 +3,7 @@
 #include "documents/InlocuireCerere.h"
 #include "documents/InlocuireDispozitie.h"
 #include "documents/Sablon.h"
-#include "shell/Ceas.h"
+#include "base/Ceas.h"
 #include "support/BazaTest.h"
 #include "support/SqlTest.h"
 

@@ -1,4 +1,4 @@
-#include "shell/Eroare.h"
+#include "base/Eroare.h"
 #include "store/ActualizareBD.h"
 #include "store/DateLivrate.h"
 #include "store/OperatiiSchema.h"

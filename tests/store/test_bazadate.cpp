@@ -1,5 +1,4 @@
-#include "shell/Eroare.h"
-#include "shell/Pornire.h"
+#include "base/Eroare.h"
 #include "store/BazaDate.h"
 #include "support/BazaTest.h"
 #include "support/SqlTest.h"

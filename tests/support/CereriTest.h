@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Functii.h"
+#include "base/Texte.h"
 #include "store/BazaDate.h"
 #include "support/SqlTest.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cases/StareCerere.h"
-#include "shell/Functii.h"
+#include "cases/Cnp.h"
 
 // A code with the control digit of its first twelve.
 inline QString CuControl(const QString& douasprezece) {

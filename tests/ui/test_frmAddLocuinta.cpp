@@ -1,6 +1,6 @@
 #include "cases/StareCerere.h"
 #include "cases/frmAddLocuinta.h"
-#include "shell/UiDataOptionala.h"
+#include "ui/UiDataOptionala.h"
 #include "support/BazaTest.h"
 #include "support/FormTest.h"
 

@@ -1,7 +1,7 @@
 #include "cases/ControalePersoana.h"
 #include "cases/Persoana.h"
 #include "cases/frmAddMembru.h"
-#include "shell/UiDataOptionala.h"
+#include "ui/UiDataOptionala.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
 #include "support/FormTest.h"

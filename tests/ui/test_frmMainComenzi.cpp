@@ -3,12 +3,12 @@
 #include "cases/frmAnexa2.h"
 #include "cases/frmListaActeExpira.h"
 #include "documents/DateDocumenteTest.h"
-#include "shell/Ceas.h"
-#include "shell/ModelCereri.h"
-#include "shell/Program.h"
-#include "shell/Setari.h"
-#include "shell/UiDataOptionala.h"
-#include "shell/frmMain.h"
+#include "base/Ceas.h"
+#include "cases/ModelCereri.h"
+#include "store/Program.h"
+#include "base/Setari.h"
+#include "ui/UiDataOptionala.h"
+#include "app/frmMain.h"
 #include "support/BazaTest.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
-#include "shell/ModelCereri.h"
-#include "shell/Program.h"
-#include "shell/Setari.h"
-#include "shell/frmMain.h"
+#include "cases/ModelCereri.h"
+#include "store/Program.h"
+#include "base/Setari.h"
+#include "app/frmMain.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
 

@@ -1,7 +1,7 @@
 #include "cases/UiAdeverinte.h"
 #include "cases/frmAddAct.h"
 #include "cases/frmAddMembru.h"
-#include "shell/UiDataOptionala.h"
+#include "ui/UiDataOptionala.h"
 #include "support/BazaTest.h"
 
 #include <QCheckBox>

@@ -1,5 +1,4 @@
-#include "shell/Functii.h"
-#include "shell/UiFunctii.h"
+#include "ui/UiFunctii.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,9 +1,0 @@
-#include "shell/Program.h"
-
-#include "shell/Foldere.h"
-
-#include <QDir>
-
-QString Program::FisierSetari() const {
-    return QDir(applicationPath).filePath(Foldere::FisierSetari);
-}
