@@ -6,6 +6,7 @@
 #include "cases/Cnp.h"
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
+#include "store/Sql.h"
 #include "store/Schema.h"
 
 #include <QVariant>
@@ -402,6 +403,12 @@ qint64 Adeverinte::SalveazaAdeverintaScolara(BazaDate& db, const AdeverintaScola
                          .arg(a.NrAdev.size())
                          .arg(camp->marime));
     const QVariant tip = a.TipAdeverinta != 0 ? QVariant(qint64(a.TipAdeverinta)) : QVariant();
+    const QString tabela = QStringLiteral("Adeverinte");
+    const Sql::Rand scrise = {{"NrAdev", a.NrAdev},
+                              {"DataAdeverinta", dataSauNul(a.DataAdeverinta)},
+                              {"DataDepunerii", dataSauNul(a.DataDepunerii)},
+                              {"TipAdeverinta", tip},
+                              {"DataExpAdev", dataSauNul(a.DataExpAdev)}};
     Tranzactie t(db);
     qint64 id = a.AdevID;
     if (adaugare) {
@@ -410,28 +417,11 @@ qint64 Adeverinte::SalveazaAdeverintaScolara(BazaDate& db, const AdeverintaScola
         exista.Leaga(a.MembruID).Leaga(a.CerereID);
         if (!exista.Exista() || exista.Intreg(0) == 0) throw Eroare(TextRandNegasit);
         id = db.CheieNoua(QStringLiteral("Adeverinte"), QStringLiteral("AdevID"));
-        Interogare(db, QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, NrAdev, DataAdeverinta, "
-                                      "DataDepunerii, TipAdeverinta, DataExpAdev) VALUES (?, ?, ?, ?, ?, ?, ?, ?)"))
-            .Leaga(id)
-            .Leaga(a.CerereID)
-            .Leaga(a.MembruID)
-            .Leaga(a.NrAdev)
-            .Leaga(dataSauNul(a.DataAdeverinta))
-            .Leaga(dataSauNul(a.DataDepunerii))
-            .Leaga(tip)
-            .Leaga(dataSauNul(a.DataExpAdev))
-            .Executa();
-    } else {
-        Interogare q(db, QStringLiteral("UPDATE Adeverinte SET NrAdev = ?, DataAdeverinta = ?, DataDepunerii = ?, "
-                                        "TipAdeverinta = ?, DataExpAdev = ? WHERE AdevID = ?"));
-        q.Leaga(a.NrAdev)
-            .Leaga(dataSauNul(a.DataAdeverinta))
-            .Leaga(dataSauNul(a.DataDepunerii))
-            .Leaga(tip)
-            .Leaga(dataSauNul(a.DataExpAdev))
-            .Leaga(id)
-            .Executa();
-        if (q.RanduriAfectate() == 0) throw Eroare(TextRandNegasit);
+        Sql::Rand r = {{"AdevID", id}, {"CerereID", a.CerereID}, {"MembruID", a.MembruID}};
+        r.insert(r.end(), scrise.begin(), scrise.end());
+        Sql::Insereaza(db, tabela, r);
+    } else if (Sql::Actualizeaza(db, tabela, scrise, QStringLiteral("AdevID"), id) == 0) {
+        throw Eroare(TextRandNegasit);
     }
     t.Confirma();
     return id;

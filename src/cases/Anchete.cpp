@@ -7,6 +7,7 @@
 #include "base/Mesaje.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/Sql.h"
 
 #include <QVariant>
 #include <cmath>
@@ -162,42 +163,36 @@ qint64 Anchete::Salveaza(BazaDate& db, Mesaje& m, Ancheta a, ModAncheta mod) {
     Tranzactie t(db);
     const bool nou = mod == ModAncheta::Adaugare;
     if (nou) a.AnchetaID = db.CheieNoua(QStringLiteral("Anchete"), QStringLiteral("AnchetaID"));
-    Interogare q(db,
-                 nou ? QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, Intocmitor, "
-                                      "DataExpirarii, Motiv, NrMembrii, NrCopii, TipLocuinta, RegimJuridic, "
-                                      "NrCamere, SuprUtila, Bunuri, Igiena, TipLocuire, TipDetinere, Teren, "
-                                      "Cladiri, Spatii, AlteBunuri, StareSanatate, Nevoi, Aspecte) "
-                                      "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")
-                     : QStringLiteral("UPDATE Anchete SET DataAncheta = ?, Intocmitor = ?, DataExpirarii = ?, "
-                                      "Motiv = ?, NrMembrii = ?, NrCopii = ?, TipLocuinta = ?, RegimJuridic = ?, "
-                                      "NrCamere = ?, SuprUtila = ?, Bunuri = ?, Igiena = ?, TipLocuire = ?, "
-                                      "TipDetinere = ?, Teren = ?, Cladiri = ?, Spatii = ?, AlteBunuri = ?, "
-                                      "StareSanatate = ?, Nevoi = ?, Aspecte = ? WHERE AnchetaID = ?"));
-    if (nou) q.Leaga(a.AnchetaID).Leaga(a.CerereID);
-    q.Leaga(dataSauNul(a.DataAncheta))
-        .Leaga(textSauNul(a.Intocmitor))
-        .Leaga(dataSauNul(a.DataExpirarii))
-        .Leaga(textSauNul(a.Motiv))
-        .Leaga(a.NrMembrii)
-        .Leaga(a.NrCopii)
-        .Leaga(optionalSauNul(a.TipLocuinta))
-        .Leaga(optionalSauNul(a.RegimJuridic))
-        .Leaga(camere)
-        .Leaga(supr)
-        .Leaga(textSauNul(a.Bunuri))
-        .Leaga(textSauNul(a.Igiena))
-        .Leaga(optionalSauNul(a.TipLocuire))
-        .Leaga(optionalSauNul(a.TipDetinere))
-        .Leaga(textSauNul(a.Teren))
-        .Leaga(textSauNul(a.Cladiri))
-        .Leaga(textSauNul(a.Spatii))
-        .Leaga(textSauNul(a.AlteBunuri))
-        .Leaga(textSauNul(a.StareSanatate))
-        .Leaga(textSauNul(a.Nevoi))
-        .Leaga(textSauNul(a.Aspecte));
-    if (!nou) q.Leaga(a.AnchetaID);
-    q.Executa();
-    if (q.RanduriAfectate() != 1) throw Eroare(Stearsa);
+    Sql::Rand r = {
+        {"DataAncheta", dataSauNul(a.DataAncheta)},
+        {"Intocmitor", textSauNul(a.Intocmitor)},
+        {"DataExpirarii", dataSauNul(a.DataExpirarii)},
+        {"Motiv", textSauNul(a.Motiv)},
+        {"NrMembrii", qint64(a.NrMembrii)},
+        {"NrCopii", qint64(a.NrCopii)},
+        {"TipLocuinta", optionalSauNul(a.TipLocuinta)},
+        {"RegimJuridic", optionalSauNul(a.RegimJuridic)},
+        {"NrCamere", camere},
+        {"SuprUtila", supr},
+        {"Bunuri", textSauNul(a.Bunuri)},
+        {"Igiena", textSauNul(a.Igiena)},
+        {"TipLocuire", optionalSauNul(a.TipLocuire)},
+        {"TipDetinere", optionalSauNul(a.TipDetinere)},
+        {"Teren", textSauNul(a.Teren)},
+        {"Cladiri", textSauNul(a.Cladiri)},
+        {"Spatii", textSauNul(a.Spatii)},
+        {"AlteBunuri", textSauNul(a.AlteBunuri)},
+        {"StareSanatate", textSauNul(a.StareSanatate)},
+        {"Nevoi", textSauNul(a.Nevoi)},
+        {"Aspecte", textSauNul(a.Aspecte)},
+    };
+    const QString tabela = QStringLiteral("Anchete");
+    if (nou) {
+        r.insert(r.begin(), {{QStringLiteral("AnchetaID"), a.AnchetaID}, {QStringLiteral("CerereID"), a.CerereID}});
+        Sql::Insereaza(db, tabela, r);
+    } else if (Sql::Actualizeaza(db, tabela, r, QStringLiteral("AnchetaID"), a.AnchetaID) != 1) {
+        throw Eroare(Stearsa);
+    }
     t.Confirma();
     return a.AnchetaID;
 }

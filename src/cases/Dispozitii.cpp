@@ -6,6 +6,7 @@
 #include "base/Mesaje.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/Sql.h"
 
 #include <QStringList>
 #include <QVariant>
@@ -269,26 +270,25 @@ qint64 Dispozitii::Salveaza(BazaDate& db, const Dispozitie& d, ModDispozitie mod
     Tranzactie t(db);
     const bool nou = mod == ModDispozitie::Adaugare;
     const qint64 id = nou ? db.CheieNoua(QStringLiteral("Dispozitii"), QStringLiteral("DispozitieID")) : d.DispozitieID;
-    QString sql;
-    if (nou)
-        sql = QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Luna, An, "
-                             "Actiune, Cuantum, CuantumVechi, Motiv) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
-    else
-        sql = QStringLiteral("UPDATE Dispozitii SET NrDisp = ?, DataDisp = ?, DinData = ?, Luna = ?, An = ?, "
-                             "Actiune = ?, Cuantum = ?, ") +
-              (vechi ? QStringLiteral("CuantumVechi = ?, ") : QString()) +
-              QStringLiteral("Motiv = ? WHERE DispozitieID = ?");
-    Interogare q(db, sql);
-    if (nou) q.Leaga(id).Leaga(d.CerereID);
-    q.Leaga(nrDisp).Leaga(d.DataDisp).Leaga(dinData).Leaga(*d.Luna).Leaga(anDisp).Leaga(*d.Actiune).Leaga(cuantum);
-    if (vechi)
-        q.Leaga(*vechi);
-    else if (nou)
-        q.Leaga(QVariant());
-    q.Leaga(textSauNul(d.Motiv));
-    if (!nou) q.Leaga(id);
-    q.Executa();
-    if (q.RanduriAfectate() != 1) throw Eroare(Stearsa);
+    Sql::Rand r = {
+        {"NrDisp", nrDisp},
+        {"DataDisp", d.DataDisp},
+        {"DinData", dinData},
+        {"Luna", qint64(*d.Luna)},
+        {"An", anDisp},
+        {"Actiune", qint64(*d.Actiune)},
+        {"Cuantum", Sql::Suma(cuantum)},
+    };
+    // Without an old amount a change leaves the row's CuantumVechi as it is.
+    if (vechi || nou) r.push_back({QStringLiteral("CuantumVechi"), vechi ? Sql::Suma(*vechi) : QVariant()});
+    r.push_back({QStringLiteral("Motiv"), textSauNul(d.Motiv)});
+    const QString tabela = QStringLiteral("Dispozitii");
+    if (nou) {
+        r.insert(r.begin(), {{QStringLiteral("DispozitieID"), id}, {QStringLiteral("CerereID"), d.CerereID}});
+        Sql::Insereaza(db, tabela, r);
+    } else if (Sql::Actualizeaza(db, tabela, r, QStringLiteral("DispozitieID"), id) != 1) {
+        throw Eroare(Stearsa);
+    }
     t.Confirma();
     return id;
 }

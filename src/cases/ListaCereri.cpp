@@ -4,6 +4,7 @@
 #include "store/Dialect.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/Sql.h"
 
 #include <QRegularExpression>
 
@@ -94,12 +95,9 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
         valori << qint64(Val(f.NrCerere));
     }
     if (!f.Stari.isEmpty()) {
-        QStringList semne;
-        for (int s : f.Stari) {
-            semne << QStringLiteral("?");
+        for (int s : f.Stari)
             valori << s;
-        }
-        conditii << QStringLiteral("C.Stare IN (%1)").arg(semne.join(QStringLiteral(", ")));
+        conditii << QStringLiteral("C.Stare IN (%1)").arg(Sql::Semne(f.Stari.size()));
     }
     if (f.LoadTipCerere != 0) {
         conditii << QStringLiteral("C.TipCerere = ?");

@@ -10,6 +10,7 @@
 #include "base/Val.h"
 #include "store/BazaDate.h"
 #include "store/Schema.h"
+#include "store/Sql.h"
 
 #include <QDir>
 #include <QSet>
@@ -21,44 +22,14 @@
 
 namespace {
 
-using Randuri = std::vector<std::pair<const char*, QVariant>>;
-
-QString Semne(qsizetype n) {
-    QStringList s;
-    for (qsizetype i = 0; i < n; ++i)
-        s << QStringLiteral("?");
-    return s.join(QStringLiteral(", "));
-}
-
-QString SqlInsert(const char* tabela, const Randuri& r) {
-    QStringList campuri;
-    for (const auto& [camp, valoare] : r)
-        campuri << QLatin1String(camp);
-    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-        .arg(QLatin1String(tabela), campuri.join(QStringLiteral(", ")), Semne(campuri.size()));
-}
-
-QString SqlUpdate(const char* tabela, const Randuri& r, const char* cheie) {
-    QStringList campuri;
-    for (const auto& [camp, valoare] : r)
-        campuri << QLatin1String(camp) + QStringLiteral(" = ?");
-    return QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?")
-        .arg(QLatin1String(tabela), campuri.join(QStringLiteral(", ")), QLatin1String(cheie));
-}
-
-void Leaga(Interogare& q, const Randuri& r) {
-    for (const auto& [camp, valoare] : r)
-        q.Leaga(valoare);
-}
+using Randuri = Sql::Rand;
 
 // Rows of one table, built by the same code and so with the same fields: one statement for all.
 void ScrieToate(BazaDate& db, const char* tabela, const std::vector<Randuri>& randuri) {
     if (randuri.empty()) return;
-    Interogare q(db, SqlInsert(tabela, randuri.front()));
-    for (const Randuri& r : randuri) {
-        Leaga(q, r);
-        q.Executa();
-    }
+    Interogare q(db, Sql::Insert(QLatin1String(tabela), Sql::Campuri(randuri.front())));
+    for (const Randuri& r : randuri)
+        Sql::Leaga(q, r).Executa();
 }
 
 // A text for a field: NULL when empty, refused when longer than the field, so that both
@@ -114,11 +85,9 @@ void ExtindeLista(BazaDate& db, const char* tabela, const char* cheie, bool cuLo
         if (cunoscute.contains(CheieCautare(n))) continue;
         if (!ins) {
             urmatoarea = db.CheieNoua(QLatin1String(tabela), QLatin1String(cheie));
-            ins.emplace(db, cuLocalitate
-                                ? QStringLiteral("INSERT INTO %1 (%2, Denumire, LocalitateID) VALUES (?, ?, ?)")
-                                      .arg(QLatin1String(tabela), QLatin1String(cheie))
-                                : QStringLiteral("INSERT INTO %1 (%2, Denumire) VALUES (?, ?)")
-                                      .arg(QLatin1String(tabela), QLatin1String(cheie)));
+            QStringList campuri{QLatin1String(cheie), QStringLiteral("Denumire")};
+            if (cuLocalitate) campuri << QStringLiteral("LocalitateID");
+            ins.emplace(db, Sql::Insert(QLatin1String(tabela), campuri));
         }
         ins->Leaga(urmatoarea++).Leaga(Text(tabela, "Denumire", n));
         if (cuLocalitate) ins->Leaga(1);
@@ -172,10 +141,6 @@ private:
     void pas(PasSalvare p) {
         if (o_.DupaPas) o_.DupaPas(p);
     }
-    QVariant suma(const Bani& b) const {
-        // As Interogare binds an amount: a double keeps four decimals on SQLite, PostgreSQL takes the text.
-        return db_.dialect().EsteSQLite() ? QVariant(b.ToDouble()) : QVariant(b.Text());
-    }
     void stergeAleCererii(const char* tabela) {
         Interogare(db_, QStringLiteral("DELETE FROM %1 WHERE CerereID = ?").arg(QLatin1String(tabela)))
             .Leaga(cerereID_)
@@ -228,17 +193,13 @@ private:
             cerereID_ = familieID_;
             Randuri cuCheie{{"FamilieID", familieID_}};
             cuCheie.insert(cuCheie.end(), r.begin(), r.end());
-            Interogare q(db_, SqlInsert("Familii", cuCheie));
-            Leaga(q, cuCheie);
-            q.Executa();
+            Sql::Insereaza(db_, QStringLiteral("Familii"), cuCheie);
             return;
         }
         familieID_ = d_.FamilieID;
         cerereID_ = d_.CerereID;
-        Interogare q(db_, SqlUpdate("Familii", r, "FamilieID"));
-        Leaga(q, r);
-        q.Leaga(familieID_).Executa();
-        if (q.RanduriAfectate() == 0) throw Eroare(TextRandNegasit);
+        if (Sql::Actualizeaza(db_, QStringLiteral("Familii"), r, QStringLiteral("FamilieID"), familieID_) == 0)
+            throw Eroare(TextRandNegasit);
     }
 
     // Each person of the list is the Membrii row of its CNP, or a new one; a person without a
@@ -256,10 +217,10 @@ private:
         std::unordered_set<qint64> existente;
         if (!cnpuri.isEmpty() || !iduri.isEmpty()) {
             QString sql = QStringLiteral("SELECT MembruID, CNP FROM Membrii WHERE ");
-            if (!cnpuri.isEmpty()) sql += QStringLiteral("CNP IN (%1)").arg(Semne(cnpuri.size()));
+            if (!cnpuri.isEmpty()) sql += QStringLiteral("CNP IN (%1)").arg(Sql::Semne(cnpuri.size()));
             if (!iduri.isEmpty())
                 sql += (cnpuri.isEmpty() ? QString() : QStringLiteral(" OR ")) +
-                       QStringLiteral("MembruID IN (%1)").arg(Semne(iduri.size()));
+                       QStringLiteral("MembruID IN (%1)").arg(Sql::Semne(iduri.size()));
             Interogare q(db_, sql + QStringLiteral(" ORDER BY MembruID"));
             for (const QString& c : cnpuri)
                 q.Leaga(c);
@@ -296,17 +257,17 @@ private:
                 {"Dizabilitate", p->Dizabilitate},
             };
             if (id > 0) {
-                if (!actualizare) actualizare.emplace(db_, SqlUpdate("Membrii", r, "MembruID"));
-                Leaga(*actualizare, r);
-                actualizare->Leaga(id).Executa();
+                if (!actualizare)
+                    actualizare.emplace(
+                        db_, Sql::Update(QStringLiteral("Membrii"), Sql::Campuri(r), QStringLiteral("MembruID")));
+                Sql::Leaga(*actualizare, r).Leaga(id).Executa();
             } else {
                 if (urmatoarea == 0) urmatoarea = db_.CheieNoua(QStringLiteral("Membrii"), QStringLiteral("MembruID"));
                 id = urmatoarea++;
                 Randuri cuCheie{{"MembruID", id}};
                 cuCheie.insert(cuCheie.end(), r.begin(), r.end());
-                if (!adaugare) adaugare.emplace(db_, SqlInsert("Membrii", cuCheie));
-                Leaga(*adaugare, cuCheie);
-                adaugare->Executa();
+                if (!adaugare) adaugare.emplace(db_, Sql::Insert(QStringLiteral("Membrii"), Sql::Campuri(cuCheie)));
+                Sql::Leaga(*adaugare, cuCheie).Executa();
                 if (!p->CNP.isEmpty()) dupaCnp.emplace(p->CNP, id);
             }
             if (const auto [alta, nou] = folosite.emplace(id, p); !nou)
@@ -331,11 +292,11 @@ private:
             {"Stare", d_.cboCerere[4].id},
             {"MotivStare", text("MotivStare", d_.cboCerere[5].text.trimmed())},
             {"DataStare", Data(d_.dtpData[1])},
-            {"VenitTotal", suma(SumaCaseta(t[12]))},
-            {"VenitPeMembru", suma(SumaCaseta(t[13]))},
+            {"VenitTotal", Sql::Suma(SumaCaseta(t[12]))},
+            {"VenitPeMembru", Sql::Suma(SumaCaseta(t[13]))},
             {"NrMembrii", qint64(membri_.size())},
             {"NrCopii", Numar(t[16], std::numeric_limits<qint16>::max(), QStringLiteral("Numarul copiilor"))},
-            {"Cuantum", suma(cuantum_)},
+            {"Cuantum", Sql::Suma(cuantum_)},
             {"TipCerere", d_.cboCerere[3].id},
             {"ReprLegal", d_.cboCerere[1].id},
             {"ModPlata", d_.cboCerere[2].id},
@@ -367,15 +328,11 @@ private:
         if (d_.Adaug == 1) {
             Randuri cuCheie{{"CerereID", cerereID_}, {"FamilieID", familieID_}};
             cuCheie.insert(cuCheie.end(), r.begin(), r.end());
-            Interogare q(db_, SqlInsert("Cereri", cuCheie));
-            Leaga(q, cuCheie);
-            q.Executa();
+            Sql::Insereaza(db_, QStringLiteral("Cereri"), cuCheie);
             return;
         }
-        Interogare q(db_, SqlUpdate("Cereri", r, "CerereID"));
-        Leaga(q, r);
-        q.Leaga(cerereID_).Executa();
-        if (q.RanduriAfectate() == 0) throw Eroare(TextRandNegasit);
+        if (Sql::Actualizeaza(db_, QStringLiteral("Cereri"), r, QStringLiteral("CerereID"), cerereID_) == 0)
+            throw Eroare(TextRandNegasit);
     }
 
     void CereriMembrii() {
@@ -408,7 +365,7 @@ private:
                 {"Motiv", text("Motiv", p.Motiv)},
                 {"MotivID", p.MotivID},
                 {"StareMembru", p.StareMembru},
-                {"Suma", suma(p.Suma)},
+                {"Suma", Sql::Suma(p.Suma)},
                 {"TipValuta", p.TipValuta},
                 {"MotivStare", text("MotivStare", p.MotivStare)},
                 {"DataStare", Data(p.DataStare)},
@@ -421,7 +378,7 @@ private:
                 {"TaraAfara11", text("TaraAfara11", p.TaraAfara11)},
                 {"Perioada22", text("Perioada22", p.Perioada22)},
                 {"TaraAfara22", text("TaraAfara22", p.TaraAfara22)},
-                {"Venit", suma(p.Venit)},
+                {"Venit", Sql::Suma(p.Venit)},
                 {"LocScoala", text("LocScoala", p.LocScoala)},
                 {"VMG", p.VMG},
                 {"Alocatie", p.Alocatie},
@@ -439,7 +396,7 @@ private:
         if (iduri_.empty()) return;
         {
             Interogare q(db_, QStringLiteral("DELETE FROM Adeverinte WHERE CerereID = ? AND MembruID IN (%1)")
-                                  .arg(Semne(qsizetype(iduri_.size()))));
+                                  .arg(Sql::Semne(qsizetype(iduri_.size()))));
             q.Leaga(cerereID_);
             for (qint64 id : iduri_)
                 q.Leaga(id);
@@ -456,7 +413,7 @@ private:
         std::unordered_set<qint64> ocupate;
         if (!pastrate.empty()) {
             Interogare q(db_, QStringLiteral("SELECT AdevID FROM Adeverinte WHERE AdevID IN (%1)")
-                                  .arg(Semne(qsizetype(pastrate.size()))));
+                                  .arg(Sql::Semne(qsizetype(pastrate.size()))));
             for (qint64 id : pastrate)
                 q.Leaga(id);
             q.Executa();
@@ -495,7 +452,7 @@ private:
         for (size_t i = 0; i < s_.Venituri.size(); ++i)
             if (s_.Venituri[i] > Bani())
                 randuri.push_back(
-                    {{"CerereID", cerereID_}, {"CodVenit", qint64(i + 1)}, {"Valoare", suma(s_.Venituri[i])}});
+                    {{"CerereID", cerereID_}, {"CodVenit", qint64(i + 1)}, {"Valoare", Sql::Suma(s_.Venituri[i])}});
         ScrieToate(db_, "Venituri", randuri);
     }
 
@@ -515,7 +472,7 @@ private:
         for (size_t i = 0; i < s_.Bunuri.size(); ++i)
             if (s_.Bunuri[i] > Bani())
                 randuri.push_back(
-                    {{"CerereID", cerereID_}, {"NrBifa", qint64(i + 9)}, {"Valoare", suma(s_.Bunuri[i])}});
+                    {{"CerereID", cerereID_}, {"NrBifa", qint64(i + 9)}, {"Valoare", Sql::Suma(s_.Bunuri[i])}});
         ScrieToate(db_, "BifeText", randuri);
     }
 
@@ -529,7 +486,7 @@ private:
                                    {"MembruID", r.MembruID},
                                    {"RudenieID", r.RudenieID},
                                    {"MotivID", r.MotivID},
-                                   {"Suma", suma(r.Suma)},
+                                   {"Suma", Sql::Suma(r.Suma)},
                                    {"TipValuta", r.TipValuta}});
         ScrieToate(db_, "CMIesiti", randuri);
     }

@@ -104,11 +104,3 @@ std::vector<std::vector<qint64>> GrupeChei(const std::vector<qint64>& chei, size
         g.emplace_back(chei.begin() + qsizetype(i), chei.begin() + qsizetype(std::min(chei.size(), i + marime)));
     return g;
 }
-
-QString Semne(size_t n) {
-    QString s;
-    s.reserve(qsizetype(n * 3));
-    for (size_t i = 0; i < n; ++i)
-        s += i ? QStringLiteral(", ?") : QStringLiteral("?");
-    return s;
-}

@@ -59,6 +59,5 @@ std::optional<QDate> Data(const Interogare& q, const QString& camp);
 std::optional<Bani> Suma(const Interogare& q, const QString& camp);
 } // namespace Camp
 
-// The keys in groups small enough for one statement's parameters, with "?, ?, ..." for each.
+// The keys in groups small enough for one statement's parameters (Sql::Semne writes their "?, ?, ...").
 std::vector<std::vector<qint64>> GrupeChei(const std::vector<qint64>& chei, size_t marime = 500);
-QString Semne(size_t n);

@@ -8,6 +8,7 @@
 #include "base/Mesaje.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/Sql.h"
 
 #include <unordered_map>
 
@@ -110,7 +111,7 @@ std::vector<std::optional<DateDispozitie>> CitesteDispozitii(BazaDate& db, const
                     "LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 "
                     "LEFT JOIN Familii F ON F.FamilieID = C.FamilieID "
                     "WHERE D.DispozitieID IN (%1)")
-                    .arg(Semne(grupa.size())));
+                    .arg(Sql::Semne(qsizetype(grupa.size()))));
         for (const qint64 id : grupa)
             q.Leaga(id);
         q.Executa();

@@ -5,6 +5,7 @@
 #include "cases/Cnp.h"
 #include "base/Mesaje.h"
 #include "maintenance/GeneratorDemo.h"
+#include "store/Sql.h"
 
 #include <algorithm>
 
@@ -28,15 +29,7 @@ QString Roman(int n) {
     return QString::fromUtf8(r[std::clamp(n, 0, 12)]);
 }
 
-QString insert(const char* tabela, std::initializer_list<const char*> campuri) {
-    QStringList nume, semne;
-    for (const char* c : campuri) {
-        nume << QString::fromLatin1(c);
-        semne << QStringLiteral("?");
-    }
-    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-        .arg(QString::fromLatin1(tabela), nume.join(QStringLiteral(", ")), semne.join(QStringLiteral(", ")));
-}
+constexpr auto insert = &Sql::Insert;
 
 } // namespace
 

@@ -3,6 +3,7 @@
 #include "base/Texte.h"
 #include "store/BazaDate.h"
 #include "store/Schema.h"
+#include "store/Sql.h"
 
 #include <algorithm>
 
@@ -102,18 +103,9 @@ std::optional<QString> SalveazaDatePrimarie(BazaDate& db, const DatePrimarie& d)
     for (int i = 0; i < NrCampuriPrimarie; ++i)
         campuri << camp(i);
     campuri << QStringLiteral("TipLocalitate");
-    QString sql;
-    if (randuri == 0) {
-        sql = QStringLiteral("INSERT INTO DatePrimarie (%1) VALUES (%2)")
-                  .arg(campuri.join(QStringLiteral(", ")),
-                       QStringList(campuri.size(), QStringLiteral("?")).join(QStringLiteral(", ")));
-    } else {
-        QStringList atribuiri;
-        for (const QString& c : campuri)
-            atribuiri << c + QStringLiteral(" = ?");
-        sql = QStringLiteral("UPDATE DatePrimarie SET ") + atribuiri.join(QStringLiteral(", "));
-    }
-    Interogare scrie(db, sql);
+    const QString tabela = QStringLiteral("DatePrimarie");
+    // The one row, whatever its key.
+    Interogare scrie(db, randuri == 0 ? Sql::Insert(tabela, campuri) : Sql::Update(tabela, campuri));
     for (const QString& v : d.text)
         scrie.Leaga(v);
     scrie.Leaga(d.TipLocalitate).Executa();

@@ -220,9 +220,7 @@ Interogare& Interogare::Leaga(const QVariant& v) {
 }
 
 Interogare& Interogare::Leaga(const Bani& b) {
-    // SQLite stores a decimal as a double, which keeps four decimals exactly; PostgreSQL takes the text.
-    if (db_.dialect().EsteSQLite()) return Leaga(QVariant(b.ToDouble()));
-    return Leaga(QVariant(b.Text()));
+    return Leaga(QVariant::fromValue(b));
 }
 
 Interogare& Interogare::Executa() {

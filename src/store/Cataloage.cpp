@@ -6,6 +6,7 @@
 #include "base/ServiciuFisiere.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/Sql.h"
 
 #include <QDir>
 #include <QFile>
@@ -48,10 +49,8 @@ QStringList randuriFisier(const Catalog& c, const QString& cale) {
 }
 
 void scrieVenituriSauActe(BazaDate& db, const Catalog& c, const QStringList& randuri) {
-    const QString sql = c.tabela == Venituri.tabela
-                            ? QStringLiteral("INSERT INTO ListaVenituri (CodVenit, Denumire) VALUES (?, ?)")
-                            : QStringLiteral("INSERT INTO ListaActe (NrAct, Denumire) VALUES (?, ?)");
-    Interogare ins(db, sql);
+    const QString cheie = c.tabela == Venituri.tabela ? QStringLiteral("CodVenit") : QStringLiteral("NrAct");
+    Interogare ins(db, Sql::Insert(c.tabela, {cheie, QStringLiteral("Denumire")}));
     for (int i = 0; i < randuri.size(); ++i)
         ins.Leaga(i + 1).Leaga(randuri[i]).Executa();
 }

@@ -6,6 +6,7 @@
 #include "store/Cataloage.h"
 #include "store/OperatiiSchema.h"
 #include "store/Schema.h"
+#include "store/Sql.h"
 
 #include <QDir>
 #include <QFile>
@@ -47,13 +48,10 @@ void incarcaTsv(BazaDate& db, const QString& tabela, const QString& fisier) {
                              .arg(QDir::toNativeSeparators(fisier), tabela, nume.trimmed()));
         campuri.push_back(c);
     }
-    QStringList nume, semne;
-    for (const auto* c : campuri) {
+    QStringList nume;
+    for (const auto* c : campuri)
         nume << c->nume;
-        semne << QStringLiteral("?");
-    }
-    Interogare ins(db, QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                           .arg(tabela, nume.join(QStringLiteral(", ")), semne.join(QStringLiteral(", "))));
+    Interogare ins(db, Sql::Insert(tabela, nume));
     for (int i = 1; i < linii.size(); ++i) {
         if (linii[i].trimmed().isEmpty()) continue;
         const QStringList valori = linii[i].split(QLatin1Char('\t'));

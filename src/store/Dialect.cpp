@@ -30,6 +30,10 @@ QString Dialect::TipSql(TipCamp tip, int marime) const {
 
 QVariant Dialect::Parametru(const QVariant& v) const {
     if (!v.isValid() || v.isNull()) return QVariant();
+    if (v.metaType() == QMetaType::fromType<Bani>()) {
+        const Bani b = v.value<Bani>();
+        return EsteSQLite() ? QVariant(b.ToDouble()) : QVariant(b.Text());
+    }
     switch (v.typeId()) {
     case QMetaType::QDate:
         // An empty date box stands for no date; an empty text would read back as a date on neither engine.

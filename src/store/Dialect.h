@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Bani.h"
+
 #include <QString>
 #include <QVariant>
 
@@ -17,7 +19,9 @@ public:
     bool EsteSQLite() const { return motor_ == Motor::SQLite; }
 
     QString TipSql(TipCamp tip, int marime) const;
-    // Turns a value into what the driver binds: dates as ISO text on SQLite, booleans as 0/1.
+    // Turns a value into what the driver binds: dates as ISO text on SQLite, booleans as 0/1, an
+    // amount (a Bani in the variant) as a double on SQLite, which keeps four decimals exactly, and
+    // as its text on PostgreSQL.
     QVariant Parametru(const QVariant& v) const;
     QString NumeEngine() const { return EsteSQLite() ? QStringLiteral("SQLite") : QStringLiteral("PostgreSQL"); }
 
