@@ -53,14 +53,7 @@ std::optional<Bani> treaptaVenit(const Bani& venit, const QDate& dataStare, cons
 
 ParametriCuantum IncarcaParametri(BazaDate& db) {
     ParametriCuantum p;
-    {
-        Interogare q(db, QStringLiteral("SELECT Tip, NrPers, Suma, Barem, DataInceput, DataStop FROM Barem"));
-        q.Executa();
-        while (q.Urmator())
-            p.Barem.push_back({int(q.Intreg(QStringLiteral("Tip"))), int(q.Intreg(QStringLiteral("NrPers"))),
-                               q.Suma(QStringLiteral("Suma")), q.Suma(QStringLiteral("Barem")),
-                               q.Data(QStringLiteral("DataInceput")), q.Data(QStringLiteral("DataStop"))});
-    }
+    p.Barem = CitesteBarem(db);
     {
         Interogare q(db, QStringLiteral("SELECT NrBifa, Valoare FROM ListaBife"));
         q.Executa();
@@ -134,7 +127,8 @@ RezultatCuantum CalculCuantum(const IntrareCuantum& intrare, const ParametriCuan
     }
 
     const Bani isr = p.ISR.size() == 1 ? SumaText(p.ISR.front()) : IsrImplicit;
-    Bani suma = isr.Inmultit(barem->Barem);
+    // An empty coefficient counts as 0.
+    Bani suma = isr.Inmultit(barem->Barem.value_or(Bani()));
     if (isr != IsrImplicit && suma > Bani()) suma = Bani::DinLei(RotunjireSus(suma));
     r.CuantumInainteDeReduceri = suma;
 
@@ -148,11 +142,12 @@ RezultatCuantum CalculCuantum(const IntrareCuantum& intrare, const ParametriCuan
                          .arg(intrare.TipCerere)
                          .arg(FormatSuma(*treapta))
                          .arg(FormatData(intrare.DataStare)));
+    const Bani coeficientCopil = unCopil->Barem.value_or(Bani());
     Bani reduceri;
     for (const MembruCerere& membru : membri) {
         if (!membru.EsteCopil()) continue;
-        if (membru.Diminuare20 != 0) reduceri += unCopil->Barem * 100; // 0.2 x 500
-        if (membru.Diminuare50 != 0) reduceri += unCopil->Barem * 250; // 0.5 x 500
+        if (membru.Diminuare20 != 0) reduceri += coeficientCopil * 100; // 0.2 x 500
+        if (membru.Diminuare50 != 0) reduceri += coeficientCopil * 250; // 0.5 x 500
     }
     r.Cuantum = suma - Bani::DinLei(reduceri.RotunjitPar());
     return r;

@@ -2,6 +2,7 @@
 
 #include "cases/StareCerere.h"
 #include "base/Bani.h"
+#include "reference/Barem.h"
 
 #include <QDate>
 #include <QString>
@@ -13,16 +14,6 @@
 
 class BazaDate;
 class Mesaje;
-
-// One row of Barem: the coefficient of a family kind, a number of children and an income
-// bracket, valid from DataInceput to DataStop (invalid: open-ended).
-struct RandBarem {
-    int Tip = 0;
-    int NrPers = 0;
-    Bani Suma;  // the bracket key: 0.4, 0.74 or 1.06
-    Bani Barem; // the coefficient
-    QDate DataInceput, DataStop;
-};
 
 // What the amount's computation reads from the database, loaded once so that the computation
 // itself is pure.

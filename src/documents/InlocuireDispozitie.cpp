@@ -83,18 +83,7 @@ DateDispozitie CitesteRand(const Interogare& q) {
 ContextDispozitii CitesteContextDispozitii(BazaDate& db) {
     ContextDispozitii c;
     c.Primarie = CitestePrimaria(db);
-    Interogare q(db, QStringLiteral("SELECT Tip, NrPers, Suma, Barem, DataInceput, DataStop FROM Barem"));
-    q.Executa();
-    while (q.Urmator()) {
-        RandBaremDocument r;
-        r.Tip = int(q.Intreg(QStringLiteral("Tip")));
-        r.NrPers = int(q.Intreg(QStringLiteral("NrPers")));
-        r.Suma = q.Suma(QStringLiteral("Suma"));
-        r.Barem = Camp::Suma(q, QStringLiteral("Barem"));
-        r.DataInceput = q.Data(QStringLiteral("DataInceput"));
-        r.DataStop = q.Data(QStringLiteral("DataStop"));
-        c.Barem.push_back(r);
-    }
+    c.Barem = CitesteBarem(db);
     return c;
 }
 
@@ -159,11 +148,11 @@ bool EsteOrasSpecial(const QString& localitate) {
     return t.contains(QLatin1String("FIZESU"));
 }
 
-const RandBaremDocument* BaremDispozitie(const ContextDispozitii& c, const DateDispozitie& d) {
+const RandBarem* BaremDispozitie(const ContextDispozitii& c, const DateDispozitie& d) {
     if (!d.NrCopii || !d.TipCerere || !d.DinData) return nullptr;
     const int nrPers = int(std::min<qint64>(*d.NrCopii, 4));
-    const RandBaremDocument* gasit = nullptr;
-    for (const RandBaremDocument& r : c.Barem) {
+    const RandBarem* gasit = nullptr;
+    for (const RandBarem& r : c.Barem) {
         if (r.NrPers != nrPers || r.Tip != *d.TipCerere || r.Suma != TreaptaBarem) continue;
         if (!r.DataInceput.isValid() || r.DataInceput > *d.DinData) continue;
         if (r.DataStop.isValid() && r.DataStop < *d.DinData) continue;
@@ -221,8 +210,7 @@ bool InlocuiesteDispozitie(const DateDispozitie& d, const ContextDispozitii& c, 
         m.Avertisment(QStringLiteral("Nu exista copii in cerere, motiv pentru care nu se poate tipari dispozitia."));
         return false;
     }
-    if (const RandBaremDocument* r = BaremDispozitie(c, d))
-        k.Pune("#barem#", r->Barem ? TextSuma(*r->Barem) : QString());
+    if (const RandBarem* r = BaremDispozitie(c, d)) k.Pune("#barem#", r->Barem ? TextSuma(*r->Barem) : QString());
 
     k.Pune("#Motiv#", (o.Motiv ? d.MotivStare : d.Motiv).value_or(QString()));
     k.Pune("#NumeF#", d.Nume, QStringLiteral("Nume al titularului"));

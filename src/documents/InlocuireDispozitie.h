@@ -2,6 +2,7 @@
 
 #include "documents/DateDocument.h"
 #include "base/Bani.h"
+#include "reference/Barem.h"
 
 #include <QByteArray>
 #include <QDate>
@@ -32,18 +33,10 @@ struct DateDispozitie {
     AdresaFamilie Adresa;
 };
 
-// A row of Barem as the disposition's coefficient reads it.
-struct RandBaremDocument {
-    int Tip = 0, NrPers = 0;
-    Bani Suma;
-    std::optional<Bani> Barem;
-    QDate DataInceput, DataStop; // invalid: null
-};
-
 // What every disposition of a run shares: the town hall and the scale.
 struct ContextDispozitii {
     std::optional<PrimarieDocument> Primarie;
-    std::vector<RandBaremDocument> Barem;
+    std::vector<RandBarem> Barem;
 };
 
 ContextDispozitii CitesteContextDispozitii(BazaDate& db);
@@ -62,7 +55,7 @@ bool EsteOrasSpecial(const QString& localitate);
 
 // The coefficient row of the scale for a disposition: the lowest income rung, the children
 // counted up to 4, the family kind, valid on DinData. Nothing without such a row.
-const RandBaremDocument* BaremDispozitie(const ContextDispozitii& c, const DateDispozitie& d);
+const RandBarem* BaremDispozitie(const ContextDispozitii& c, const DateDispozitie& d);
 
 // Fills the placeholders of a disposition's body. False after telling the clerk: no town hall
 // data, the request gone, no child in the request, a field that the body needs and that is null.
