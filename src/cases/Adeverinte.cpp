@@ -6,6 +6,7 @@
 #include "cases/Cnp.h"
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
+#include "store/DateGen.h"
 #include "store/Sql.h"
 #include "store/Schema.h"
 
@@ -55,10 +56,8 @@ bool inLista(const std::vector<AdeverintaMembru>& acte, int index) {
 
 TipuriAdeverinte TipuriAdeverinte::Citeste(BazaDate& db) {
     std::vector<TipAdeverinta> r;
-    Interogare q(db, QStringLiteral("SELECT DataID, Continut FROM DateGen WHERE Tip = 30 ORDER BY Ordine, DataID"));
-    q.Executa();
-    while (q.Urmator())
-        r.push_back({int(q.Intreg(0)), q.Valoare(1).toString()});
+    for (const RandDateGen& e : ListaDateGen(db, TipDateGen::TipAct))
+        r.push_back({int(e.DataID), e.Continut});
     return TipuriAdeverinte(std::move(r));
 }
 
@@ -241,11 +240,11 @@ std::vector<RandActExpira> Adeverinte::ListaActeExpira(BazaDate& db, const QDate
     Interogare q(db, QStringLiteral("SELECT A.AdevID, A.CerereID, A.MembruID, A.DataExpAdev, M.Nume, M.Prenume, "
                                     "G.Continut FROM Adeverinte A CROSS JOIN Cereri C "
                                     "LEFT JOIN Membrii M ON M.MembruID = A.MembruID "
-                                    "LEFT JOIN DateGen G ON G.Tip = 30 AND G.DataID = A.TipAdeverinta "
+                                    "LEFT JOIN DateGen G ON G.Tip = ? AND G.DataID = A.TipAdeverinta "
                                     "WHERE C.CerereID = A.CerereID AND C.FamilieID IS NOT NULL "
                                     "AND C.Stare IN (2, 6, 7, 8) AND A.DataExpAdev >= ? AND A.DataExpAdev < ? "
                                     "AND A.AdvCurenta = 1"));
-    q.Leaga(inceput).Leaga(inceput.addMonths(1)).Executa();
+    q.Leaga(TipDateGen::TipAct).Leaga(inceput).Leaga(inceput.addMonths(1)).Executa();
     std::vector<RandActExpira> r;
     std::vector<QString> chei;
     while (q.Urmator()) {
@@ -296,11 +295,11 @@ std::vector<RandAdeverintaCerere> Adeverinte::ListaAdeverinteCerere(BazaDate& db
     Interogare q(db, QStringLiteral("SELECT A.AdevID, A.MembruID, M.Nume, M.Prenume, G.Continut, A.NrAdev, "
                                     "A.DataAdeverinta, A.DataDepunerii, A.DataExpAdev, A.AdvCurenta "
                                     "FROM Adeverinte A LEFT JOIN Membrii M ON M.MembruID = A.MembruID "
-                                    "LEFT JOIN DateGen G ON G.Tip = 30 AND G.DataID = A.TipAdeverinta "
+                                    "LEFT JOIN DateGen G ON G.Tip = ? AND G.DataID = A.TipAdeverinta "
                                     "WHERE A.CerereID = ? ORDER BY A.MembruID, A.TipAdeverinta, "
                                     "CASE WHEN A.DataExpAdev IS NULL THEN 1 ELSE 0 END, A.DataExpAdev DESC, "
                                     "A.AdevID"));
-    q.Leaga(cerereID).Executa();
+    q.Leaga(TipDateGen::TipAct).Leaga(cerereID).Executa();
     std::vector<RandAdeverintaCerere> r;
     while (q.Urmator()) {
         RandAdeverintaCerere a;
@@ -328,9 +327,9 @@ std::vector<RandAdeverintaScolara> Adeverinte::ListaAdeverinteScolare(BazaDate& 
                                     "INNER JOIN CereriMembrii CM ON CM.CerereID = C.CerereID "
                                     "INNER JOIN Adeverinte A ON A.CerereID = CM.CerereID AND A.MembruID = CM.MembruID "
                                     "LEFT JOIN Membrii S ON S.MembruID = CM.MembruID "
-                                    "LEFT JOIN DateGen G ON G.Tip = 30 AND G.DataID = A.TipAdeverinta "
+                                    "LEFT JOIN DateGen G ON G.Tip = ? AND G.DataID = A.TipAdeverinta "
                                     "WHERE CM.OcupatieID IN (8, 9) ORDER BY C.CerereID, CM.MembruID, A.AdevID"));
-    q.Executa();
+    q.Leaga(TipDateGen::TipAct).Executa();
     std::vector<RandAdeverintaScolara> r;
     auto data = [&](int i) { return dataDin(q.Valoare(i)); };
     while (q.Urmator()) {

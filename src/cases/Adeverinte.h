@@ -10,7 +10,7 @@
 class BazaDate;
 class Mesaje;
 
-// One kind of certificate, a row of DateGen Tip 30.
+// One kind of certificate, a row of the DateGen list TipAct.
 struct TipAdeverinta {
     int DataID = 0;
     QString Continut;

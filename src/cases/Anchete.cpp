@@ -7,6 +7,7 @@
 #include "base/Mesaje.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/DateGen.h"
 #include "store/Sql.h"
 
 #include <QVariant>
@@ -230,12 +231,10 @@ std::optional<Ancheta> Anchete::Citeste(BazaDate& db, qint64 anchetaID) {
     return a;
 }
 
-std::vector<ElementDateGen> Anchete::ListaDateGen(BazaDate& db, int tip) {
-    Interogare q(db, QStringLiteral("SELECT DataID, Continut FROM DateGen WHERE Tip = ? ORDER BY Ordine, DataID"));
-    q.Leaga(tip).Executa();
+std::vector<ElementDateGen> Anchete::ListaDateGen(BazaDate& db, TipDateGen tip) {
     std::vector<ElementDateGen> r;
-    while (q.Urmator())
-        r.push_back({int(q.Intreg(0)), textDin(q.Valoare(1)).toLower()});
+    for (const RandDateGen& e : ::ListaDateGen(db, tip))
+        r.push_back({int(e.DataID), e.Continut.toLower()});
     return r;
 }
 

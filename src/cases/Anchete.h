@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/DateGen.h"
+
 #include <QDate>
 #include <QString>
 #include <optional>
@@ -80,7 +82,7 @@ qint64 Salveaza(BazaDate& db, Mesaje& m, Ancheta a, ModAncheta mod);
 std::optional<Ancheta> Citeste(BazaDate& db, qint64 anchetaID);
 
 // The rows of a DateGen list in their Ordine.
-std::vector<ElementDateGen> ListaDateGen(BazaDate& db, int tip);
+std::vector<ElementDateGen> ListaDateGen(BazaDate& db, TipDateGen tip);
 
 // The request's inquiries, newest first.
 std::vector<RandAncheta> ListaAnchete(BazaDate& db, qint64 cerereID);

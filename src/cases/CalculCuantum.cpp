@@ -7,6 +7,7 @@
 #include "base/Setari.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/DateGen.h"
 
 #include <algorithm>
 
@@ -60,18 +61,8 @@ ParametriCuantum IncarcaParametri(BazaDate& db) {
         while (q.Urmator())
             p.ListaBife.emplace(int(q.Intreg(QStringLiteral("NrBifa"))), q.Suma(QStringLiteral("Valoare")));
     }
-    {
-        const QString isr = QStringLiteral("ISR"), praguri = QStringLiteral("PRAGURI_VENIT");
-        Interogare q(db, QStringLiteral("SELECT Denumire, Continut FROM DateGen WHERE Denumire IN (?, ?)"));
-        q.Leaga(isr).Leaga(praguri).Executa();
-        while (q.Urmator()) {
-            const QString denumire = q.Text(QStringLiteral("Denumire"));
-            if (denumire == isr)
-                p.ISR << q.Text(QStringLiteral("Continut"));
-            else if (denumire == praguri && !p.PraguriVenit)
-                p.PraguriVenit = q.Text(QStringLiteral("Continut"));
-        }
-    }
+    p.ISR = ContinuturiDateGen(db, QStringLiteral("ISR"));
+    p.PraguriVenit = ContinutDateGen(db, QStringLiteral("PRAGURI_VENIT"));
     return p;
 }
 
@@ -214,8 +205,5 @@ QString VerificaPraguriVenit(const std::optional<QString>& continut, Mesaje& m) 
 }
 
 QString PraguriVenit(BazaDate& db, Mesaje& m) {
-    Interogare q(db, QStringLiteral("SELECT Continut FROM DateGen WHERE Denumire = ?"));
-    q.Leaga(QStringLiteral("PRAGURI_VENIT"));
-    if (!q.Exista()) return VerificaPraguriVenit(std::nullopt, m);
-    return VerificaPraguriVenit(q.Valoare(0).toString(), m);
+    return VerificaPraguriVenit(ContinutDateGen(db, QStringLiteral("PRAGURI_VENIT")), m);
 }

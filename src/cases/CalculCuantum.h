@@ -25,7 +25,7 @@ struct ParametriCuantum {
     std::optional<QString> PraguriVenit;
 };
 
-// One query per table, no message: the thresholds are checked only when a computation needs them.
+// A few queries, no message: the thresholds are checked only when a computation needs them.
 ParametriCuantum IncarcaParametri(BazaDate& db);
 
 struct IntrareCuantum {

@@ -4,6 +4,7 @@
 #include "base/Texte.h"
 #include "base/Sume.h"
 #include "store/BazaDate.h"
+#include "store/DateGen.h"
 
 #include <QRegularExpression>
 
@@ -11,27 +12,26 @@ using namespace ElemPersoana;
 
 namespace {
 
-// The DateGen list of each list combo; 0 for the text combos.
-constexpr std::array<int, 17> TipLista = {
-    2,  // cboRudenie
-    28, // cboTipAct
-    25, // cboCetatenie
-    11, // cboResedinta
-    21, // cboStCivila
-    22, // cboStudii
-    3,  // cboOcupatie
-    24, // cboDrAsSociala
-    36, // cboStareMembru
-    0,  // cboEliberat: Politii
-    0,  // cboUScolara: Scoli
-    35, // cboMotivID
-    33, // cboSituatieScolara
-    0,  // cboLocScoala: LocScolare
-    6,  // cboTipIncalzTrecut
-    0,  // cboMotiv
-    34, // cboTipValuta
+// The DateGen list of each list combo; none for the text combos.
+constexpr std::array<std::optional<TipDateGen>, 17> TipLista = {
+    TipDateGen::Rudenie,          // cboRudenie
+    TipDateGen::ActIdentitate,    // cboTipAct
+    TipDateGen::Cetatenie,        // cboCetatenie
+    TipDateGen::Resedinta,        // cboResedinta
+    TipDateGen::StareaCivila,     // cboStCivila
+    TipDateGen::SitScolara,       // cboStudii
+    TipDateGen::Ocupatie,         // cboOcupatie
+    TipDateGen::AsigurariSociale, // cboDrAsSociala
+    TipDateGen::StareMembru,      // cboStareMembru
+    std::nullopt,                 // cboEliberat: Politii
+    std::nullopt,                 // cboUScolara: Scoli
+    TipDateGen::Motiv,            // cboMotivID
+    TipDateGen::SitScolaraElev,   // cboSituatieScolara
+    std::nullopt,                 // cboLocScoala: LocScolare
+    TipDateGen::Incalzire,        // cboTipIncalzTrecut
+    std::nullopt,                 // cboMotiv
+    TipDateGen::TipValuta,        // cboTipValuta
 };
-constexpr int TipAdeverinta = 30;
 
 } // namespace
 
@@ -42,22 +42,13 @@ bool ComboText(int element) {
 ListePersoana IncarcaListePersoana(BazaDate& db) {
     ListePersoana l;
     {
-        Interogare q(db, QStringLiteral("SELECT Tip, DataID, Continut FROM DateGen "
-                                        "WHERE Tip IN (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?) "
-                                        "ORDER BY Tip, Ordine, DataID"));
-        for (int tip : {2, 28, 25, 11, 21, 22, 3, 24, 36, 35, 33, 6, 34, TipAdeverinta})
-            q.Leaga(tip);
-        q.Executa();
-        while (q.Urmator()) {
-            const int tip = int(q.Intreg(0));
-            const AlegereCombo e{q.Intreg(1), q.Valoare(2).toString()};
-            if (tip == TipAdeverinta) {
-                l.TipuriAdeverinte.push_back(e);
-                continue;
-            }
-            for (size_t i = 0; i < TipLista.size(); ++i)
-                if (TipLista[i] == tip) l.cboMembru[i].push_back(e);
-        }
+        std::vector<TipDateGen> tipuri{TipDateGen::TipAct};
+        for (const auto& t : TipLista)
+            if (t) tipuri.push_back(*t);
+        auto liste = ListeDateGen(db, tipuri);
+        l.TipuriAdeverinte = Alegeri(liste[TipDateGen::TipAct]);
+        for (size_t i = 0; i < TipLista.size(); ++i)
+            if (TipLista[i]) l.cboMembru[i] = Alegeri(liste[*TipLista[i]]);
     }
     Interogare q(db, QStringLiteral("SELECT 9 AS Element, PolitiaID AS ID, Denumire FROM Politii "
                                     "UNION ALL SELECT 10, ScoalaID, Denumire FROM Scoli "

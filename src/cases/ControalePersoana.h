@@ -17,7 +17,7 @@ class BazaDate;
 // of expiry) only suggests texts, whatever their ids.
 struct ListePersoana {
     std::array<std::vector<AlegereCombo>, 17> cboMembru{};
-    std::vector<AlegereCombo> TipuriAdeverinte; // DateGen Tip 30, the certificates' kinds
+    std::vector<AlegereCombo> TipuriAdeverinte; // DateGen TipAct, the certificates' kinds
 };
 
 // The combos whose value is the text typed or chosen, not a list row.

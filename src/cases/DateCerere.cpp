@@ -7,6 +7,7 @@
 #include "base/Mesaje.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/DateGen.h"
 
 #include <map>
 #include <unordered_map>
@@ -14,40 +15,27 @@
 namespace {
 
 // Lists of DateGen whose texts the editor shows.
-constexpr int TipStare = 1, TipRudenie = 2, TipOcupatie = 3, TipModPlata = 12, TipReprLegal = 27,
-              TipSituatieScolara = 33;
-
 class TexteDateGen {
 public:
-    explicit TexteDateGen(BazaDate& db) {
-        Interogare q(db, QStringLiteral("SELECT Tip, DataID, Continut FROM DateGen WHERE Tip IN (?, ?, ?, ?, ?, ?) "
-                                        "ORDER BY Tip, DataID, Ordine"));
-        q.Leaga(TipStare)
-            .Leaga(TipRudenie)
-            .Leaga(TipOcupatie)
-            .Leaga(TipModPlata)
-            .Leaga(TipReprLegal)
-            .Leaga(TipSituatieScolara)
-            .Executa();
-        while (q.Urmator())
-            texte_.try_emplace({int(q.Intreg(0)), q.Intreg(1)}, q.Valoare(2).toString());
-    }
-    const QString* Text(int tip, qint64 id) const {
+    explicit TexteDateGen(BazaDate& db)
+        : texte_(TexteDupaId(db, {TipDateGen::Statut, TipDateGen::Rudenie, TipDateGen::Ocupatie, TipDateGen::ModPlata,
+                                  TipDateGen::Reprezentant, TipDateGen::SitScolaraElev})) {}
+    const QString* Text(TipDateGen tip, qint64 id) const {
         const auto i = texte_.find({tip, id});
         return i == texte_.end() ? nullptr : &i->second;
     }
-    QString TextSauGol(int tip, qint64 id) const {
+    QString TextSauGol(TipDateGen tip, qint64 id) const {
         const QString* t = Text(tip, id);
         return t ? *t : QString();
     }
     // The combo's choice for a stored value: nothing when the list has no such row.
-    AlegereCombo Alegere(int tip, qint64 id) const {
+    AlegereCombo Alegere(TipDateGen tip, qint64 id) const {
         const QString* t = Text(tip, id);
         return t ? AlegereCombo{id, *t} : AlegereCombo{};
     }
 
 private:
-    std::map<std::pair<int, qint64>, QString> texte_;
+    std::map<std::pair<TipDateGen, qint64>, QString> texte_;
 };
 
 QString NumarText(const QVariant& v) {
@@ -110,7 +98,7 @@ std::vector<MembruCerere> IncarcaMembri(BazaDate& db, qint64 cerereID, const Tex
         p.Prenume = q.Text(QStringLiteral("Prenume"));
         p.CNP = q.Text(QStringLiteral("CNP"));
         p.RudenieID = Octet(q, QStringLiteral("RudenieID"));
-        p.Rudenie = dg.TextSauGol(TipRudenie, p.RudenieID);
+        p.Rudenie = dg.TextSauGol(TipDateGen::Rudenie, p.RudenieID);
         p.TipAct = Octet(q, QStringLiteral("TipAct"));
         p.SerieBI = q.Text(QStringLiteral("SerieBI"));
         p.NrBI = q.Text(QStringLiteral("NrBI"));
@@ -125,8 +113,8 @@ std::vector<MembruCerere> IncarcaMembri(BazaDate& db, qint64 cerereID, const Tex
         p.Studii = Octet(q, QStringLiteral("Studii"));
         p.OcupatieID = Octet(q, QStringLiteral("OcupatieID"));
         // A child's occupation is its school situation, kept in Studii.
-        p.Ocupatie = p.Rudenie.contains(QStringLiteral("COPIL")) ? dg.TextSauGol(TipSituatieScolara, p.Studii)
-                                                                 : dg.TextSauGol(TipOcupatie, p.OcupatieID);
+        p.Ocupatie = p.Rudenie.contains(QStringLiteral("COPIL")) ? dg.TextSauGol(TipDateGen::SitScolaraElev, p.Studii)
+                                                                 : dg.TextSauGol(TipDateGen::Ocupatie, p.OcupatieID);
         p.DrAsSociala = Octet(q, QStringLiteral("DrAsSociala"));
         p.Data18Ani = q.Data(QStringLiteral("Data18Ani"));
         p.Motiv = q.Text(QStringLiteral("Motiv"));
@@ -214,7 +202,7 @@ void IncarcaIesiti(BazaDate& db, qint64 cerereID, const TexteDateGen& dg, std::v
         r.Prenume = q.Text(QStringLiteral("Prenume"));
         r.CNP = q.Text(QStringLiteral("CNP"));
         r.RudenieID = Octet(q, QStringLiteral("RudenieID"));
-        r.Rudenie = dg.TextSauGol(TipRudenie, r.RudenieID);
+        r.Rudenie = dg.TextSauGol(TipDateGen::Rudenie, r.RudenieID);
         r.Suma = q.Suma(QStringLiteral("Suma"));
         r.SerieBI = q.Text(QStringLiteral("SerieBI"));
         r.NrBI = q.Text(QStringLiteral("NrBI"));
@@ -251,14 +239,14 @@ void AfisDate(const Interogare& q, const TexteDateGen& dg, DateCerere& d, StareC
     t[19] = text("ScR");
     t[21] = text("ApR");
 
-    d.cboCerere[1] = dg.Alegere(TipReprLegal, q.Intreg(QStringLiteral("ReprLegal")));
-    d.cboCerere[2] = dg.Alegere(TipModPlata, q.Intreg(QStringLiteral("ModPlata")));
+    d.cboCerere[1] = dg.Alegere(TipDateGen::Reprezentant, q.Intreg(QStringLiteral("ReprLegal")));
+    d.cboCerere[2] = dg.Alegere(TipDateGen::ModPlata, q.Intreg(QStringLiteral("ModPlata")));
     t[9] = text("NumeTitularCont");
     t[10] = text("Cont");
     t[11] = text("Banca");
     const int tip = int(q.Intreg(QStringLiteral("TipCerere")));
     d.cboCerere[3] = tip == 1 || tip == 2 ? AlegereCombo{tip, TextTipCerere(tip)} : AlegereCombo{};
-    d.cboCerere[4] = dg.Alegere(TipStare, q.Intreg(QStringLiteral("Stare")));
+    d.cboCerere[4] = dg.Alegere(TipDateGen::Statut, q.Intreg(QStringLiteral("Stare")));
     t[12] = SumaText(q.Valoare(QStringLiteral("VenitTotal")));
     t[13] = SumaText(q.Valoare(QStringLiteral("VenitPeMembru")));
     t[14] = SumaText(q.Valoare(QStringLiteral("Cuantum")));
@@ -364,6 +352,14 @@ CerereIncarcata Incarca(BazaDate& db, qint64 cerereID, int lunaSetata, int anSet
 }
 
 } // namespace
+
+std::vector<AlegereCombo> Alegeri(const std::vector<RandDateGen>& randuri) {
+    std::vector<AlegereCombo> a;
+    a.reserve(randuri.size());
+    for (const RandDateGen& r : randuri)
+        a.push_back({r.DataID, r.Continut});
+    return a;
+}
 
 QString TextTipCerere(int tipCerere) {
     switch (tipCerere) {

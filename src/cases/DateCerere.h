@@ -2,6 +2,7 @@
 
 #include "cases/StareCerere.h"
 #include "base/Bani.h"
+#include "store/DateGen.h"
 
 #include <QDate>
 #include <QString>
@@ -19,6 +20,9 @@ struct AlegereCombo {
 
     friend bool operator==(const AlegereCombo&, const AlegereCombo&) = default;
 };
+
+// The rows of a DateGen list as combo choices, in their order.
+std::vector<AlegereCombo> Alegeri(const std::vector<RandDateGen>& randuri);
 
 // What the request editor holds in its controls, named by the controls.
 //

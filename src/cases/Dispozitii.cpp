@@ -6,6 +6,7 @@
 #include "base/Mesaje.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/DateGen.h"
 #include "store/Sql.h"
 
 #include <QStringList>
@@ -448,9 +449,9 @@ std::vector<RandDispozitie> Dispozitii::ListaDispozitii(BazaDate& db, qint64 cer
     Interogare q(
         db,
         QStringLiteral("SELECT D.DispozitieID, D.NrDisp, D.DataDisp, G.Continut AS TipDecizie, D.Cuantum, D.Luna, D.An "
-                       "FROM Dispozitii D LEFT JOIN DateGen G ON G.Tip = 20 AND G.DataID = D.Actiune "
+                       "FROM Dispozitii D LEFT JOIN DateGen G ON G.Tip = ? AND G.DataID = D.Actiune "
                        "WHERE D.CerereID = ? ORDER BY D.DataDisp DESC, D.DispozitieID DESC"));
-    q.Leaga(cerereID).Executa();
+    q.Leaga(TipDateGen::Actiune).Leaga(cerereID).Executa();
     std::vector<RandDispozitie> r;
     while (q.Urmator()) {
         auto text = [&](const char* camp) {

@@ -5,10 +5,10 @@
 #include "base/Mesaje.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/DateGen.h"
 
 namespace {
 
-constexpr int TipStare = 1, TipModPlata = 12, TipReprLegal = 27;
 constexpr int txtVenitTotal = 12, txtVenitPeMembru = 13, txtCuantum = 14, txtNrMembrii = 15, txtNrCopii = 16;
 
 std::vector<AlegereCombo> Randuri(BazaDate& db, const QString& sql) {
@@ -37,23 +37,10 @@ ListeEditorCerere IncarcaListeEditor(BazaDate& db) {
     ListeEditorCerere l;
     l.Strazi = Randuri(db, QStringLiteral("SELECT StradaID, Denumire FROM Strazi ORDER BY StradaID"));
     l.Motive = Randuri(db, QStringLiteral("SELECT MotivID, Denumire FROM Motive ORDER BY MotivID"));
-    Interogare q(db, QStringLiteral("SELECT Tip, DataID, Continut FROM DateGen WHERE Tip IN (?, ?, ?) "
-                                    "ORDER BY Tip, Ordine, DataID"));
-    q.Leaga(TipStare).Leaga(TipModPlata).Leaga(TipReprLegal).Executa();
-    while (q.Urmator()) {
-        const AlegereCombo a{q.Intreg(1), q.Valoare(2).toString()};
-        switch (q.Intreg(0)) {
-        case TipStare:
-            l.Stare.push_back(a);
-            break;
-        case TipModPlata:
-            l.ModPlata.push_back(a);
-            break;
-        default:
-            l.ReprLegal.push_back(a);
-            break;
-        }
-    }
+    auto liste = ListeDateGen(db, {TipDateGen::Statut, TipDateGen::ModPlata, TipDateGen::Reprezentant});
+    l.Stare = Alegeri(liste[TipDateGen::Statut]);
+    l.ModPlata = Alegeri(liste[TipDateGen::ModPlata]);
+    l.ReprLegal = Alegeri(liste[TipDateGen::Reprezentant]);
     l.TipCerere = {{1, TextTipCerere(1)}, {2, TextTipCerere(2)}};
     return l;
 }

@@ -15,10 +15,10 @@ class Mesaje;
 struct ListeEditorCerere {
     std::vector<AlegereCombo> Strazi;    // cboCerere 0 and 6, by StradaID
     std::vector<AlegereCombo> Motive;    // cboCerere 5, by MotivID
-    std::vector<AlegereCombo> ReprLegal; // cboCerere 1, DateGen Tip 27 by Ordine
-    std::vector<AlegereCombo> ModPlata;  // cboCerere 2, DateGen Tip 12 by Ordine
+    std::vector<AlegereCombo> ReprLegal; // cboCerere 1, DateGen Reprezentant by Ordine
+    std::vector<AlegereCombo> ModPlata;  // cboCerere 2, DateGen ModPlata by Ordine
     std::vector<AlegereCombo> TipCerere; // cboCerere 3, the two kinds of allowance
-    std::vector<AlegereCombo> Stare;     // cboCerere 4, DateGen Tip 1 by Ordine
+    std::vector<AlegereCombo> Stare;     // cboCerere 4, DateGen Statut by Ordine
 };
 ListeEditorCerere IncarcaListeEditor(BazaDate& db);
 

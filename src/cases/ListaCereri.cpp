@@ -4,6 +4,7 @@
 #include "store/Dialect.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/DateGen.h"
 #include "store/Sql.h"
 
 #include <QRegularExpression>
@@ -13,7 +14,8 @@ namespace {
 // A request whose titular is gone still shows, with no name, so that it can be opened and deleted.
 // A search by the titular's code or names finds no such request anyway, and joins the titular
 // plainly: the planner then starts from the index of what was typed, which it doesn't do from the
-// outer side of a LEFT JOIN.
+// outer side of a LEFT JOIN. Its one parameter, the DateGen list of the states, comes before the
+// caller's own.
 QString SelectLista(bool dupaTitular = false) {
     return QStringLiteral(
                "SELECT C.CerereID, C.FamilieID, C.NrCerere, C.NrCerere2, C.TipCerere, C.Stare, C.DataCerere, "
@@ -21,7 +23,7 @@ QString SelectLista(bool dupaTitular = false) {
                "F.Strada, F.Nr, F.Sc, F.Ap, G.Continut AS StareText "
                "FROM Cereri C %1 JOIN Membrii M ON C.MembruID1 = M.MembruID "
                "LEFT JOIN Familii F ON F.FamilieID = C.FamilieID "
-               "LEFT JOIN DateGen G ON G.Tip = 1 AND G.DataID = C.Stare")
+               "LEFT JOIN DateGen G ON G.Tip = ? AND G.DataID = C.Stare")
         .arg(dupaTitular ? QStringLiteral("INNER") : QStringLiteral("LEFT"));
 }
 
@@ -110,6 +112,7 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
     sql += f.OrdineNumerica ? QStringLiteral(" ORDER BY C.NrCerere + 0, C.CerereID")
                             : QStringLiteral(" ORDER BY C.CerereID");
     Interogare q(db, sql);
+    q.Leaga(TipDateGen::Statut);
     for (const QVariant& v : valori)
         q.Leaga(v);
     q.Executa();
@@ -121,7 +124,7 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
 
 RandCerere ListaCereri::Citeste(BazaDate& db, qint64 cerereID) {
     Interogare q(db, SelectLista() + QStringLiteral(" WHERE C.CerereID = ?"));
-    q.Leaga(cerereID);
+    q.Leaga(TipDateGen::Statut).Leaga(cerereID);
     return q.Exista() ? randDin(q) : RandCerere{};
 }
 
@@ -141,7 +144,10 @@ std::vector<ElementLista> ListaCereri::Strazi(BazaDate& db) {
 }
 
 std::vector<ElementLista> ListaCereri::Stari(BazaDate& db) {
-    return elemente(db, QStringLiteral("SELECT DataID, Continut FROM DateGen WHERE Tip = 1 ORDER BY Ordine, DataID"));
+    std::vector<ElementLista> r;
+    for (const RandDateGen& e : ListaDateGen(db, TipDateGen::Statut))
+        r.push_back({e.DataID, e.Continut});
+    return r;
 }
 
 QString ListaCereri::TextRezultat(qsizetype n) {

@@ -2,23 +2,15 @@
 
 #include "cases/StareCerere.h"
 #include "base/Val.h"
-#include "store/BazaDate.h"
 
 #include <cmath>
 
 std::array<std::vector<OptiuneLista>, 5> CitesteListeLocuinta(BazaDate& db) {
-    Interogare q(db, QStringLiteral("SELECT Tip, DataID, Continut FROM DateGen WHERE Tip IN (?, ?, ?, ?, ?) "
-                                    "ORDER BY Tip, Ordine, DataID"));
-    for (int tip : TipListaLocuinta)
-        q.Leaga(tip);
-    q.Executa();
+    auto liste = ListeDateGen(db, {TipListaLocuinta.begin(), TipListaLocuinta.end()});
     std::array<std::vector<OptiuneLista>, 5> r;
-    while (q.Urmator()) {
-        const int tip = int(q.Intreg(0));
-        for (size_t i = 0; i < TipListaLocuinta.size(); ++i)
-            if (TipListaLocuinta[i] == tip)
-                r[i].push_back({int(q.Intreg(1)), q.Valoare(2).isNull() ? QString() : q.Valoare(2).toString()});
-    }
+    for (size_t i = 0; i < TipListaLocuinta.size(); ++i)
+        for (const RandDateGen& e : liste[TipListaLocuinta[i]])
+            r[i].push_back({int(e.DataID), e.Continut});
     return r;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/DateGen.h"
+
 #include <QDate>
 #include <QString>
 #include <array>
@@ -20,7 +22,9 @@ inline const std::array<QString, 7> TipuriLocuinta = {QStringLiteral("Casa cu cu
 
 // The DateGen list of each cboLocuinta: TipDobandire, RegimJuridLoc, GospodLoc, TipLocuinta,
 // TipIncalzire.
-inline constexpr std::array<int, 5> TipListaLocuinta = {32, 5, 26, 29, 6};
+inline constexpr std::array<TipDateGen, 5> TipListaLocuinta = {TipDateGen::TipDobandire, TipDateGen::RegimJuridic,
+                                                               TipDateGen::Gospodarie, TipDateGen::TipLocuinta,
+                                                               TipDateGen::Incalzire};
 
 struct OptiuneLista {
     int DataID = 0;

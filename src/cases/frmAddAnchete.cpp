@@ -23,7 +23,8 @@ namespace {
 const char* const CampText[12] = {"Intocmitor", "NrCamere", "SuprUtila",  "Bunuri",        "Igiena", "Teren",
                                   "Cladiri",    "Spatii",   "AlteBunuri", "StareSanatate", "Nevoi",  "Aspecte"};
 // The DateGen list of each cboCerere.
-constexpr int TipLista[4] = {4, 5, 7, 8};
+constexpr TipDateGen TipLista[4] = {TipDateGen::FelLocuinta, TipDateGen::RegimJuridic, TipDateGen::Locuire,
+                                    TipDateGen::Detinere};
 
 } // namespace
 

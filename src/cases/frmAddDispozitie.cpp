@@ -36,7 +36,7 @@ frmAddDispozitie::frmAddDispozitie(BazaDate& db, Mesaje& m, int adaug, qint64 ce
     asazaControale();
     lblInfo->setText(titlu);
     try {
-        for (const auto& e : Anchete::ListaDateGen(db_, 20))
+        for (const auto& e : Anchete::ListaDateGen(db_, TipDateGen::Actiune))
             cboDispoz[0]->addItem(e.Continut, e.DataID);
         cboDispoz[0]->setCurrentIndex(-1);
         const auto d = mod_ == ModDispozitie::Modificare ? Dispozitii::DeschideModificare(db_, m_, dispozitieID_)

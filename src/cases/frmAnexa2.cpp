@@ -47,7 +47,7 @@ frmAnexa2::frmAnexa2(BazaDate& db, Mesaje& m, int lunaSetata, int anSetat, QWidg
     if (anSetat > 0) txtDispoz[1]->setText(QString::number(anSetat));
     dtpData->setDate(Ceas::Azi());
     try {
-        for (const auto& e : Anchete::ListaDateGen(db_, 20))
+        for (const auto& e : Anchete::ListaDateGen(db_, TipDateGen::Actiune))
             cboCerere[0]->addItem(e.Continut, e.DataID);
     } catch (const Eroare& e) {
         m_.Critic(e.text());

@@ -5,6 +5,7 @@
 #include "base/Ceas.h"
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
+#include "store/DateGen.h"
 
 #include <map>
 #include <utility>
@@ -23,20 +24,6 @@ bool Esuat(const Completare& k, Mesaje& m) {
     if (k.Reusita()) return false;
     m.Critic(k.MesajEsec());
     return true;
-}
-
-// The DateGen texts that a declaration names: kinship (2), occupation (3), school situation (33).
-std::map<std::pair<int, qint64>, QString> TexteDateGen(BazaDate& db) {
-    std::map<std::pair<int, qint64>, QString> t;
-    Interogare q(db, QStringLiteral("SELECT Tip, DataID, Continut FROM DateGen WHERE Tip IN (?, ?, ?) "
-                                    "ORDER BY Tip, DataID, Ordine"));
-    q.Leaga(2).Leaga(3).Leaga(33).Executa();
-    while (q.Urmator()) {
-        // The first row of a value is the one that counts, as a look-up by value finds it.
-        const std::pair<int, qint64> cheie{int(q.Intreg(0)), q.Intreg(1)};
-        if (!t.contains(cheie)) t.emplace(cheie, q.Valoare(2).toString());
-    }
-    return t;
 }
 
 } // namespace
@@ -113,8 +100,9 @@ bool InlocuiesteDeclaratie(BazaDate& db, qint64 cerereID, const OptiuniDocumente
     k.Pune("#cnp#", Camp::Text(c, QStringLiteral("CNP")), QStringLiteral("CNP al titularului"));
     if (Esuat(k, m)) return false;
 
-    const auto texte = TexteDateGen(db);
-    auto text = [&](int tip, const std::optional<qint64>& id) -> std::optional<QString> {
+    // The DateGen texts that a declaration names: kinship, occupation, school situation.
+    const auto texte = TexteDupaId(db, {TipDateGen::Rudenie, TipDateGen::Ocupatie, TipDateGen::SitScolaraElev});
+    auto text = [&](TipDateGen tip, const std::optional<qint64>& id) -> std::optional<QString> {
         if (!id) return std::nullopt;
         const auto it = texte.find({tip, *id});
         if (it == texte.end()) return std::nullopt;
@@ -135,11 +123,11 @@ bool InlocuiesteDeclaratie(BazaDate& db, qint64 cerereID, const OptiuniDocumente
         k.Pune(Marcaj("#cnp", membri).constData(), Camp::Text(p, QStringLiteral("CNP")),
                QStringLiteral("CNP al membrului %1").arg(membri));
         k.Pune(Marcaj("#n", membri).constData(), QString::number(membri));
-        k.Pune(Marcaj("#r", membri).constData(), text(2, rudenie).value_or(QString()));
-        auto ocupatie = text(3, Camp::Intreg(p, QStringLiteral("OcupatieID")));
+        k.Pune(Marcaj("#r", membri).constData(), text(TipDateGen::Rudenie, rudenie).value_or(QString()));
+        auto ocupatie = text(TipDateGen::Ocupatie, Camp::Intreg(p, QStringLiteral("OcupatieID")));
         const qint64 r = rudenie.value_or(0);
         if (!ocupatie && (r == 3 || (r >= 6 && r <= 10)))
-            ocupatie = text(33, Camp::Intreg(p, QStringLiteral("Studii")));
+            ocupatie = text(TipDateGen::SitScolaraElev, Camp::Intreg(p, QStringLiteral("Studii")));
         k.Pune(Marcaj("#o", membri).constData(), ocupatie.value_or(QString()));
     }
 

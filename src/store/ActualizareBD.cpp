@@ -6,9 +6,11 @@
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
 #include "store/Cataloage.h"
+#include "store/DateGen.h"
 #include "store/OperatiiSchema.h"
 #include "store/PasiActualizare.h"
 #include "store/SeminteDateGen.h"
+#include "store/Sql.h"
 
 #include <QSet>
 #include <limits>
@@ -19,6 +21,9 @@ namespace {
 
 const QStringList TabeleObligatorii = {QStringLiteral("Familii"), QStringLiteral("Cereri"), QStringLiteral("Membrii"),
                                        QStringLiteral("CereriMembrii"), QStringLiteral("DateGen")};
+// What a DateGen row is written with, by the seeds and by the named values.
+const QStringList CampuriDateGen = {QStringLiteral("Denumire"), QStringLiteral("Tip"), QStringLiteral("DataID"),
+                                    QStringLiteral("Continut"), QStringLiteral("Ordine")};
 
 class Actualizator {
 public:
@@ -239,8 +244,8 @@ private:
         total.Exista();
         const qint64 randuri = total.Intreg(QStringLiteral("Nr"));
         if (randuri == 0) return;
-        Interogare tipuri(db_, QStringLiteral("SELECT MAX(DataID) AS NrActe FROM DateGen WHERE Tip = 30"));
-        tipuri.Exista();
+        Interogare tipuri(db_, QStringLiteral("SELECT MAX(DataID) AS NrActe FROM DateGen WHERE Tip = ?"));
+        tipuri.Leaga(TipDateGen::TipAct).Exista();
         const qint64 nrActe = tipuri.Intreg(QStringLiteral("NrActe"));
         Interogare marcheaza(
             db_, QStringLiteral("UPDATE Adeverinte SET AdvCurenta = 1 WHERE AdevID IN (SELECT AdevID FROM ("
@@ -260,9 +265,7 @@ private:
         while (q.Urmator())
             existente.insert({q.Intreg(0), q.Intreg(1)});
 
-        Interogare ins(
-            db_,
-            QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, ?, ?, ?, ?)"));
+        Interogare ins(db_, Sql::Insert(QStringLiteral("DateGen"), CampuriDateGen));
         for (const auto& s : Seminte::DateGen()) {
             if (existente.count({s.tip, s.dataID})) continue;
             ins.Leaga(s.denumire).Leaga(s.tip).Leaga(s.dataID).Leaga(s.continut).Leaga(s.ordine).Executa();
@@ -272,11 +275,11 @@ private:
                           .arg(QString::fromUtf8(s.continut)));
         }
 
-        corecteaza(2, 2, QStringLiteral("PARTENER"), -1);
-        corecteaza(2, 3, QStringLiteral("COPIL NATURAL"), 6);
-        corecteaza(26, 2, QStringLiteral("IMPREUNA CU ALTA PERSOANA SINGURA SAU FAMILIE"), -1);
-        Interogare sterge(db_, QStringLiteral("DELETE FROM DateGen WHERE Tip = 26 AND DataID = 3"));
-        sterge.Executa();
+        corecteaza(TipDateGen::Rudenie, 2, QStringLiteral("PARTENER"), -1);
+        corecteaza(TipDateGen::Rudenie, 3, QStringLiteral("COPIL NATURAL"), 6);
+        corecteaza(TipDateGen::Gospodarie, 2, QStringLiteral("IMPREUNA CU ALTA PERSOANA SINGURA SAU FAMILIE"), -1);
+        Interogare sterge(db_, QStringLiteral("DELETE FROM DateGen WHERE Tip = ? AND DataID = 3"));
+        sterge.Leaga(TipDateGen::Gospodarie).Executa();
         if (sterge.RanduriAfectate() > 0) schimbare(QStringLiteral("DateGen: sters Tip 26 DataID 3"));
 
         parametru(QStringLiteral("ISR"), 1, QStringLiteral("525.5"));
@@ -284,7 +287,7 @@ private:
     }
 
     // A delivered row whose text must be this one; a clerk's edit of it does not last.
-    void corecteaza(int tip, int dataID, const QString& continut, int ordine) {
+    void corecteaza(TipDateGen tip, int dataID, const QString& continut, int ordine) {
         QString sql = QStringLiteral("UPDATE DateGen SET Continut = ?");
         if (ordine >= 0) sql += QStringLiteral(", Ordine = ?");
         sql += QStringLiteral(" WHERE Tip = ? AND DataID = ? AND (Continut IS NULL OR Continut <> ?)");
@@ -293,17 +296,18 @@ private:
         if (ordine >= 0) u.Leaga(ordine);
         u.Leaga(tip).Leaga(dataID).Leaga(continut).Executa();
         if (u.RanduriAfectate() > 0)
-            schimbare(QStringLiteral("DateGen: corectat Tip %1 DataID %2 in %3").arg(tip).arg(dataID).arg(continut));
+            schimbare(
+                QStringLiteral("DateGen: corectat Tip %1 DataID %2 in %3").arg(int(tip)).arg(dataID).arg(continut));
     }
 
     void parametru(const QString& denumire, int dataID, const QString& valoare) {
-        if (Interogare(db_, QStringLiteral("SELECT 1 FROM DateGen WHERE Denumire = ?")).Leaga(denumire).Exista())
-            return;
-        Interogare(
-            db_, QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, 0, ?, ?, 0)"))
+        if (ContinutDateGen(db_, denumire)) return;
+        Interogare(db_, Sql::Insert(QStringLiteral("DateGen"), CampuriDateGen))
             .Leaga(denumire)
+            .Leaga(TipDateGen::Parametru)
             .Leaga(dataID)
             .Leaga(valoare)
+            .Leaga(0)
             .Executa();
         schimbare(QStringLiteral("DateGen: adaugat %1 = %2").arg(denumire, valoare));
     }

@@ -122,6 +122,9 @@ public:
     requires(std::is_integral_v<T> && !std::is_same_v<T, bool>) Interogare& Leaga(T v) {
         return Leaga(QVariant(qint64(v)));
     }
+    // A named constant, bound as its number.
+    template <typename E>
+    requires std::is_enum_v<E> Interogare& Leaga(E v) { return Leaga(qint64(std::underlying_type_t<E>(v))); }
 
     // Executes with the values bound so far, then forgets them so the statement can run again.
     Interogare& Executa();

@@ -388,16 +388,16 @@ TEST_P(AncheteBaza, ListeleDateGenInOrdineaLorCuLitereMici) {
             t << QStringLiteral("%1 %2").arg(e.DataID).arg(e.Continut);
         return t;
     };
-    EXPECT_EQ(texte(Anchete::ListaDateGen(Bd(), 8)),
+    EXPECT_EQ(texte(Anchete::ListaDateGen(Bd(), TipDateGen::Detinere)),
               (QStringList{QStringLiteral("1 in proprietate"), QStringLiteral("2 in folosinta")}));
     for (int tip : {4, 5, 7})
-        EXPECT_FALSE(Anchete::ListaDateGen(Bd(), tip).empty()) << tip;
+        EXPECT_FALSE(Anchete::ListaDateGen(Bd(), TipDateGen(tip)).empty()) << tip;
     Interogare ins(
         Bd(), QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, ?, ?, ?, ?)"));
     ins.Leaga("PROBA").Leaga(98).Leaga(1).Leaga(QStringLiteral("ÎNTÂI")).Leaga(3).Executa();
     ins.Leaga("PROBA").Leaga(98).Leaga(2).Leaga(QStringLiteral("Al Doilea")).Leaga(1).Executa();
     ins.Leaga("PROBA").Leaga(98).Leaga(3).Leaga(QVariant()).Leaga(2).Executa();
-    EXPECT_EQ(texte(Anchete::ListaDateGen(Bd(), 98)),
+    EXPECT_EQ(texte(Anchete::ListaDateGen(Bd(), TipDateGen(98))),
               (QStringList{QStringLiteral("2 al doilea"), QStringLiteral("3 "), QStringLiteral("1 întâi")}));
 }
 

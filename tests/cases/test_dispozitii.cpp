@@ -113,7 +113,7 @@ protected:
 
 TEST_P(DispozitiiBaza, DeschidereaPropuneTipulDupaStareaCererii) {
     // The proposal goes by the position in the list as the clerks see it.
-    const auto lista = Anchete::ListaDateGen(Bd(), 20);
+    const auto lista = Anchete::ListaDateGen(Bd(), TipDateGen::Actiune);
     ASSERT_EQ(lista.size(), 6u);
     const struct {
         int stare;
