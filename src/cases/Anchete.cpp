@@ -20,7 +20,12 @@ const QString Stearsa =
     QStringLiteral("Aceasta Ancheta a fost stearsa de alt utilizator. Modificarile dvs. nu pot avea "
                    "loc. Aceasta fereastra se va inchide!");
 const QString RandNegasit = QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cerere!");
-const QString SelectAncheta = QStringLiteral("SELECT 1 FROM Anchete WHERE AnchetaID = ?");
+
+// A usable database, an inquiry chosen (else `faraSelectie`) and still there.
+bool AnchetaDisponibila(BazaDate& db, Mesaje& m, qint64 anchetaID, const QString& faraSelectie) {
+    return RandDisponibil(db, m, anchetaID, faraSelectie, QStringLiteral("Anchete"), QStringLiteral("AnchetaID"),
+                          RandNegasit);
+}
 
 QVariant textSauNul(const QString& s) {
     return s.isEmpty() ? QVariant() : QVariant(s);
@@ -109,7 +114,7 @@ VerificareAncheta Anchete::VerificaControale(BazaDate& db, Mesaje& m, const Anch
     VerificareAncheta r;
     if (!VerificaBD(db, m)) return r;
     if (mod == ModAncheta::Modificare) {
-        const qint64 n = RanduriCuCheie(db, QStringLiteral("Anchete"), QStringLiteral("AnchetaID"), a.AnchetaID);
+        const qint64 n = Sql::RanduriCuCheie(db, QStringLiteral("Anchete"), QStringLiteral("AnchetaID"), a.AnchetaID);
         if (n == 0) {
             m.Informatie(Stearsa);
             r.inchide = true;
@@ -259,13 +264,13 @@ QString Anchete::TitluAnchete(const QString& solicitant, size_t randuri) {
 }
 
 bool Anchete::PoateAdauga(BazaDate& db, Mesaje& m, qint64 cerereID) {
-    return RandDisponibil(db, m, cerereID, QStringLiteral("Selectati o cerere"),
-                          QStringLiteral("SELECT 1 FROM Cereri WHERE CerereID = ?"),
+    return RandDisponibil(db, m, cerereID, QStringLiteral("Selectati o cerere"), QStringLiteral("Cereri"),
+                          QStringLiteral("CerereID"),
                           QStringLiteral("Cererea selectata a fost stearsa de alt utilizator! Dati clic pe Cauta"));
 }
 
 bool Anchete::PoateModifica(BazaDate& db, Mesaje& m, qint64 anchetaID) {
-    return RandDisponibil(db, m, anchetaID, QStringLiteral("Selectati o ancheta"), SelectAncheta, RandNegasit);
+    return AnchetaDisponibila(db, m, anchetaID, QStringLiteral("Selectati o ancheta"));
 }
 
 QString Anchete::IntrebareStergere(const QString& textRand) {
@@ -273,8 +278,7 @@ QString Anchete::IntrebareStergere(const QString& textRand) {
 }
 
 bool Anchete::Sterge(BazaDate& db, Mesaje& m, qint64 anchetaID, const QString& textRand) {
-    if (!RandDisponibil(db, m, anchetaID, QStringLiteral("Selectati o ancheta!"), SelectAncheta, RandNegasit))
-        return false;
+    if (!AnchetaDisponibila(db, m, anchetaID, QStringLiteral("Selectati o ancheta!"))) return false;
     if (!m.Intrebare(IntrebareStergere(textRand))) return false;
     Tranzactie t(db);
     Interogare d(db, QStringLiteral("DELETE FROM Anchete WHERE AnchetaID = ?"));

@@ -213,7 +213,7 @@ VerificareDispozitie Dispozitii::VerificaControale(BazaDate& db, Mesaje& m, cons
     if (!VerificaBD(db, m)) return r;
     if (mod == ModDispozitie::Modificare) {
         const qint64 n =
-            RanduriCuCheie(db, QStringLiteral("Dispozitii"), QStringLiteral("DispozitieID"), d.DispozitieID);
+            Sql::RanduriCuCheie(db, QStringLiteral("Dispozitii"), QStringLiteral("DispozitieID"), d.DispozitieID);
         if (n == 0) {
             m.Informatie(Stearsa);
             r.inchide = true;
@@ -315,8 +315,8 @@ bool Dispozitii::PoateAdauga(BazaDate& db, Mesaje& m, qint64 cerereID) {
 }
 
 bool Dispozitii::PoateModifica(BazaDate& db, Mesaje& m, qint64 dispozitieID) {
-    return RandDisponibil(db, m, dispozitieID, QStringLiteral("Selectati o dispozitie"),
-                          QStringLiteral("SELECT 1 FROM Dispozitii WHERE DispozitieID = ?"), RandNegasit);
+    return RandDisponibil(db, m, dispozitieID, QStringLiteral("Selectati o dispozitie"), QStringLiteral("Dispozitii"),
+                          QStringLiteral("DispozitieID"), RandNegasit);
 }
 
 RezultatGenerare Dispozitii::Genereaza(BazaDate& db, Mesaje& m, const ParametriGenerare& p) {

@@ -3,6 +3,7 @@
 #include "base/Mesaje.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/Sql.h"
 
 #include <cmath>
 #include <limits>
@@ -63,9 +64,7 @@ std::optional<EsecVerificare> VerificaControale(BazaDate& db, const DateCerere& 
     };
 
     if (d.Adaug == 2) {
-        Interogare q(db, QStringLiteral("SELECT COUNT(CerereID) FROM Cereri WHERE CerereID = ?"));
-        q.Leaga(d.CerereID);
-        const qint64 n = q.Exista() ? q.Intreg(0) : 0;
+        const qint64 n = Sql::NumarRanduri(db, QStringLiteral("Cereri"), QStringLiteral("CerereID"), d.CerereID);
         if (n == 0)
             return EsecVerificare{
                 QStringLiteral("Aceasta cerere a fost stearsa de alt utilizator. Modificarile dvs. nu "

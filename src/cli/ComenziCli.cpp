@@ -12,6 +12,7 @@
 #include "base/Val.h"
 #include "store/ActualizareBD.h"
 #include "store/BazaDate.h"
+#include "store/Sql.h"
 #include "store/DateLivrate.h"
 #include "maintenance/Demo.h"
 
@@ -235,9 +236,7 @@ int web(const QCommandLineParser& p, const QString& document, const QString& idT
     MesajeFlux m(err, err);
     auto db = BazaDate::Deschide(loc);
     if (id > 0) {
-        Interogare q(*db, QStringLiteral("SELECT 1 FROM Cereri WHERE CerereID = ?"));
-        q.Leaga(id);
-        if (!q.Exista()) {
+        if (!Sql::RandExista(*db, QStringLiteral("Cereri"), QStringLiteral("CerereID"), id)) {
             err << QStringLiteral("Cererea cu ID-ul %1 nu exista in baza de date.").arg(id) << Qt::endl;
             return 1;
         }

@@ -4,6 +4,7 @@
 #include "documents/Documente.h"
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
+#include "store/Sql.h"
 
 #include <QDir>
 
@@ -18,9 +19,7 @@ bool CererePregatita(BazaDate& db, qint64 cerereID, Mesaje& m) {
         return false;
     }
     if (!VerificaBD(db, m)) return false;
-    Interogare q(db, QStringLiteral("SELECT CerereID FROM Cereri WHERE CerereID = ?"));
-    q.Leaga(cerereID);
-    if (!q.Exista()) {
+    if (!Sql::RandExista(db, QStringLiteral("Cereri"), QStringLiteral("CerereID"), cerereID)) {
         m.Informatie(TextRandNegasit);
         return false;
     }

@@ -245,16 +245,6 @@ QDate Interogare::Data(const QString& camp) const {
     return QDate::fromString(v.toString().left(10), Qt::ISODate);
 }
 
-qint64 RanduriCuCheie(BazaDate& db, const QString& tabela, const QString& camp, qint64 id) {
-    try {
-        Interogare q(db, QStringLiteral("SELECT COUNT(%1) FROM %2 WHERE %1 = ?").arg(camp, tabela));
-        q.Leaga(id);
-        return q.Exista() ? q.Intreg(0) : 0;
-    } catch (const Eroare&) {
-        return 0;
-    }
-}
-
 bool VerificaBD(BazaDate& bd, Mesaje& m) {
     switch (bd.Stare()) {
     case 0:

@@ -156,9 +156,5 @@ private:
     int legate_ = 0;
 };
 
-// The rows of `tabela` whose `camp` equals `id`; 0 also when the read fails, which the editors
-// treat as a row removed by another computer.
-qint64 RanduriCuCheie(BazaDate& db, const QString& tabela, const QString& camp, qint64 id);
-
 // Whether the database is reachable; when not, says why as a critical message.
 bool VerificaBD(BazaDate& bd, Mesaje& m);

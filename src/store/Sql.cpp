@@ -1,5 +1,6 @@
 #include "store/Sql.h"
 
+#include "base/Eroare.h"
 #include "store/BazaDate.h"
 
 namespace Sql {
@@ -46,6 +47,24 @@ int Actualizeaza(BazaDate& db, const QString& tabela, const Rand& r, const QStri
     Interogare q(db, Update(tabela, Campuri(r), cheie));
     Leaga(q, r).Leaga(valoareCheie).Executa();
     return q.RanduriAfectate();
+}
+
+bool RandExista(BazaDate& db, const QString& tabela, const QString& camp, qint64 cheie) {
+    return Interogare(db, QStringLiteral("SELECT 1 FROM %1 WHERE %2 = ?").arg(tabela, camp)).Leaga(cheie).Exista();
+}
+
+qint64 NumarRanduri(BazaDate& db, const QString& tabela, const QString& camp, qint64 cheie) {
+    Interogare q(db, QStringLiteral("SELECT COUNT(*) FROM %1 WHERE %2 = ?").arg(tabela, camp));
+    q.Leaga(cheie);
+    return q.Exista() ? q.Intreg(0) : 0;
+}
+
+qint64 RanduriCuCheie(BazaDate& db, const QString& tabela, const QString& camp, qint64 id) {
+    try {
+        return NumarRanduri(db, tabela, camp, id);
+    } catch (const Eroare&) {
+        return 0;
+    }
 }
 
 } // namespace Sql

@@ -43,4 +43,14 @@ void Insereaza(BazaDate& db, const QString& tabela, const Rand& r);
 int Actualizeaza(BazaDate& db, const QString& tabela, const Rand& r, const QString& cheie,
                  const QVariant& valoareCheie);
 
+// Whether `tabela` holds a row whose `camp` is `cheie`; throws Eroare when the read fails.
+bool RandExista(BazaDate& db, const QString& tabela, const QString& camp, qint64 cheie);
+// How many rows of `tabela` have `camp` equal to `cheie`: a key counted rather than looked up, so
+// that a duplicate shows; throws Eroare when the read fails.
+qint64 NumarRanduri(BazaDate& db, const QString& tabela, const QString& camp, qint64 cheie);
+
+// NumarRanduri, but 0 also when the read fails, which the editors treat as a row removed by another
+// computer.
+qint64 RanduriCuCheie(BazaDate& db, const QString& tabela, const QString& camp, qint64 id);
+
 } // namespace Sql
