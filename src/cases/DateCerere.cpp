@@ -12,6 +12,8 @@
 #include <map>
 #include <unordered_map>
 
+using namespace ElemCerere;
+
 namespace {
 
 // Lists of DateGen whose texts the editor shows.
@@ -216,46 +218,46 @@ void IncarcaIesiti(BazaDate& db, qint64 cerereID, const TexteDateGen& dg, std::v
 void AfisDate(const Interogare& q, const TexteDateGen& dg, DateCerere& d, StareCerere& s) {
     auto& t = d.txtCerere;
     auto text = [&](const char* camp) { return q.Text(QString::fromLatin1(camp)); };
-    t[0] = NumarText(q.Valoare(QStringLiteral("NrDosar")));
-    t[1] = NumarText(q.Valoare(QStringLiteral("NrCerere")));
-    t[29] = text("NrDosar2");
-    t[30] = text("NrCerere2");
-    d.dtpData[0] = q.Data(QStringLiteral("DataCerere"));
+    t[txtNrDosar] = NumarText(q.Valoare(QStringLiteral("NrDosar")));
+    t[txtNrCerere] = NumarText(q.Valoare(QStringLiteral("NrCerere")));
+    t[txtNrDosar2] = text("NrDosar2");
+    t[txtNrCerere2] = text("NrCerere2");
+    d.dtpData[dtpDataCerere] = q.Data(QStringLiteral("DataCerere"));
 
-    t[6] = text("Judet");
-    t[5] = text("Localitate");
-    d.cboCerere[0] = {0, text("Strada")};
-    t[2] = text("Nr");
-    t[17] = text("Bloc");
-    t[3] = text("Sc");
-    t[4] = text("Ap");
-    t[7] = text("Telefon");
-    t[8] = text("Mobil");
-    t[24] = text("JudetR");
-    t[23] = text("LocalitateR");
-    d.cboCerere[6] = {0, text("StradaR")};
-    t[20] = text("NrR");
-    t[18] = text("BlocR");
-    t[19] = text("ScR");
-    t[21] = text("ApR");
+    t[txtJudet] = text("Judet");
+    t[txtLocalitate] = text("Localitate");
+    d.cboCerere[cboStrada] = {0, text("Strada")};
+    t[txtNr] = text("Nr");
+    t[txtBloc] = text("Bloc");
+    t[txtSc] = text("Sc");
+    t[txtAp] = text("Ap");
+    t[txtTelefon] = text("Telefon");
+    t[txtMobil] = text("Mobil");
+    t[txtJudetR] = text("JudetR");
+    t[txtLocalitateR] = text("LocalitateR");
+    d.cboCerere[cboStradaR] = {0, text("StradaR")};
+    t[txtNrR] = text("NrR");
+    t[txtBlocR] = text("BlocR");
+    t[txtScR] = text("ScR");
+    t[txtApR] = text("ApR");
 
-    d.cboCerere[1] = dg.Alegere(TipDateGen::Reprezentant, q.Intreg(QStringLiteral("ReprLegal")));
-    d.cboCerere[2] = dg.Alegere(TipDateGen::ModPlata, q.Intreg(QStringLiteral("ModPlata")));
-    t[9] = text("NumeTitularCont");
-    t[10] = text("Cont");
-    t[11] = text("Banca");
+    d.cboCerere[cboReprLegal] = dg.Alegere(TipDateGen::Reprezentant, q.Intreg(QStringLiteral("ReprLegal")));
+    d.cboCerere[cboModPlata] = dg.Alegere(TipDateGen::ModPlata, q.Intreg(QStringLiteral("ModPlata")));
+    t[txtNumeTitularCont] = text("NumeTitularCont");
+    t[txtCont] = text("Cont");
+    t[txtBanca] = text("Banca");
     const int tip = int(q.Intreg(QStringLiteral("TipCerere")));
-    d.cboCerere[3] = tip == 1 || tip == 2 ? AlegereCombo{tip, TextTipCerere(tip)} : AlegereCombo{};
-    d.cboCerere[4] = dg.Alegere(TipDateGen::Statut, q.Intreg(QStringLiteral("Stare")));
-    t[12] = SumaText(q.Valoare(QStringLiteral("VenitTotal")));
-    t[13] = SumaText(q.Valoare(QStringLiteral("VenitPeMembru")));
-    t[14] = SumaText(q.Valoare(QStringLiteral("Cuantum")));
-    t[15] = NumarText(q.Valoare(QStringLiteral("NrMembrii")));
-    t[16] = NumarText(q.Valoare(QStringLiteral("NrCopii")));
+    d.cboCerere[cboTipCerere] = tip == 1 || tip == 2 ? AlegereCombo{tip, TextTipCerere(tip)} : AlegereCombo{};
+    d.cboCerere[cboStare] = dg.Alegere(TipDateGen::Statut, q.Intreg(QStringLiteral("Stare")));
+    t[txtVenitTotal] = SumaText(q.Valoare(QStringLiteral("VenitTotal")));
+    t[txtVenitPeMembru] = SumaText(q.Valoare(QStringLiteral("VenitPeMembru")));
+    t[txtCuantum] = SumaText(q.Valoare(QStringLiteral("Cuantum")));
+    t[txtNrMembrii] = NumarText(q.Valoare(QStringLiteral("NrMembrii")));
+    t[txtNrCopii] = NumarText(q.Valoare(QStringLiteral("NrCopii")));
 
-    d.dtpData[1] = q.Data(QStringLiteral("DataStare"));
-    d.cboCerere[5] = {0, text("MotivStare")};
-    t[22] = NumarText(q.Valoare(QStringLiteral("LuniRetro")));
+    d.dtpData[dtpDataStare] = q.Data(QStringLiteral("DataStare"));
+    d.cboCerere[cboMotivStare] = {0, text("MotivStare")};
+    t[txtLuniRetro] = NumarText(q.Valoare(QStringLiteral("LuniRetro")));
     d.chkVmg = Fanion(q, QStringLiteral("Vmg"));
     d.chkIncalzire = Fanion(q, QStringLiteral("Inc"));
     d.chkSupl = Fanion(q, QStringLiteral("Supl"));
@@ -319,7 +321,7 @@ CerereIncarcata Incarca(BazaDate& db, qint64 cerereID, int lunaSetata, int anSet
     IncarcaAdeverinte(db, cerereID, membri);
     const int numarati = CopiiDupaBaza(membri, lunaSetata, anSetat);
     if (numarati != nrCopiiSalvat) {
-        r.Date.txtCerere[16] = QString::number(numarati);
+        r.Date.txtCerere[txtNrCopii] = QString::number(numarati);
         m.Avertisment(QStringLiteral("Numarul de copii salvati in baza de date este diferit") + QLatin1Char('\n') +
                       QStringLiteral("si se va recalcula."));
     }
@@ -396,11 +398,11 @@ DateCerere DefaultCerereNoua(BazaDate& db, const QDate& azi) {
     DateCerere d;
     d.Adaug = 1;
     Interogare judet(db, QStringLiteral("SELECT Denumire FROM Judete ORDER BY JudetID"));
-    if (judet.Exista()) d.txtCerere[6] = judet.Valoare(0).toString();
+    if (judet.Exista()) d.txtCerere[txtJudet] = judet.Valoare(0).toString();
     Interogare localitate(db, QStringLiteral("SELECT Denumire FROM Localitati ORDER BY LocalitateID"));
-    if (localitate.Exista()) d.txtCerere[5] = localitate.Valoare(0).toString();
-    d.dtpData[0] = azi;
-    d.dtpData[1] = DataStareDupaCerere(azi);
+    if (localitate.Exista()) d.txtCerere[txtLocalitate] = localitate.Valoare(0).toString();
+    d.dtpData[dtpDataCerere] = azi;
+    d.dtpData[dtpDataStare] = DataStareDupaCerere(azi);
     return d;
 }
 

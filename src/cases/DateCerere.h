@@ -24,14 +24,55 @@ struct AlegereCombo {
 // The rows of a DateGen list as combo choices, in their order.
 std::vector<AlegereCombo> Alegeri(const std::vector<RandDateGen>& randuri);
 
-// What the request editor holds in its controls, named by the controls.
-//
-// txtCerere: 0 NrDosar, 1 NrCerere, 2 Nr, 3 Sc, 4 Ap, 5 Localitate, 6 Judet, 7 Telefon,
-// 8 Mobil, 9 NumeTitularCont, 10 Cont, 11 Banca, 12 VenitTotal, 13 VenitPeMembru, 14 Cuantum,
-// 15 NrMembrii, 16 NrCopii, 17 Bloc, 18 BlocR, 19 ScR, 20 NrR, 21 ApR, 22 LuniRetro,
-// 23 LocalitateR, 24 JudetR, 29 NrDosar2, 30 NrCerere2 (25 to 28 are not used).
-// cboCerere: 0 Strada, 1 ReprLegal, 2 ModPlata, 3 TipCerere, 4 Stare, 5 MotivStare, 6 StradaR.
-// dtpData: 0 DataCerere, 1 DataStare; an invalid date is an empty picker.
+// The elements of the request editor's control arrays, named by the field each one holds; the
+// numbers are the controls' own (their object names end in them).
+namespace ElemCerere {
+enum Txt : int {
+    txtNrDosar = 0,
+    txtNrCerere = 1,
+    txtNr = 2,
+    txtSc = 3,
+    txtAp = 4,
+    txtLocalitate = 5,
+    txtJudet = 6,
+    txtTelefon = 7,
+    txtMobil = 8,
+    txtNumeTitularCont = 9,
+    txtCont = 10,
+    txtBanca = 11,
+    txtVenitTotal = 12,
+    txtVenitPeMembru = 13,
+    txtCuantum = 14,
+    txtNrMembrii = 15,
+    txtNrCopii = 16,
+    txtBloc = 17,
+    txtBlocR = 18,
+    txtScR = 19,
+    txtNrR = 20,
+    txtApR = 21,
+    txtLuniRetro = 22,
+    txtLocalitateR = 23,
+    txtJudetR = 24,
+    // 25 to 28 are not used.
+    txtNrDosar2 = 29,
+    txtNrCerere2 = 30,
+};
+enum Cbo : int {
+    cboStrada = 0,
+    cboReprLegal = 1,
+    cboModPlata = 2,
+    cboTipCerere = 3,
+    cboStare = 4,
+    cboMotivStare = 5,
+    cboStradaR = 6,
+};
+enum Dtp : int { dtpDataCerere = 0, dtpDataStare = 1 };
+// opt: which address the frame shows.
+enum Opt : int { optDomiciliu = 0, optResedinta = 1 };
+} // namespace ElemCerere
+
+// What the request editor holds in its controls, named by the controls and indexed by ElemCerere.
+// An invalid date is an empty picker.
 struct DateCerere {
     int Adaug = 1; // 1 new request, 2 existing request
     qint64 CerereID = 0, FamilieID = 0;
@@ -45,7 +86,7 @@ struct DateCerere {
     friend bool operator==(const DateCerere&, const DateCerere&) = default;
 };
 
-// The two rows of cboCerere 3, by TipCerere.
+// The two rows of cboTipCerere, by TipCerere.
 QString TextTipCerere(int tipCerere);
 
 // One row of the list of persons who left the request (lvwIesiti): the shown columns and the
@@ -61,7 +102,7 @@ struct MembruIesit {
 };
 
 // The first day of the month after the filing date, by the month-length rule; the date that
-// dtpData 1 takes whenever dtpData 0 changes. Invalid for an invalid date.
+// dtpDataStare takes whenever dtpDataCerere changes. Invalid for an invalid date.
 QDate DataStareDupaCerere(const QDate& dataCerere);
 
 // The controls of a new request: the first county and town of their tables, today's date and

@@ -7,9 +7,9 @@
 #include "store/BazaDate.h"
 #include "store/DateGen.h"
 
-namespace {
+using namespace ElemCerere;
 
-constexpr int txtVenitTotal = 12, txtVenitPeMembru = 13, txtCuantum = 14, txtNrMembrii = 15, txtNrCopii = 16;
+namespace {
 
 std::vector<AlegereCombo> Randuri(BazaDate& db, const QString& sql) {
     std::vector<AlegereCombo> r;
@@ -20,7 +20,7 @@ std::vector<AlegereCombo> Randuri(BazaDate& db, const QString& sql) {
     return r;
 }
 
-// The total typed in box 12: blank is nothing, anything else must be an amount.
+// The total typed in txtVenitTotal: blank is nothing, anything else must be an amount.
 std::optional<Bani> VenitTotal(const QString& text) {
     const QString t = text.trimmed();
     if (t.isEmpty()) return Bani();
@@ -59,7 +59,8 @@ void CalculEditor::TextSchimbat(DateCerere& d, int element, const StareCerere& s
 
 void CalculEditor::Cuantum(DateCerere& d, const StareCerere& s, Mesaje& m) {
     auto& t = d.txtCerere;
-    const IntrareCuantum intrare{s, int(d.cboCerere[3].id), d.dtpData[1], t[txtVenitPeMembru], luna_, an_};
+    const IntrareCuantum intrare{
+        s, int(d.cboCerere[cboTipCerere].id), d.dtpData[dtpDataStare], t[txtVenitPeMembru], luna_, an_};
     const RezultatCuantum r = CalculCuantum(intrare, p_, m);
     t[txtCuantum] = TextSuma(r.Cuantum);
     if (r.NrCopii) t[txtNrCopii] = QString::number(*r.NrCopii);

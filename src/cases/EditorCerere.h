@@ -13,12 +13,12 @@ class Mesaje;
 // The rows of the request editor's list combos, each in the order the clerk sees it: the id
 // (hidden) and the text.
 struct ListeEditorCerere {
-    std::vector<AlegereCombo> Strazi;    // cboCerere 0 and 6, by StradaID
-    std::vector<AlegereCombo> Motive;    // cboCerere 5, by MotivID
-    std::vector<AlegereCombo> ReprLegal; // cboCerere 1, DateGen Reprezentant by Ordine
-    std::vector<AlegereCombo> ModPlata;  // cboCerere 2, DateGen ModPlata by Ordine
-    std::vector<AlegereCombo> TipCerere; // cboCerere 3, the two kinds of allowance
-    std::vector<AlegereCombo> Stare;     // cboCerere 4, DateGen Statut by Ordine
+    std::vector<AlegereCombo> Strazi;    // cboStrada and cboStradaR, by StradaID
+    std::vector<AlegereCombo> Motive;    // cboMotivStare, by MotivID
+    std::vector<AlegereCombo> ReprLegal; // cboReprLegal, DateGen Reprezentant by Ordine
+    std::vector<AlegereCombo> ModPlata;  // cboModPlata, DateGen ModPlata by Ordine
+    std::vector<AlegereCombo> TipCerere; // cboTipCerere, the two kinds of allowance
+    std::vector<AlegereCombo> Stare;     // cboStare, DateGen Statut by Ordine
 };
 ListeEditorCerere IncarcaListeEditor(BazaDate& db);
 
@@ -26,7 +26,7 @@ ListeEditorCerere IncarcaListeEditor(BazaDate& db);
 constexpr qint64 ModPlataBanca = 2;
 
 // The amount and the totals of the open request as the editor keeps them in its boxes
-// (txtCerere 12 VenitTotal, 13 VenitPeMembru, 14 Cuantum, 15 NrMembrii, 16 NrCopii), computed
+// (txtVenitTotal, txtVenitPeMembru, txtCuantum, txtNrMembrii, txtNrCopii), computed
 // with the scale read when the editor opened and the working month.
 class CalculEditor {
 public:
@@ -36,12 +36,12 @@ public:
     // the total; a change of the total also recomputes the amount. A total that is not an amount
     // leaves the boxes as they are: OK refuses it.
     void TextSchimbat(DateCerere& d, int element, const StareCerere& s, Mesaje& m);
-    // The amount into box 14 and, when children were counted, their number into box 16. The
+    // The amount into txtCuantum and, when children were counted, their number into txtNrCopii. The
     // computation's own messages go to m; throws Eroare as CalculCuantum does.
     void Cuantum(DateCerere& d, const StareCerere& s, Mesaje& m);
     // The incomes dialog confirmed: the total is their sum, and everything that follows it.
     void DupaVenituri(DateCerere& d, const StareCerere& s, Mesaje& m);
-    // The list of persons changed (its totals already told): the count of the list into box 15,
+    // The list of persons changed (its totals already told): the count of the list into txtNrMembrii,
     // then the income per member and the amount.
     void Totaluri(DateCerere& d, const StareCerere& s, const TotaluriMembri& t, Mesaje& m);
     // The goods dialog confirmed: the totals of a list of nrInLista rows; a matrix out of step

@@ -20,6 +20,8 @@
 #include <unordered_map>
 #include <unordered_set>
 
+using namespace ElemCerere;
+
 namespace {
 
 using Randuri = Sql::Rand;
@@ -148,7 +150,7 @@ private:
     }
 
     void ListeReferinta() {
-        QStringList politii, scoli, locuri, motive{d_.cboCerere[5].text};
+        QStringList politii, scoli, locuri, motive{d_.cboCerere[cboMotivStare].text};
         for (const MembruCerere* p : membri_) {
             politii << p->Eliberat;
             scoli << p->UScolara;
@@ -156,7 +158,7 @@ private:
         }
         for (const MembruCerere* p : membri_)
             motive << p->MotivStare;
-        ExtindeLista(db_, "Strazi", "StradaID", true, {d_.cboCerere[0].text});
+        ExtindeLista(db_, "Strazi", "StradaID", true, {d_.cboCerere[cboStrada].text});
         ExtindeLista(db_, "Politii", "PolitiaID", true, politii);
         ExtindeLista(db_, "Scoli", "ScoalaID", true, scoli);
         ExtindeLista(db_, "LocScolare", "LocScolaraID", false, locuri);
@@ -167,24 +169,24 @@ private:
         const auto& t = d_.txtCerere;
         auto text = [&](const char* camp, int i) { return Text("Familii", camp, t[size_t(i)].trimmed()); };
         const Randuri r = {
-            {"NrDosar", Numar(t[0], std::numeric_limits<qint32>::max(), QStringLiteral("Numarul dosarului"))},
-            {"NrDosar2", Text("Familii", "NrDosar2", t[29])},
-            {"Judet", text("Judet", 6)},
-            {"Localitate", text("Localitate", 5)},
-            {"Strada", Text("Familii", "Strada", d_.cboCerere[0].text.trimmed())},
-            {"Nr", text("Nr", 2)},
-            {"Bloc", text("Bloc", 17)},
-            {"Sc", text("Sc", 3)},
-            {"Ap", text("Ap", 4)},
-            {"Telefon", text("Telefon", 7)},
-            {"Mobil", text("Mobil", 8)},
-            {"JudetR", text("JudetR", 24)},
-            {"LocalitateR", text("LocalitateR", 23)},
-            {"StradaR", Text("Familii", "StradaR", d_.cboCerere[6].text.trimmed())},
-            {"NrR", text("NrR", 20)},
-            {"BlocR", text("BlocR", 18)},
-            {"ScR", text("ScR", 19)},
-            {"ApR", text("ApR", 21)},
+            {"NrDosar", Numar(t[txtNrDosar], std::numeric_limits<qint32>::max(), QStringLiteral("Numarul dosarului"))},
+            {"NrDosar2", Text("Familii", "NrDosar2", t[txtNrDosar2])},
+            {"Judet", text("Judet", txtJudet)},
+            {"Localitate", text("Localitate", txtLocalitate)},
+            {"Strada", Text("Familii", "Strada", d_.cboCerere[cboStrada].text.trimmed())},
+            {"Nr", text("Nr", txtNr)},
+            {"Bloc", text("Bloc", txtBloc)},
+            {"Sc", text("Sc", txtSc)},
+            {"Ap", text("Ap", txtAp)},
+            {"Telefon", text("Telefon", txtTelefon)},
+            {"Mobil", text("Mobil", txtMobil)},
+            {"JudetR", text("JudetR", txtJudetR)},
+            {"LocalitateR", text("LocalitateR", txtLocalitateR)},
+            {"StradaR", Text("Familii", "StradaR", d_.cboCerere[cboStradaR].text.trimmed())},
+            {"NrR", text("NrR", txtNrR)},
+            {"BlocR", text("BlocR", txtBlocR)},
+            {"ScR", text("ScR", txtScR)},
+            {"ApR", text("ApR", txtApR)},
         };
         if (d_.Adaug == 1) {
             // The request takes its family's number, so the number must be free in both tables.
@@ -284,25 +286,25 @@ private:
         const auto& t = d_.txtCerere;
         auto text = [&](const char* camp, const QString& v) { return Text("Cereri", camp, v); };
         const Randuri r = {
-            {"NrCerere", Numar(t[1], std::numeric_limits<qint32>::max(), QStringLiteral("Numarul cererii"))},
-            {"NrCerere2", text("NrCerere2", t[30])},
-            {"DataCerere", Data(d_.dtpData[0])},
+            {"NrCerere", Numar(t[txtNrCerere], std::numeric_limits<qint32>::max(), QStringLiteral("Numarul cererii"))},
+            {"NrCerere2", text("NrCerere2", t[txtNrCerere2])},
+            {"DataCerere", Data(d_.dtpData[dtpDataCerere])},
             {"MembruID1", Cheie(titular_)},
             {"MembruID2", Cheie(partener_)},
-            {"Stare", d_.cboCerere[4].id},
-            {"MotivStare", text("MotivStare", d_.cboCerere[5].text.trimmed())},
-            {"DataStare", Data(d_.dtpData[1])},
-            {"VenitTotal", Sql::Suma(SumaCaseta(t[12]))},
-            {"VenitPeMembru", Sql::Suma(SumaCaseta(t[13]))},
+            {"Stare", d_.cboCerere[cboStare].id},
+            {"MotivStare", text("MotivStare", d_.cboCerere[cboMotivStare].text.trimmed())},
+            {"DataStare", Data(d_.dtpData[dtpDataStare])},
+            {"VenitTotal", Sql::Suma(SumaCaseta(t[txtVenitTotal]))},
+            {"VenitPeMembru", Sql::Suma(SumaCaseta(t[txtVenitPeMembru]))},
             {"NrMembrii", qint64(membri_.size())},
-            {"NrCopii", Numar(t[16], std::numeric_limits<qint16>::max(), QStringLiteral("Numarul copiilor"))},
+            {"NrCopii", Numar(t[txtNrCopii], std::numeric_limits<qint16>::max(), QStringLiteral("Numarul copiilor"))},
             {"Cuantum", Sql::Suma(cuantum_)},
-            {"TipCerere", d_.cboCerere[3].id},
-            {"ReprLegal", d_.cboCerere[1].id},
-            {"ModPlata", d_.cboCerere[2].id},
-            {"NumeTitularCont", text("NumeTitularCont", t[9].trimmed())},
-            {"Cont", text("Cont", t[10].trimmed())},
-            {"Banca", text("Banca", t[11].trimmed())},
+            {"TipCerere", d_.cboCerere[cboTipCerere].id},
+            {"ReprLegal", d_.cboCerere[cboReprLegal].id},
+            {"ModPlata", d_.cboCerere[cboModPlata].id},
+            {"NumeTitularCont", text("NumeTitularCont", t[txtNumeTitularCont].trimmed())},
+            {"Cont", text("Cont", t[txtCont].trimmed())},
+            {"Banca", text("Banca", t[txtBanca].trimmed())},
             {"Gospodarire", s_.Gospodarire},
             {"LunaGospod", s_.LunaGospod},
             {"GospodLoc", s_.GospodLoc},
@@ -319,7 +321,7 @@ private:
             {"AcoperaRiscuri", s_.AcoperaRiscuri},
             {"Bife", text("Bife", s_.Bife)},
             {"ActeBife", text("ActeBife", s_.ActeBife)},
-            {"LuniRetro", Numar(t[22], 255, QStringLiteral("Numarul lunilor retroactive"))},
+            {"LuniRetro", Numar(t[txtLuniRetro], 255, QStringLiteral("Numarul lunilor retroactive"))},
             {"Vmg", d_.chkVmg},
             {"Inc", d_.chkIncalzire},
             {"Supl", d_.chkSupl},
@@ -539,7 +541,12 @@ RezultatSalvare SalveazaCerere(BazaDate& db, const DateCerere& d, const StareCer
     if (nrRanduri != nrMembri)
         m.Avertisment(QStringLiteral("Exceptie Tarn in Calcule: Nr Membrii din lista este diferite de cel din matrice. "
                                      "Sunati la 0700-111222"));
-    const IntrareCuantum intrare{s, int(d.cboCerere[3].id), d.dtpData[1], d.txtCerere[13], o.LunaSetata, o.AnSetat};
+    const IntrareCuantum intrare{s,
+                                 int(d.cboCerere[cboTipCerere].id),
+                                 d.dtpData[dtpDataStare],
+                                 d.txtCerere[txtVenitPeMembru],
+                                 o.LunaSetata,
+                                 o.AnSetat};
     const Bani cuantum = CalculCuantum(intrare, IncarcaParametri(db), m).Cuantum;
 
     RezultatSalvare r;
@@ -552,7 +559,7 @@ RezultatSalvare SalveazaCerere(BazaDate& db, const DateCerere& d, const StareCer
     }
     blocare.reset();
 
-    const QDate& dataStare = d.dtpData[1];
+    const QDate& dataStare = d.dtpData[dtpDataStare];
     if (dataStare.day() > 1)
         m.Informatie(QStringLiteral("Data aprobarii este diferita  de : 01-") + LuniAn()[dataStare.month() - 1] +
                      QLatin1Char('-') + QString::number(dataStare.year()));

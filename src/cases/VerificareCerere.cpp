@@ -8,6 +8,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace ElemCerere;
+
 namespace {
 
 QString Control(const char* nume, int index) {
@@ -36,19 +38,19 @@ bool NumarFolosit(BazaDate& db, const QString& sql, const QString& text, int ada
 
 AvertizareNumar VerificaNrDosar(BazaDate& db, const DateCerere& d, int mod, Mesaje& m) {
     AvertizareNumar r;
-    const QString text = d.txtCerere[0].trimmed();
+    const QString text = d.txtCerere[txtNrDosar].trimmed();
     if (!NumarFolosit(db, QStringLiteral("SELECT FamilieID FROM Familii WHERE NrDosar = ? AND FamilieID <> ?"), text,
                       d.Adaug, d.FamilieID))
         return r;
     m.Informatie(QStringLiteral("Numarul ") + text + QStringLiteral(" a fost alocat altui dosar"));
     r.Avertizat = true;
-    if (mod == 1) r.Control = Control("txtCerere", 0);
+    if (mod == 1) r.Control = Control("txtCerere", txtNrDosar);
     return r;
 }
 
 AvertizareNumar VerificaNrCerere(BazaDate& db, const DateCerere& d, int, Mesaje& m) {
     AvertizareNumar r;
-    const QString text = d.txtCerere[1].trimmed();
+    const QString text = d.txtCerere[txtNrCerere].trimmed();
     if (!NumarFolosit(db, QStringLiteral("SELECT CerereID FROM Cereri WHERE NrCerere = ? AND CerereID <> ?"), text,
                       d.Adaug, d.CerereID))
         return r;
@@ -73,26 +75,31 @@ std::optional<EsecVerificare> VerificaControale(BazaDate& db, const DateCerere& 
                 true};
         if (n > 1) m.Avertisment(QStringLiteral("ID multiplu in Verifica Controale"));
     }
-    if (d.txtCerere[0].trimmed().isEmpty())
-        return esec("Nu puteti salva datele inainte de a introduce Numarul Dosarului", Control("txtCerere", 0));
-    if (d.txtCerere[1].trimmed().isEmpty())
-        return esec("Nu puteti salva datele inainte de a introduce Numarul Cererii", Control("txtCerere", 1));
+    if (d.txtCerere[txtNrDosar].trimmed().isEmpty())
+        return esec("Nu puteti salva datele inainte de a introduce Numarul Dosarului",
+                    Control("txtCerere", txtNrDosar));
+    if (d.txtCerere[txtNrCerere].trimmed().isEmpty())
+        return esec("Nu puteti salva datele inainte de a introduce Numarul Cererii", Control("txtCerere", txtNrCerere));
     VerificaNrDosar(db, d, 1, m);
     VerificaNrCerere(db, d, 1, m);
-    if (!d.dtpData[0].isValid()) return esec("Nu puteti salva datele inainte de a Data cererea", Control("dtpData", 0));
-    if (d.txtCerere[5].trimmed().isEmpty())
-        return esec("Nu puteti salva datele inainte de a introduce Localitatea", Control("txtCerere", 5));
-    if (d.txtCerere[6].trimmed().isEmpty())
-        return esec("Nu puteti salva datele inainte de a introduce Judetul", Control("txtCerere", 6));
-    if (d.cboCerere[1].id == 0) return esec("Selectati din lista: Reprezentant legal!", Control("cboCerere", 1));
-    if (d.cboCerere[2].id == 0) return esec("Selectati din lista: Modalitati de plata!", Control("cboCerere", 2));
-    if (d.cboCerere[3].id == 0)
+    if (!d.dtpData[dtpDataCerere].isValid())
+        return esec("Nu puteti salva datele inainte de a Data cererea", Control("dtpData", dtpDataCerere));
+    if (d.txtCerere[txtLocalitate].trimmed().isEmpty())
+        return esec("Nu puteti salva datele inainte de a introduce Localitatea", Control("txtCerere", txtLocalitate));
+    if (d.txtCerere[txtJudet].trimmed().isEmpty())
+        return esec("Nu puteti salva datele inainte de a introduce Judetul", Control("txtCerere", txtJudet));
+    if (d.cboCerere[cboReprLegal].id == 0)
+        return esec("Selectati din lista: Reprezentant legal!", Control("cboCerere", cboReprLegal));
+    if (d.cboCerere[cboModPlata].id == 0)
+        return esec("Selectati din lista: Modalitati de plata!", Control("cboCerere", cboModPlata));
+    if (d.cboCerere[cboTipCerere].id == 0)
         return esec("Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile monoparentala!",
-                    Control("cboCerere", 3));
-    if (d.cboCerere[4].id == 0)
-        return esec("Statut incorect. Selectati din lista un statut corect", Control("cboCerere", 4));
-    if (!d.dtpData[1].isValid())
-        return esec("Nu puteti salva datele inainte de a scrie Data Aprobarii/Repunerii/etc", Control("dtpData", 1));
+                    Control("cboCerere", cboTipCerere));
+    if (d.cboCerere[cboStare].id == 0)
+        return esec("Statut incorect. Selectati din lista un statut corect", Control("cboCerere", cboStare));
+    if (!d.dtpData[dtpDataStare].isValid())
+        return esec("Nu puteti salva datele inainte de a scrie Data Aprobarii/Repunerii/etc",
+                    Control("dtpData", dtpDataStare));
     if (nrRanduriLista == 0) return esec("Este obligatorie adaugarea titularului cererii", QStringLiteral("cmdAdd"));
 
     int titulari = 0, parteneri = 0, copii = 0, altii = 0;

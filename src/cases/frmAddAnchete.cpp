@@ -22,6 +22,8 @@ namespace {
 // The field behind each txtCerere, for its width.
 const char* const CampText[12] = {"Intocmitor", "NrCamere", "SuprUtila",  "Bunuri",        "Igiena", "Teren",
                                   "Cladiri",    "Spatii",   "AlteBunuri", "StareSanatate", "Nevoi",  "Aspecte"};
+// The elements of cboCerere, by the field each one chooses.
+enum Cbo : int { cboTipLocuinta = 0, cboRegimJuridic = 1, cboTipLocuire = 2, cboTipDetinere = 3 };
 // The DateGen list of each cboCerere.
 constexpr TipDateGen TipLista[4] = {TipDateGen::FelLocuinta, TipDateGen::RegimJuridic, TipDateGen::Locuire,
                                     TipDateGen::Detinere};
@@ -132,10 +134,10 @@ void frmAddAnchete::arata(const Ancheta& a) {
                                a.Cladiri,    a.Spatii,   a.AlteBunuri, a.StareSanatate, a.Nevoi,  a.Aspecte};
     for (size_t i = 0; i < txtCerere.size(); ++i)
         txtCerere[i]->setText(texte[i]);
-    AlegeCheia(cboCerere[0], a.TipLocuinta);
-    AlegeCheia(cboCerere[1], a.RegimJuridic);
-    AlegeCheia(cboCerere[2], a.TipLocuire);
-    AlegeCheia(cboCerere[3], a.TipDetinere);
+    AlegeCheia(cboCerere[cboTipLocuinta], a.TipLocuinta);
+    AlegeCheia(cboCerere[cboRegimJuridic], a.RegimJuridic);
+    AlegeCheia(cboCerere[cboTipLocuire], a.TipLocuire);
+    AlegeCheia(cboCerere[cboTipDetinere], a.TipDetinere);
     arataExpirare(a.DataExpirarii, a.Motiv, QString::number(a.NrMembrii), QString::number(a.NrCopii));
 }
 
@@ -174,10 +176,10 @@ Ancheta frmAddAnchete::citesteControalele() const {
                           &a.Cladiri,    &a.Spatii,   &a.AlteBunuri, &a.StareSanatate, &a.Nevoi,  &a.Aspecte};
     for (size_t i = 0; i < txtCerere.size(); ++i)
         *texte[i] = txtCerere[i]->text();
-    a.TipLocuinta = CheieAleasa(cboCerere[0]);
-    a.RegimJuridic = CheieAleasa(cboCerere[1]);
-    a.TipLocuire = CheieAleasa(cboCerere[2]);
-    a.TipDetinere = CheieAleasa(cboCerere[3]);
+    a.TipLocuinta = CheieAleasa(cboCerere[cboTipLocuinta]);
+    a.RegimJuridic = CheieAleasa(cboCerere[cboRegimJuridic]);
+    a.TipLocuire = CheieAleasa(cboCerere[cboTipLocuire]);
+    a.TipDetinere = CheieAleasa(cboCerere[cboTipDetinere]);
     return a;
 }
 

@@ -36,14 +36,14 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+using namespace ElemCerere;
+
 namespace {
 
 // The boxes of the amount and the totals, which the dialog computes and the clerk reads.
-constexpr int txtVenitTotal = 12, txtVenitPeMembru = 13, txtCuantum = 14, txtNrMembrii = 15, txtNrCopii = 16,
-              txtLuniRetro = 22;
 constexpr std::array<int, 5> BoxeCalcul{txtVenitTotal, txtVenitPeMembru, txtCuantum, txtNrMembrii, txtNrCopii};
 // The combos that take a text of their own: street, reason of the status, street of residence.
-constexpr std::array<int, 3> CombouriLibere{0, 5, 6};
+constexpr std::array<int, 3> CombouriLibere{cboStrada, cboMotivStare, cboStradaR};
 // The focused free-text combo, 0xFFFFC0 as the old platform wrote blue, green, red.
 const QColor CuloareFocus(0xC0, 0xFF, 0xFF);
 
@@ -52,7 +52,7 @@ bool EsteComboLiber(int element) {
 }
 
 bool Exista(int element) {
-    return element < 25 || element > 28;
+    return element <= txtJudetR || element >= txtNrDosar2;
 }
 
 // The field behind a text box, for the limits that are not fixed by the dialog itself.
@@ -62,11 +62,20 @@ struct CampText {
     const char* camp;
 };
 constexpr CampText CampuriText[] = {
-    {7, "Familii", "Telefon"},   {8, "Familii", "Mobil"},        {9, "Cereri", "NumeTitularCont"},
-    {10, "Cereri", "Cont"},      {11, "Cereri", "Banca"},        {17, "Familii", "Bloc"},
-    {18, "Familii", "BlocR"},    {19, "Familii", "ScR"},         {20, "Familii", "NrR"},
-    {21, "Familii", "ApR"},      {23, "Familii", "LocalitateR"}, {24, "Familii", "JudetR"},
-    {29, "Familii", "NrDosar2"}, {30, "Cereri", "NrCerere2"},
+    {txtTelefon, "Familii", "Telefon"},
+    {txtMobil, "Familii", "Mobil"},
+    {txtNumeTitularCont, "Cereri", "NumeTitularCont"},
+    {txtCont, "Cereri", "Cont"},
+    {txtBanca, "Cereri", "Banca"},
+    {txtBloc, "Familii", "Bloc"},
+    {txtBlocR, "Familii", "BlocR"},
+    {txtScR, "Familii", "ScR"},
+    {txtNrR, "Familii", "NrR"},
+    {txtApR, "Familii", "ApR"},
+    {txtLocalitateR, "Familii", "LocalitateR"},
+    {txtJudetR, "Familii", "JudetR"},
+    {txtNrDosar2, "Familii", "NrDosar2"},
+    {txtNrCerere2, "Cereri", "NrCerere2"},
 };
 
 int MarimeCamp(const char* tabela, const char* camp) {
@@ -158,11 +167,11 @@ void frmAddCerere::asazaControale() {
         t->setObjectName(QStringLiteral("txtCerere_%1").arg(i));
         txtCerere[size_t(i)] = t;
     }
-    for (int i : {0, 1})
+    for (int i : {txtNrDosar, txtNrCerere})
         txtCerere[size_t(i)]->setMaxLength(9);
-    for (int i : {2, 3, 4})
+    for (int i : {txtNr, txtSc, txtAp})
         txtCerere[size_t(i)]->setMaxLength(10);
-    for (int i : {5, 6})
+    for (int i : {txtLocalitate, txtJudet})
         txtCerere[size_t(i)]->setMaxLength(50);
     for (const CampText& c : CampuriText)
         txtCerere[size_t(c.element)]->setMaxLength(MarimeCamp(c.tabela, c.camp));
@@ -172,8 +181,8 @@ void frmAddCerere::asazaControale() {
         txtCerere[size_t(i)]->setValidator(
             new QRegularExpressionValidator(QRegularExpression(QLatin1String(tipar)), txtCerere[size_t(i)]));
     };
-    numar(0, "\\d{0,9}");
-    numar(1, "\\d{0,9}");
+    numar(txtNrDosar, "\\d{0,9}");
+    numar(txtNrCerere, "\\d{0,9}");
     numar(txtVenitTotal, "\\d{0,12}([.,]\\d{0,4})?");
     numar(txtLuniRetro, "\\d{0,3}");
     // The computed boxes read as such: the window's colour behind them.
@@ -200,19 +209,19 @@ void frmAddCerere::asazaControale() {
         c->setMinimumContentsLength(12);
         cboCerere[size_t(i)] = c;
     }
-    cboCerere[0]->lineEdit()->setMaxLength(50);
-    cboCerere[5]->lineEdit()->setMaxLength(MarimeCamp("Cereri", "MotivStare"));
-    cboCerere[6]->lineEdit()->setMaxLength(MarimeCamp("Familii", "StradaR"));
+    cboCerere[cboStrada]->lineEdit()->setMaxLength(50);
+    cboCerere[cboMotivStare]->lineEdit()->setMaxLength(MarimeCamp("Cereri", "MotivStare"));
+    cboCerere[cboStradaR]->lineEdit()->setMaxLength(MarimeCamp("Familii", "StradaR"));
 
-    for (int i = 0; i < 2; ++i) {
+    for (int i = 0; i < int(dtpData.size()); ++i) {
         auto* d = new UiDataOptionala(this);
         d->setObjectName(QStringLiteral("dtpData_%1").arg(i));
         d->editor()->installEventFilter(this);
         d->bifa()->installEventFilter(this);
         dtpData[size_t(i)] = d;
     }
-    txtCerere[0]->installEventFilter(this);
-    txtCerere[1]->installEventFilter(this);
+    txtCerere[txtNrDosar]->installEventFilter(this);
+    txtCerere[txtNrCerere]->installEventFilter(this);
 
     auto* asezare = new QVBoxLayout(this);
     auto* sus = new QHBoxLayout;
@@ -239,24 +248,24 @@ QWidget* frmAddCerere::construiesteCererea() {
     auto* g = new QGroupBox(QStringLiteral("Cerere"), this);
     auto* grila = new QGridLayout(g);
     GrilaEtichete gr{grila, g};
-    gr.pe(0, QStringLiteral("Nr. dosar:"), txtCerere[0]);
-    gr.pe(2, QStringLiteral("Nr. cerere:"), txtCerere[1]);
+    gr.pe(0, QStringLiteral("Nr. dosar:"), txtCerere[txtNrDosar]);
+    gr.pe(2, QStringLiteral("Nr. cerere:"), txtCerere[txtNrCerere]);
     ++gr.rand;
-    gr.pe(0, QStringLiteral("Data cererii:"), dtpData[0]);
-    gr.pe(2, QStringLiteral("Data aprobarii:"), dtpData[1]);
+    gr.pe(0, QStringLiteral("Data cererii:"), dtpData[dtpDataCerere]);
+    gr.pe(2, QStringLiteral("Data aprobarii:"), dtpData[dtpDataStare]);
     ++gr.rand;
     auto* nou = new QGroupBox(QStringLiteral("Nr. nou dosar/cerere"), g);
     auto* n = new QHBoxLayout(nou);
     n->addWidget(new QLabel(QStringLiteral("Dosar:"), nou));
-    n->addWidget(txtCerere[29]);
+    n->addWidget(txtCerere[txtNrDosar2]);
     n->addWidget(new QLabel(QStringLiteral("Cerere:"), nou));
-    n->addWidget(txtCerere[30]);
+    n->addWidget(txtCerere[txtNrCerere2]);
     grila->addWidget(nou, gr.rand++, 0, 1, 4);
-    gr.pe(0, QStringLiteral("Tip alocatie:"), cboCerere[3], 3);
+    gr.pe(0, QStringLiteral("Tip alocatie:"), cboCerere[cboTipCerere], 3);
     ++gr.rand;
-    gr.pe(0, QStringLiteral("Statut:"), cboCerere[4], 3);
+    gr.pe(0, QStringLiteral("Statut:"), cboCerere[cboStare], 3);
     ++gr.rand;
-    gr.pe(0, QStringLiteral("Motiv statut:"), cboCerere[5], 3);
+    gr.pe(0, QStringLiteral("Motiv statut:"), cboCerere[cboMotivStare], 3);
     ++gr.rand;
     gr.pe(0, QStringLiteral("Luni retroactiv:"), txtCerere[txtLuniRetro]);
     grila->setColumnStretch(1, 1);
@@ -269,13 +278,14 @@ QWidget* frmAddCerere::construiesteAdresa() {
     auto* g = new QGroupBox(QStringLiteral("Adresa"), this);
     auto* v = new QVBoxLayout(g);
     auto* alegere = new QHBoxLayout;
-    for (int i = 0; i < 2; ++i) {
-        opt[size_t(i)] = new QRadioButton(i == 0 ? QStringLiteral("Domiciliu") : QStringLiteral("Resedinta"), g);
+    for (int i = 0; i < int(opt.size()); ++i) {
+        opt[size_t(i)] =
+            new QRadioButton(i == optDomiciliu ? QStringLiteral("Domiciliu") : QStringLiteral("Resedinta"), g);
         opt[size_t(i)]->setObjectName(QStringLiteral("opt_%1").arg(i));
         alegere->addWidget(opt[size_t(i)]);
     }
     alegere->addStretch(1);
-    opt[0]->setChecked(true);
+    opt[optDomiciliu]->setChecked(true);
     v->addLayout(alegere);
 
     // Both frames hold the same boxes: county, town, street, number, block, staircase, flat.
@@ -304,15 +314,16 @@ QWidget* frmAddCerere::construiesteAdresa() {
     };
     auto* cadre = new QWidget(g);
     auto* stiva = new QStackedLayout(cadre);
-    stiva->addWidget(cadru(Picture1, "Picture1", 6, 5, 0, 2, 17, 3, 4));
-    stiva->addWidget(cadru(Picture3, "Picture3", 24, 23, 6, 20, 18, 19, 21));
+    stiva->addWidget(cadru(Picture1, "Picture1", txtJudet, txtLocalitate, cboStrada, txtNr, txtBloc, txtSc, txtAp));
+    stiva->addWidget(
+        cadru(Picture3, "Picture3", txtJudetR, txtLocalitateR, cboStradaR, txtNrR, txtBlocR, txtScR, txtApR));
     v->addWidget(cadre);
 
     auto* telefoane = new QGridLayout;
     telefoane->addWidget(new QLabel(QStringLiteral("Telefon:"), g), 0, 0);
-    telefoane->addWidget(txtCerere[7], 0, 1);
+    telefoane->addWidget(txtCerere[txtTelefon], 0, 1);
     telefoane->addWidget(new QLabel(QStringLiteral("Mobil:"), g), 0, 2);
-    telefoane->addWidget(txtCerere[8], 0, 3);
+    telefoane->addWidget(txtCerere[txtMobil], 0, 3);
     telefoane->setColumnStretch(1, 1);
     telefoane->setColumnStretch(3, 1);
     v->addLayout(telefoane);
@@ -325,9 +336,9 @@ QWidget* frmAddCerere::construiestePlata() {
     auto* v = new QVBoxLayout(g);
     auto* grila = new QGridLayout;
     grila->addWidget(new QLabel(QStringLiteral("Reprezentant legal:"), g), 0, 0);
-    grila->addWidget(cboCerere[1], 0, 1);
+    grila->addWidget(cboCerere[cboReprLegal], 0, 1);
     grila->addWidget(new QLabel(QStringLiteral("Modalitate de plata:"), g), 1, 0);
-    grila->addWidget(cboCerere[2], 1, 1);
+    grila->addWidget(cboCerere[cboModPlata], 1, 1);
     grila->setColumnStretch(1, 1);
     v->addLayout(grila);
 
@@ -335,7 +346,8 @@ QWidget* frmAddCerere::construiestePlata() {
     picPlata->setObjectName(QStringLiteral("picPlata"));
     auto* banca = new QGridLayout(picPlata);
     banca->setContentsMargins(0, 0, 0, 0);
-    const std::pair<int, const char*> boxe[] = {{9, "Titular cont:"}, {10, "Cont IBAN:"}, {11, "Banca:"}};
+    const std::pair<int, const char*> boxe[] = {
+        {txtNumeTitularCont, "Titular cont:"}, {txtCont, "Cont IBAN:"}, {txtBanca, "Banca:"}};
     int rand = 0;
     for (const auto& [i, text] : boxe) {
         banca->addWidget(new QLabel(QLatin1String(text), picPlata), rand, 0);
@@ -437,13 +449,13 @@ QWidget* frmAddCerere::construiesteTotalurile() {
 
 void frmAddCerere::umpleListele() {
     const ListeEditorCerere l = IncarcaListeEditor(bd_);
-    Umple(cboCerere[0], l.Strazi);
-    Umple(cboCerere[6], l.Strazi);
-    Umple(cboCerere[5], l.Motive);
-    Umple(cboCerere[1], l.ReprLegal);
-    Umple(cboCerere[2], l.ModPlata);
-    Umple(cboCerere[3], l.TipCerere);
-    Umple(cboCerere[4], l.Stare);
+    Umple(cboCerere[cboStrada], l.Strazi);
+    Umple(cboCerere[cboStradaR], l.Strazi);
+    Umple(cboCerere[cboMotivStare], l.Motive);
+    Umple(cboCerere[cboReprLegal], l.ReprLegal);
+    Umple(cboCerere[cboModPlata], l.ModPlata);
+    Umple(cboCerere[cboTipCerere], l.TipCerere);
+    Umple(cboCerere[cboStare], l.Stare);
 }
 
 void frmAddCerere::incarca(const DeschidereCerere& d) {
@@ -478,21 +490,21 @@ void frmAddCerere::conecteaza() {
     for (int i = 0; i < int(txtCerere.size()); ++i)
         if (txtCerere[size_t(i)])
             connect(txtCerere[size_t(i)], &QLineEdit::textChanged, this, [this, i] { textSchimbat(i); });
-    for (int i : {3, 4})
+    for (int i : {cboTipCerere, cboStare})
         connect(cboCerere[size_t(i)], &QComboBox::currentIndexChanged, this, [this] {
             if (seScrie_ || !stare_) return;
             recalculeaza([this](DateCerere& d) { calcul_->Cuantum(d, *stare_, m_); });
         });
-    connect(cboCerere[2], &QComboBox::currentIndexChanged, this, &frmAddCerere::schimbareModPlata);
-    connect(dtpData[0], &UiDataOptionala::dataSchimbata, this, [this](const QDate& d) {
+    connect(cboCerere[cboModPlata], &QComboBox::currentIndexChanged, this, &frmAddCerere::schimbareModPlata);
+    connect(dtpData[dtpDataCerere], &UiDataOptionala::dataSchimbata, this, [this](const QDate& d) {
         if (seScrie_ || !d.isValid()) return;
-        dtpData[1]->setData(DataStareDupaCerere(d));
+        dtpData[dtpDataStare]->setData(DataStareDupaCerere(d));
     });
-    for (int i = 0; i < 2; ++i)
+    for (int i = 0; i < int(opt.size()); ++i)
         connect(opt[size_t(i)], &QRadioButton::toggled, this, [this, i](bool bifat) {
             if (!bifat) return;
             static_cast<QStackedLayout*>(Picture1->parentWidget()->layout())
-                ->setCurrentWidget(i == 0 ? Picture1 : Picture3);
+                ->setCurrentWidget(i == optDomiciliu ? Picture1 : Picture3);
         });
     connect(lvw, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         const int i = item ? lvw->indexOfTopLevelItem(item) : -1;
@@ -618,7 +630,7 @@ void frmAddCerere::textSchimbat(int element) {
 // ---- Box behaviours ----
 
 void frmAddCerere::schimbareModPlata() {
-    picPlata->setVisible(Alegerea(cboCerere[2]).id == ModPlataBanca);
+    picPlata->setVisible(Alegerea(cboCerere[cboModPlata]).id == ModPlataBanca);
 }
 
 void frmAddCerere::parasesteCombo(int element) {
@@ -653,9 +665,9 @@ bool frmAddCerere::eventFilter(QObject* obiect, QEvent* e) {
                 coloreazaCombo(i, tip == QEvent::FocusIn);
                 if (paraseste) parasesteCombo(i);
             }
-        if (paraseste && (obiect == txtCerere[0] || obiect == txtCerere[1]) && stare_) {
+        if (paraseste && (obiect == txtCerere[txtNrDosar] || obiect == txtCerere[txtNrCerere]) && stare_) {
             try {
-                if (obiect == txtCerere[0])
+                if (obiect == txtCerere[txtNrDosar])
                     VerificaNrDosar(bd_, Citeste(), 2, m_);
                 else
                     VerificaNrCerere(bd_, Citeste(), 2, m_);
@@ -708,7 +720,7 @@ void frmAddCerere::deschideMembru(const Deschidere& dch) {
 
 void frmAddCerere::cmdAdd_Click() {
     if (!stare_) return;
-    const Deschidere dch = DeschideAdaugare(*stare_, int(Alegerea(cboCerere[3]).id), m_);
+    const Deschidere dch = DeschideAdaugare(*stare_, int(Alegerea(cboCerere[cboTipCerere]).id), m_);
     if (!dch.Deschide) {
         focusPe(dch.Focus);
         return;
@@ -718,7 +730,7 @@ void frmAddCerere::cmdAdd_Click() {
 
 void frmAddCerere::cmdEdit_Click() {
     if (!stare_) return;
-    const Deschidere dch = DeschideModificare(lista_, int(Alegerea(cboCerere[3]).id), m_);
+    const Deschidere dch = DeschideModificare(lista_, int(Alegerea(cboCerere[cboTipCerere]).id), m_);
     if (!dch.Deschide) {
         focusPe(dch.Focus);
         return;

@@ -83,7 +83,7 @@ public:
     // Runs after each step of the save, inside its transaction; an exception undoes the save.
     std::function<void(PasSalvare)> DupaPasSalvare;
 
-    // The control arrays by element; txtCerere 25 to 28 do not exist.
+    // The control arrays, indexed by ElemCerere; txtCerere 25 to 28 do not exist.
     std::array<QLineEdit*, 31> txtCerere{};
     std::array<QComboBox*, 7> cboCerere{};
     std::array<UiDataOptionala*, 2> dtpData{};

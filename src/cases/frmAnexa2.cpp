@@ -23,6 +23,10 @@
 
 namespace {
 
+// The elements of the control arrays: the kind of disposition, and the choices of what to print.
+enum Cbo : int { cboTipDispozitie = 0 };
+enum Opt : int { optLuna = 0, optNrCerere = 1, optNrDispozitie = 2, optAfisate = 3 };
+
 void luni(QComboBox* c, int luna) {
     for (int i = 0; i < 12; ++i)
         c->addItem(LuniAn()[i], i + 1);
@@ -48,11 +52,11 @@ frmAnexa2::frmAnexa2(BazaDate& db, Mesaje& m, int lunaSetata, int anSetat, QWidg
     dtpData->setDate(Ceas::Azi());
     try {
         for (const auto& e : Anchete::ListaDateGen(db_, TipDateGen::Actiune))
-            cboCerere[0]->addItem(e.Continut, e.DataID);
+            cboCerere[cboTipDispozitie]->addItem(e.Continut, e.DataID);
     } catch (const Eroare& e) {
         m_.Critic(e.text());
     }
-    cboCerere[0]->setCurrentIndex(-1);
+    cboCerere[cboTipDispozitie]->setCurrentIndex(-1);
     RuleazaGenerarea = [this](ParametriGenerare p) { return genereazaCuProgres(std::move(p)); };
 }
 
@@ -90,30 +94,30 @@ void frmAnexa2::asazaControale() {
     auto* tiparire = new QGroupBox(QStringLiteral("Tiparire dispozitii"), this);
     auto* gt = new QGridLayout(tiparire);
     gt->setColumnStretch(1, 1);
-    cboCerere[0] = lista(QStringLiteral("cboCerere_0"));
-    eticheta(gt, 0, 0, QStringLiteral("Tip Dispozitie"), cboCerere[0]);
+    cboCerere[cboTipDispozitie] = lista(QStringLiteral("cboCerere_0"));
+    eticheta(gt, 0, 0, QStringLiteral("Tip Dispozitie"), cboCerere[cboTipDispozitie]);
     cboTipDisp = lista(QStringLiteral("cboTipDisp"));
     tipuriCerere(cboTipDisp);
     eticheta(gt, 1, 0, QStringLiteral("Statut cerere"), cboTipDisp);
     const char* const optiuni[4] = {
         "Luna:", "Cererile de la Nr Cerere:", "Cererile de la Nr Dispozitie:", "Cererile afisate in lista"};
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < int(opt.size()); ++i) {
         opt[size_t(i)] = new QRadioButton(QLatin1String(optiuni[i]), tiparire);
         opt[size_t(i)]->setObjectName(QStringLiteral("opt_%1").arg(i));
     }
-    opt[0]->setChecked(true);
+    opt[optLuna]->setChecked(true);
     cboLuna = lista(QStringLiteral("cboLuna"));
-    gt->addWidget(opt[0], 2, 0);
+    gt->addWidget(opt[optLuna], 2, 0);
     gt->addWidget(cboLuna, 2, 1);
     txtDispozitieMin = text(QStringLiteral("txtDispozitieMin"), 8);
     txtDispozitieMax = text(QStringLiteral("txtDispozitieMax"), 8);
-    gt->addWidget(opt[2], 3, 0);
+    gt->addWidget(opt[optNrDispozitie], 3, 0);
     gt->addLayout(interval(txtDispozitieMin, txtDispozitieMax), 3, 1);
     txtCerereMin = text(QStringLiteral("txtCerereMin"), 8);
     txtCerereMax = text(QStringLiteral("txtCerereMax"), 8);
-    gt->addWidget(opt[1], 4, 0);
+    gt->addWidget(opt[optNrCerere], 4, 0);
     gt->addLayout(interval(txtCerereMin, txtCerereMax), 4, 1);
-    gt->addWidget(opt[3], 5, 0, 1, 2);
+    gt->addWidget(opt[optAfisate], 5, 0, 1, 2);
     cboOrder = lista(QStringLiteral("cboOrder"));
     cboOrder->addItem(QStringLiteral("Nr dispozitie"));
     cboOrder->addItem(QStringLiteral("Nr cerere"));
@@ -203,7 +207,7 @@ RezultatGenerare frmAnexa2::genereazaCuProgres(ParametriGenerare p) {
 }
 
 void frmAnexa2::cmdOK_Click() {
-    Selectie.Actiune = CheieAleasa(cboCerere[0]);
+    Selectie.Actiune = CheieAleasa(cboCerere[cboTipDispozitie]);
     Selectie.TipCerere = CheieAleasa(cboTipDisp);
     Selectie.Luna = CheieAleasa(cboLuna);
     Selectie.NrMin = txtDispozitieMin->text();

@@ -142,11 +142,15 @@ int cuantum(const QCommandLineParser& p, const QString& idText, QTextStream& out
         err << QStringLiteral("Cererea cu ID-ul %1 nu exista in baza de date.").arg(id) << Qt::endl;
         return 1;
     }
-    const IntrareCuantum intrare{c.Stare, int(c.Date.cboCerere[3].id), c.Date.dtpData[1], c.Date.txtCerere[13], luna,
+    const IntrareCuantum intrare{c.Stare,
+                                 int(c.Date.cboCerere[ElemCerere::cboTipCerere].id),
+                                 c.Date.dtpData[ElemCerere::dtpDataStare],
+                                 c.Date.txtCerere[ElemCerere::txtVenitPeMembru],
+                                 luna,
                                  an};
     const RezultatCuantum r = CalculCuantum(intrare, IncarcaParametri(*db), m);
     // With no child counted the editor's box keeps the number it showed.
-    const int nrCopii = r.NrCopii ? *r.NrCopii : int(Val(c.Date.txtCerere[16]));
+    const int nrCopii = r.NrCopii ? *r.NrCopii : int(Val(c.Date.txtCerere[ElemCerere::txtNrCopii]));
     out << "NrCopii=" << nrCopii << " Cuantum=" << r.Cuantum.Text() << Qt::endl;
     return 0;
 }
