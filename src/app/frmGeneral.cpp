@@ -1,9 +1,9 @@
 #include "app/frmGeneral.h"
 
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "base/ServiciuFisiere.h"
 #include "ui/UiButoane.h"
+#include "ui/UiMargine.h"
 
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -40,13 +40,11 @@ void frmGeneral::cmdBrowse_Click() {
 }
 
 void frmGeneral::cmdOK_Click() {
-    try {
+    LaMargine(m_, [&] {
         if (!Txt->text().trimmed().isEmpty())
             ServiciuFisiere::ScrieIni(fisierSetari_, QStringLiteral("Generale"), QStringLiteral("CaleBD"),
                                       Txt->text().trimmed());
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
     m_.Informatie(QStringLiteral("Programul se va inchide. Dati clic pe OK si reporniti-l din nou"));
     accept();
 }

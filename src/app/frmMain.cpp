@@ -4,7 +4,6 @@
 #include "cases/frmAdeverinte.h"
 #include "cases/frmMembrii.h"
 #include "base/Ceas.h"
-#include "base/Eroare.h"
 #include "base/Texte.h"
 #include "ui/UiFunctii.h"
 #include "reference/LunaLucru.h"
@@ -16,6 +15,7 @@
 #include "base/Setari.h"
 #include "ui/UiButoane.h"
 #include "ui/UiDataOptionala.h"
+#include "ui/UiMargine.h"
 #include "app/frmAbout.h"
 #include "reference/frmChLunaAn.h"
 #include "app/frmOptiuni.h"
@@ -395,7 +395,7 @@ void frmMain::construiesteBaraDeStare() {
 
 void frmMain::Form_Load() {
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    try {
+    LaMargine(m_, [&] {
         cboStrada->clear();
         for (const ElementLista& e : ListaCereri::Strazi(p_.bd))
             cboStrada->addItem(e.text, e.id);
@@ -408,9 +408,7 @@ void frmMain::Form_Load() {
         lstStare->clear();
         for (const ElementLista& e : ListaCereri::Stari(p_.bd))
             (new QListWidgetItem(e.text, lstStare))->setData(Qt::UserRole, e.id);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
     QApplication::restoreOverrideCursor();
 
     const QDate azi = Ceas::Azi();
@@ -424,11 +422,9 @@ void frmMain::Form_Load() {
         sbrMain[4]->setText(QStringLiteral("Versiune: %1").arg(QStringLiteral(FEROLANTA_VERSIUNE)));
 
     if (p_.setari.NotificareActe) {
-        try {
+        LaMargine(m_, [&] {
             if (Adeverinte::ActeCareExpira(p_.bd, Ceas::Azi())) ArataNotificarea();
-        } catch (const Eroare& e) {
-            m_.Critic(e.text());
-        }
+        });
     }
     QTimer::singleShot(1567, this, &frmMain::TimerMSG_UPD_Timer);
 }
@@ -489,11 +485,7 @@ FiltruCautare frmMain::FiltruDinControale() const {
 void frmMain::cmdCauta_Click() {
     if (!VerificaBD(p_.bd, m_)) return;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    try {
-        ListaCereri(ListaCereri::Cauta(p_.bd, FiltruDinControale()));
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    LaMargine(m_, [&] { ListaCereri(ListaCereri::Cauta(p_.bd, FiltruDinControale())); });
     ActivareComenzi();
     GolireFiltre();
     QApplication::restoreOverrideCursor();
@@ -539,7 +531,7 @@ int frmMain::RandSelectat() const {
 
 void frmMain::ItemClick() {
     const RandCerere* r = model_->Rand(RandSelectat());
-    try {
+    LaMargine(m_, [&] {
         // The lower lists follow the selected row only: with no row, or a request gone, they are
         // empty and their commands off.
         if (r && ListaCereri::Citeste(p_.bd, r->CerereID).CerereID == 0) {
@@ -548,14 +540,12 @@ void frmMain::ItemClick() {
             return;
         }
         ListeleCererii(r ? r->CerereID : 0);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
 }
 
 void frmMain::cmdAdd_Click() {
     if (!VerificaBD(p_.bd, m_)) return;
-    try {
+    LaMargine(m_, [&] {
         frmAddCerere f(p_.bd, p_.setari, m_, DeschidereCerere{1, 0, false, 0}, this);
         ArataModal(f);
         if (!f.ESTE_OK) return;
@@ -567,9 +557,7 @@ void frmMain::cmdAdd_Click() {
         // The first request of an empty list brings its commands on.
         ActivareComenzi();
         lvwCereri->setFocus();
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
 }
 
 void frmMain::cmdEdit_Click() {
@@ -580,7 +568,7 @@ void frmMain::cmdEdit_Click() {
         m_.Informatie(QStringLiteral("Selectati o cerere"));
         return;
     }
-    try {
+    LaMargine(m_, [&] {
         const qint64 cerereID = r->CerereID;
         frmAddCerere f(p_.bd, p_.setari, m_, DeschidereCerere{2, cerereID, false, 0}, this);
         if (!f.Gasita()) {
@@ -594,9 +582,7 @@ void frmMain::cmdEdit_Click() {
         if (nou.CerereID != 0) model_->Inlocuieste(rand, nou);
         SelecteazaRand(rand);
         lvwCereri->setFocus();
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
 }
 
 void frmMain::cmdDelete_Click() {
@@ -607,18 +593,18 @@ void frmMain::cmdDelete_Click() {
         return;
     }
     if (!VerificaBD(p_.bd, m_)) return;
-    try {
+    const bool stearsa = LaMargine(m_, [&] {
         const RandCerere actual = ListaCereri::Citeste(p_.bd, r->CerereID);
         if (actual.CerereID == 0) {
             m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
-            return;
+            return false;
         }
-        if (!m_.Intrebare(QStringLiteral("Sigur doriti sa stergeti cererea %1 ?").arg(r->NrCerere), {}, false)) return;
+        if (!m_.Intrebare(QStringLiteral("Sigur doriti sa stergeti cererea %1 ?").arg(r->NrCerere), {}, false))
+            return false;
         ListaCereri::Sterge(p_.bd, r->CerereID);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+        return true;
+    });
+    if (!stearsa) return;
     model_->Elimina(rand);
     if (model_->rowCount() > 0)
         SelecteazaRand(std::min(rand, model_->rowCount() - 1));

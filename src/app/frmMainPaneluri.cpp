@@ -9,7 +9,6 @@
 #include "cases/frmAnexa2.h"
 #include "cases/frmListaActeExpira.h"
 #include "documents/ComenziDocumente.h"
-#include "base/Eroare.h"
 #include "base/Texte.h"
 #include "base/Sume.h"
 #include "base/Mesaje.h"
@@ -18,6 +17,7 @@
 #include "app/Pornire.h"
 #include "store/Program.h"
 #include "ui/UiDataOptionala.h"
+#include "ui/UiMargine.h"
 #include "store/BazaDate.h"
 #include "reference/frmDatePrimarie2.h"
 
@@ -95,7 +95,7 @@ void frmMain::RescrieRandul(qint64 cerereID) {
 }
 
 void frmMain::cmdAddDisp_Click() {
-    try {
+    LaMargine(m_, [&] {
         const qint64 cerereID = CerereSelectata();
         if (!Dispozitii::PoateAdauga(p_.bd, m_, cerereID)) return;
         frmAddDispozitie f(p_.bd, m_, 1, cerereID, 0, this);
@@ -104,13 +104,11 @@ void frmMain::cmdAddDisp_Click() {
         if (!f.ESTE_OK) return;
         ListaDispozitii(cerereID);
         SelecteazaDispozitia(f.DispozitieID());
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
 }
 
 void frmMain::cmdEditDisp_Click() {
-    try {
+    LaMargine(m_, [&] {
         const qint64 dispozitieID = DispozitieSelectata();
         if (!Dispozitii::PoateModifica(p_.bd, m_, dispozitieID)) return;
         frmAddDispozitie f(p_.bd, m_, 2, 0, dispozitieID, this);
@@ -119,9 +117,7 @@ void frmMain::cmdEditDisp_Click() {
         if (!f.ESTE_OK) return;
         ListaDispozitii(CerereSelectata());
         SelecteazaDispozitia(dispozitieID);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
 }
 
 TiparireDocumente frmMain::Tiparire() const {
@@ -135,27 +131,15 @@ TiparireDocumente frmMain::Tiparire() const {
 }
 
 void frmMain::cmdPrintDisp_Click() {
-    try {
-        ComenziDocumente::TiparesteDispozitie(p_.bd, DispozitieSelectata(), Tiparire(), m_);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    LaMargine(m_, [&] { ComenziDocumente::TiparesteDispozitie(p_.bd, DispozitieSelectata(), Tiparire(), m_); });
 }
 
 void frmMain::cmdFisaCalcul_Click() {
-    try {
-        ComenziDocumente::TiparesteFisa(p_.bd, CerereSelectata(), Tiparire(), m_);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    LaMargine(m_, [&] { ComenziDocumente::TiparesteFisa(p_.bd, CerereSelectata(), Tiparire(), m_); });
 }
 
 void frmMain::cmdDeclaratie_Click() {
-    try {
-        ComenziDocumente::TiparesteDeclaratie(p_.bd, CerereSelectata(), Tiparire(), m_);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    LaMargine(m_, [&] { ComenziDocumente::TiparesteDeclaratie(p_.bd, CerereSelectata(), Tiparire(), m_); });
 }
 
 void frmMain::ActivareComenzi() {
@@ -203,28 +187,25 @@ void frmMain::TiparireToateDispozitiile(QAction* comanda, const QString& textIna
     }
     if (!VerificaBD(p_.bd, m_)) return;
     SelectieTiparire selectie;
-    try {
+    const bool ales = LaMargine(m_, [&] {
         frmAnexa2 f(p_.bd, m_, p_.setari.LunaSetata, p_.setari.AnSetat, this);
         ArataModal(f);
         // A generation may have given the selected request a disposition of its own.
         if (f.Generate > 0 && CerereSelectata() != 0) ListaDispozitii(CerereSelectata());
-        if (!f.ESTE_OK) return;
+        if (!f.ESTE_OK) return false;
         selectie = f.Selectie;
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+        return true;
+    });
+    if (!ales) return;
     StopTiparire = false;
     comanda->setText(TextTiparire::Opreste);
-    try {
+    LaMargine(m_, [&] {
         std::vector<qint64> chei;
         for (const DispozitieDeTiparit& d :
              Dispozitii::SelecteazaPentruTiparire(p_.bd, m_, selectie, p_.setari.AnSetat))
             chei.push_back(d.DispozitieID);
         if (!chei.empty()) ComenziDocumente::TiparesteDispozitiile(p_.bd, chei, Tiparire(), m_);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
     comanda->setText(textInapoi);
 }
 
@@ -264,22 +245,20 @@ void frmMain::ListaAnchete(qint64 cerereID) {
 
 void frmMain::cmdAddAncheta_Click() {
     const RandCerere* r = model_->Rand(RandSelectat());
-    try {
+    LaMargine(m_, [&] {
         if (!Anchete::PoateAdauga(p_.bd, m_, r ? r->CerereID : 0)) return;
         const qint64 cerereID = r->CerereID;
         const int nrCopii = int(ListaCereri::Citeste(p_.bd, cerereID).NrCopii);
         frmAddAnchete f(p_.bd, m_, 1, cerereID, 0, nrCopii, this);
         ArataModal(f);
         if (f.ESTE_OK) ListaAnchete(cerereID);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
 }
 
 void frmMain::cmdEditAncheta_Click() {
     QTreeWidgetItem* item = lvwAnchete->currentItem();
     const RandCerere* r = model_->Rand(RandSelectat());
-    try {
+    LaMargine(m_, [&] {
         const qint64 anchetaID = item ? item->data(0, Qt::UserRole).toLongLong() : 0;
         if (!Anchete::PoateModifica(p_.bd, m_, anchetaID) || !r) return;
         const qint64 cerereID = r->CerereID;
@@ -287,20 +266,16 @@ void frmMain::cmdEditAncheta_Click() {
         frmAddAnchete f(p_.bd, m_, 2, cerereID, anchetaID, nrCopii, this);
         ArataModal(f);
         if (f.ESTE_OK) ListaAnchete(cerereID);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
 }
 
 void frmMain::cmdDelAncheta_Click() {
     QTreeWidgetItem* item = lvwAnchete->currentItem();
-    try {
+    const bool stearsa = LaMargine(m_, [&] {
         const qint64 anchetaID = item ? item->data(0, Qt::UserRole).toLongLong() : 0;
-        if (!Anchete::Sterge(p_.bd, m_, anchetaID, item ? item->text(0) : QString())) return;
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+        return Anchete::Sterge(p_.bd, m_, anchetaID, item ? item->text(0) : QString());
+    });
+    if (!stearsa) return;
     const int index = lvwAnchete->indexOfTopLevelItem(item);
     delete lvwAnchete->takeTopLevelItem(index);
     const int ramase = lvwAnchete->topLevelItemCount();
@@ -322,17 +297,17 @@ void frmMain::cmdDelDisp_Click() {
         return;
     }
     const int index = lvwDispozitii->indexOfTopLevelItem(item);
-    try {
+    const Margine cum{.inainte = QStringLiteral("Exceptie Morvante din \"Delete Dispozitii\" ")};
+    const bool stearsa = LaMargine(m_, cum, [&] {
         // Re-read first: a disposition removed on another computer is not asked about.
-        if (!Dispozitii::PoateModifica(p_.bd, m_, item->data(0, Qt::UserRole).toLongLong())) return;
+        if (!Dispozitii::PoateModifica(p_.bd, m_, item->data(0, Qt::UserRole).toLongLong())) return false;
         if (!m_.Intrebare(QStringLiteral("Sigur doriti sa stergeti dispozitia %1 ?").arg(item->text(1)), {}, false))
-            return;
+            return false;
         if (!Dispozitii::StergeDispozitie(p_.bd, item->data(0, Qt::UserRole).toLongLong()))
             m_.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cerere!"));
-    } catch (const Eroare& e) {
-        m_.Critic(QStringLiteral("Exceptie Morvante din \"Delete Dispozitii\" %1").arg(e.text()));
-        return;
-    }
+        return true;
+    });
+    if (!stearsa) return;
     delete lvwDispozitii->takeTopLevelItem(index);
     const int ramase = lvwDispozitii->topLevelItemCount();
     if (ramase > 0) lvwDispozitii->setCurrentItem(lvwDispozitii->topLevelItem(std::min(index, ramase - 1)));

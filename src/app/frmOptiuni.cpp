@@ -1,8 +1,8 @@
 #include "app/frmOptiuni.h"
 
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "ui/UiButoane.h"
+#include "ui/UiMargine.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
@@ -289,12 +289,7 @@ void frmOptiuni::OK() {
         return;
     }
     const Setari noi = AplicaOptiuni(setari_, v);
-    try {
-        ScrieOptiuni(fisierIni_, noi);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text(), windowTitle());
-        return;
-    }
+    if (!LaMargine(m_, {.titlu = windowTitle()}, [&] { ScrieOptiuni(fisierIni_, noi); })) return;
     setari_ = noi;
     accept();
 }

@@ -1,12 +1,12 @@
 #include "app/frmParola.h"
 
-#include "base/Eroare.h"
 #include "base/Foldere.h"
 #include "base/Mesaje.h"
 #include "base/Parola.h"
 #include "store/Program.h"
 #include "base/ServiciuFisiere.h"
 #include "base/Setari.h"
+#include "ui/UiMargine.h"
 
 #include <QDir>
 #include <QFormLayout>
@@ -51,30 +51,27 @@ void frmParola::pastreaza(const QString& valoare) {
 }
 
 void frmParola::cmdOK_Click() {
-    try {
+    const bool schimbata = LaMargine(m_, [&] {
         const Parola::Schimbare s =
             Parola::Schimba(p_.setari.Parola, txtPassOld->text(), txtPassNew->text(), txtPassRenew->text());
         if (s.mesaj) {
             m_.Informatie(*s.mesaj);
-            return;
+            return false;
         }
         pastreaza(s.valoareNoua);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+        return true;
+    });
+    if (!schimbata) return;
     accept();
 }
 
 void frmParola::cmdReset_Click() {
-    try {
+    LaMargine(m_, [&] {
         const Parola::Schimbare s = Parola::Reseteaza(p_.setari.Parola, txtPassOld->text());
         if (s.mesaj) {
             m_.Informatie(*s.mesaj);
             return;
         }
         pastreaza(QString());
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
 }

@@ -1,8 +1,8 @@
-#include "base/Eroare.h"
 #include "base/Foldere.h"
 #include "app/Pornire.h"
 #include "store/Program.h"
 #include "ui/UiMesaje.h"
+#include "ui/UiMargine.h"
 #include "app/frmGeneral.h"
 #include "app/frmLogin.h"
 #include "app/frmMain.h"
@@ -52,12 +52,11 @@ int main(int argc, char** argv) {
     UiMesaje mesaje;
     // Whatever fails before or while the windows are made is shown to the clerk, and the program
     // ends cleanly instead of vanishing.
+    int cod = 1;
     try {
-        return porneste(app, mesaje);
-    } catch (const Eroare& e) {
-        mesaje.Critic(e.text());
+        LaMargine(mesaje, [&] { cod = porneste(app, mesaje); });
     } catch (const std::exception& e) {
         mesaje.Critic(QStringLiteral("Eroare neasteptata: %1").arg(QString::fromLocal8Bit(e.what())));
     }
-    return 1;
+    return cod;
 }

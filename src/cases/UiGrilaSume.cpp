@@ -1,7 +1,7 @@
 #include "cases/UiGrilaSume.h"
 
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
+#include "ui/UiMargine.h"
 
 #include <QHeaderView>
 #include <QTableWidget>
@@ -25,11 +25,8 @@ void ConecteazaColoanaSume(QTableWidget* g, int coloana, Mesaje& m, std::functio
                          if (*rescrie || c != coloana) return;
                          QTableWidgetItem* celula = g->item(rand, c);
                          if (!celula) return;
-                         try {
-                             seteaza(size_t(rand), celula->text());
-                         } catch (const Eroare& e) {
-                             m.Avertisment(e.text());
-                         }
+                         LaMargine(m, {.fel = Mesaje::Fel::Avertisment},
+                                   [&] { seteaza(size_t(rand), celula->text()); });
                          *rescrie = true;
                          celula->setText(text(size_t(rand)));
                          *rescrie = false;

@@ -1,12 +1,12 @@
 #include "cases/frmAdAdeverinte.h"
 
 #include "cases/UiCampuriAdeverinta.h"
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
 #include "ui/UiButoane.h"
 #include "ui/UiDataOptionala.h"
 #include "ui/UiFormular.h"
+#include "ui/UiMargine.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -22,7 +22,7 @@ frmAdAdeverinte::frmAdAdeverinte(BazaDate& db, Mesaje& m, int adaug, const Adeve
     setObjectName(QStringLiteral("frmAdAdeverinte"));
     setWindowTitle(Adaug == 2 ? QStringLiteral("Modificare adeverinta") : QStringLiteral("Adaugare adeverinta"));
     asazaControale();
-    try {
+    LaMargine(m_, [&] {
         const TipuriAdeverinte tipuri = TipuriAdeverinte::Citeste(db_);
         for (const TipAdeverinta& t : tipuri.Toate())
             cboTipAdev->addItem(t.Continut, t.DataID);
@@ -31,9 +31,7 @@ frmAdAdeverinte::frmAdAdeverinte(BazaDate& db, Mesaje& m, int adaug, const Adeve
             lblTitular->setText(a->Titular);
             lblScolar->setText(a->Scolar);
         }
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
     cboTipAdev->setCurrentIndex(cboTipAdev->findData(rec.TipAdeverinta));
     txtNrAdev->setText(rec.NrAdev);
     dtpData[0]->setData(rec.DataAdeverinta);
@@ -79,12 +77,7 @@ void frmAdAdeverinte::cmdOK_Click() {
         if (auto* w = findChild<QWidget*>(focus)) w->setFocus();
         return;
     }
-    try {
-        a.AdevID = Adeverinte::SalveazaAdeverintaScolara(db_, a, Adaug == 1);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+    if (!LaMargine(m_, [&] { a.AdevID = Adeverinte::SalveazaAdeverintaScolara(db_, a, Adaug == 1); })) return;
     RecAdev = a;
     ESTE_OK = true;
     accept();

@@ -1,10 +1,10 @@
 #include "cases/frmAddAct.h"
 
 #include "cases/UiCampuriAdeverinta.h"
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "ui/UiButoane.h"
 #include "ui/UiDataOptionala.h"
+#include "ui/UiMargine.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -21,11 +21,7 @@ frmAddAct::frmAddAct(BazaDate& db, Mesaje& m, std::vector<AdeverintaMembru>& act
     asazaControale();
 
     TipuriAdeverinte tipuri;
-    try {
-        tipuri = TipuriAdeverinte::Citeste(db);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    LaMargine(m_, [&] { tipuri = TipuriAdeverinte::Citeste(db); });
     for (const TipAdeverinta& t : tipuri.Toate())
         cboTipAct->addItem(t.Continut, t.DataID);
     cboTipAct->setCurrentIndex(-1);
@@ -69,12 +65,7 @@ DateAct frmAddAct::citesteControalele() const {
 
 void frmAddAct::cmdOK_Click() {
     RezultatAct r;
-    try {
-        r = Adeverinte::OkAct(acte_, mod_, index_, citesteControalele(), m_);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+    if (!LaMargine(m_, [&] { r = Adeverinte::OkAct(acte_, mod_, index_, citesteControalele(), m_); })) return;
     if (!r.Scris()) {
         if (auto* w = findChild<QWidget*>(r.Focus); w && !r.Focus.isEmpty()) w->setFocus();
         return;

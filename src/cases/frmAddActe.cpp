@@ -2,9 +2,9 @@
 
 #include "cases/StareCerere.h"
 #include "cases/VenituriBunuri.h"
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "ui/UiButoane.h"
+#include "ui/UiMargine.h"
 
 #include <QHBoxLayout>
 #include <QListWidget>
@@ -24,7 +24,7 @@ frmAddActe::frmAddActe(BazaDate& bd, Mesaje& m, StareCerere& stare, QWidget* par
 
     asezare->addLayout(RandOkRenunta(this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }));
 
-    try {
+    LaMargine(m, [&] {
         const std::vector<ElementCatalog> acte = CitesteListaActe(bd);
         const std::vector<bool> bifate = DespacheteazaBife(stare.ActeBife, acte.size());
         for (size_t i = 0; i < acte.size(); ++i) {
@@ -33,9 +33,7 @@ frmAddActe::frmAddActe(BazaDate& bd, Mesaje& m, StareCerere& stare, QWidget* par
             r->setCheckState(bifate[i] ? Qt::Checked : Qt::Unchecked);
         }
         citit_ = true;
-    } catch (const Eroare& e) {
-        m.Critic(e.text());
-    }
+    });
     resize(760, 620);
 }
 

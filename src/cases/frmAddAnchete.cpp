@@ -1,12 +1,12 @@
 #include "cases/frmAddAnchete.h"
 
 #include "base/Ceas.h"
-#include "base/Eroare.h"
 #include "base/Texte.h"
 #include "base/Mesaje.h"
 #include "ui/UiButoane.h"
 #include "ui/UiDataOptionala.h"
 #include "ui/UiFormular.h"
+#include "ui/UiMargine.h"
 #include "store/Schema.h"
 
 #include <QComboBox>
@@ -38,16 +38,14 @@ frmAddAnchete::frmAddAnchete(BazaDate& db, Mesaje& m, int adaug, qint64 cerereID
     setWindowTitle(mod_ == ModAncheta::Modificare ? QStringLiteral("Modificare Ancheta")
                                                   : QStringLiteral("Adaugare Ancheta"));
     asazaControale();
-    try {
+    LaMargine(m_, [&] {
         incarcaListe();
         if (mod_ == ModAncheta::Modificare) {
             if (const auto a = Anchete::Citeste(db_, anchetaID_)) arata(*a);
         } else {
             dtpData->setData(Ceas::Azi());
         }
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
     // Connected after the opening values, so that an inquiry opened for a change shows what was saved.
     connect(dtpData, &UiDataOptionala::dataSchimbata, this, &frmAddAnchete::dtpData_Change);
     if (mod_ == ModAncheta::Adaugare) dtpData_Change();
@@ -150,7 +148,7 @@ void frmAddAnchete::arataExpirare(const QDate& dataExp, const QString& motiv, co
 }
 
 void frmAddAnchete::dtpData_Change() {
-    try {
+    LaMargine(m_, [&] {
         const QDate d = dtpData->data();
         if (!d.isValid()) {
             arataExpirare({}, {}, {}, {});
@@ -158,9 +156,7 @@ void frmAddAnchete::dtpData_Change() {
         }
         const Expirare e = Anchete::CalculExpirare(db_, cerereID_, d, m_);
         arataExpirare(e.DataExpirarii, e.Motiv, QString::number(e.NrMembrii), QString::number(e.NrCopii));
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
 }
 
 Ancheta frmAddAnchete::citesteControalele() const {
@@ -184,15 +180,14 @@ Ancheta frmAddAnchete::citesteControalele() const {
 }
 
 void frmAddAnchete::cmdOK_Click() {
-    try {
+    const bool salvata = LaMargine(m_, [&] {
         const Ancheta a = citesteControalele();
         const VerificareAncheta v = Anchete::VerificaControale(db_, m_, a, mod_, nrCopiiCerere_);
-        if (!UrmeazaVerificarea(this, v.ok, v.inchide, v.control)) return;
+        if (!UrmeazaVerificarea(this, v.ok, v.inchide, v.control)) return false;
         anchetaID_ = Anchete::Salveaza(db_, m_, a, mod_);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+        return true;
+    });
+    if (!salvata) return;
     ESTE_OK = true;
     accept();
 }

@@ -7,7 +7,6 @@
 #include "cases/frmAddVenituri.h"
 #include "cases/frmBife.h"
 #include "base/Ceas.h"
-#include "base/Eroare.h"
 #include "base/Texte.h"
 #include "base/Sume.h"
 #include "base/Mesaje.h"
@@ -15,6 +14,7 @@
 #include "ui/UiButoane.h"
 #include "ui/UiDataOptionala.h"
 #include "ui/UiFormular.h"
+#include "ui/UiMargine.h"
 #include "store/Schema.h"
 
 #include <QCheckBox>
@@ -459,7 +459,8 @@ void frmAddCerere::umpleListele() {
 }
 
 void frmAddCerere::incarca(const DeschidereCerere& d) {
-    try {
+    // The dialog stays open with what it has.
+    LaMargine(m_, [&] {
         calcul_ = std::make_unique<CalculEditor>(IncarcaParametri(bd_), setari_.LunaSetata, setari_.AnSetat);
         umpleListele();
         if (d.Adaug != 2) {
@@ -479,10 +480,7 @@ void frmAddCerere::incarca(const DeschidereCerere& d) {
             for (const MembruIesit& x : c.Iesiti)
                 lista_.lvwIesiti.push_back(RandIesitIncarcat(x));
         }
-    } catch (const Eroare& e) {
-        // The dialog stays open with what it has.
-        m_.Critic(e.text());
-    }
+    });
     arataListele();
 }
 
@@ -613,11 +611,7 @@ void frmAddCerere::arataCalculul(const DateCerere& d) {
 void frmAddCerere::recalculeaza(const std::function<void(DateCerere&)>& pas) {
     if (!stare_) return;
     DateCerere d = Citeste();
-    try {
-        pas(d);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    LaMargine(m_, [&] { pas(d); });
     // Whatever was computed before a failure is shown.
     arataCalculul(d);
 }
@@ -666,14 +660,12 @@ bool frmAddCerere::eventFilter(QObject* obiect, QEvent* e) {
                 if (paraseste) parasesteCombo(i);
             }
         if (paraseste && (obiect == txtCerere[txtNrDosar] || obiect == txtCerere[txtNrCerere]) && stare_) {
-            try {
+            LaMargine(m_, [&] {
                 if (obiect == txtCerere[txtNrDosar])
                     VerificaNrDosar(bd_, Citeste(), 2, m_);
                 else
                     VerificaNrCerere(bd_, Citeste(), 2, m_);
-            } catch (const Eroare& x) {
-                m_.Critic(x.text());
-            }
+            });
         }
         return QDialog::eventFilter(obiect, e);
     }
@@ -707,12 +699,10 @@ void frmAddCerere::deschideMembru(const Deschidere& dch) {
     const std::optional<int> scris = DeschideMembru ? DeschideMembru(*stare_, c) : std::nullopt;
     if (!scris || !stare_) return;
     TotaluriMembri t;
-    try {
+    const bool reusit = LaMargine(m_, [&] {
         t = c.Mod == 1 ? DupaAdaugare(lista_, *stare_, *scris, m_) : DupaModificare(lista_, *stare_, *scris, m_);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+    });
+    if (!reusit) return;
     arataListele();
     lvw->setFocus();
     recalculeaza([this, &t](DateCerere& d) { calcul_->Totaluri(d, *stare_, t, m_); });
@@ -741,11 +731,7 @@ void frmAddCerere::cmdEdit_Click() {
 void frmAddCerere::cmdDelete_Click() {
     if (!stare_) return;
     std::optional<TotaluriMembri> t;
-    try {
-        t = EliminaMembru(lista_, *stare_, DeschideMotiv, m_);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    LaMargine(m_, [&] { t = EliminaMembru(lista_, *stare_, DeschideMotiv, m_); });
     if (!t) return;
     arataListele();
     lvw->setFocus();
@@ -792,13 +778,8 @@ void frmAddCerere::cmdOK_Click() {
     o.NrRanduriLista = lvw->topLevelItemCount();
     o.DupaPas = DupaPasSalvare;
     RezultatSalvare r;
-    try {
-        r = SalveazaCerere(bd_, Citeste(), *stare_, IesitiDeSalvat(lista_), o, m_);
-    } catch (const Eroare& e) {
-        // Nothing was written; the clerk keeps what he typed and may try again.
-        m_.Critic(e.text());
-        return;
-    }
+    // Nothing was written; the clerk keeps what he typed and may try again.
+    if (!LaMargine(m_, [&] { r = SalveazaCerere(bd_, Citeste(), *stare_, IesitiDeSalvat(lista_), o, m_); })) return;
     switch (r.stare) {
     case RezultatSalvare::Stare::Salvata:
         cerereID_ = r.CerereID;

@@ -1,11 +1,11 @@
 #include "cases/frmAddDispozitie.h"
 
 #include "cases/Anchete.h"
-#include "base/Eroare.h"
 #include "base/Texte.h"
 #include "base/Mesaje.h"
 #include "ui/UiButoane.h"
 #include "ui/UiFormular.h"
+#include "ui/UiMargine.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -35,7 +35,7 @@ frmAddDispozitie::frmAddDispozitie(BazaDate& db, Mesaje& m, int adaug, qint64 ce
     setWindowTitle(titlu);
     asazaControale();
     lblInfo->setText(titlu);
-    try {
+    LaMargine(m_, [&] {
         for (const auto& e : Anchete::ListaDateGen(db_, TipDateGen::Actiune))
             cboDispoz[0]->addItem(e.Continut, e.DataID);
         cboDispoz[0]->setCurrentIndex(-1);
@@ -46,9 +46,7 @@ frmAddDispozitie::frmAddDispozitie(BazaDate& db, Mesaje& m, int adaug, qint64 ce
             arata(*d);
             deschisa_ = true;
         }
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
     if (!deschisa_) QTimer::singleShot(0, this, &QDialog::reject);
 }
 
@@ -188,15 +186,14 @@ Dispozitie frmAddDispozitie::citesteControalele() const {
 }
 
 void frmAddDispozitie::cmdOK_Click() {
-    try {
+    const bool salvata = LaMargine(m_, [&] {
         const Dispozitie d = citesteControalele();
         const VerificareDispozitie v = Dispozitii::VerificaControale(db_, m_, d, mod_);
-        if (!UrmeazaVerificarea(this, v.ok, v.inchide, v.control)) return;
+        if (!UrmeazaVerificarea(this, v.ok, v.inchide, v.control)) return false;
         dispozitieID_ = Dispozitii::Salveaza(db_, d, mod_);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+        return true;
+    });
+    if (!salvata) return;
     ESTE_OK = true;
     accept();
 }

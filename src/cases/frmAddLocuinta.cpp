@@ -1,10 +1,10 @@
 #include "cases/frmAddLocuinta.h"
 
 #include "cases/StareCerere.h"
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "ui/UiButoane.h"
 #include "ui/UiDataOptionala.h"
+#include "ui/UiMargine.h"
 #include "store/Schema.h"
 
 #include <QCheckBox>
@@ -31,14 +31,12 @@ frmAddLocuinta::frmAddLocuinta(BazaDate& bd, Mesaje& m, StareCerere& stare, QWid
     setObjectName(QStringLiteral("frmAddLocuinta"));
     setWindowTitle(QStringLiteral("Locuinta"));
     asazaControale();
-    try {
+    LaMargine(m_, [&] {
         const auto liste = CitesteListeLocuinta(bd);
         for (size_t i = 0; i < liste.size(); ++i)
             for (const OptiuneLista& o : liste[i])
                 cboLocuinta[i]->addItem(o.Continut, o.DataID);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
     arata(DateDinStare(stare_));
     connect(chkPolita[0], &QCheckBox::toggled, this, &frmAddLocuinta::chkPolita_Click);
     for (QWidget* w : findChildren<QWidget*>())

@@ -5,6 +5,7 @@
 #include "ui/UiButoane.h"
 #include "ui/UiDataOptionala.h"
 #include "ui/UiFormular.h"
+#include "ui/UiMargine.h"
 #include "store/Schema.h"
 
 #include <QCheckBox>
@@ -65,11 +66,7 @@ frmAddMembru::frmAddMembru(BazaDate& bd, Mesaje& m, StareCerere& stare, const Co
     setObjectName(QStringLiteral("frmAddMembru"));
     setWindowTitle(c_.Mod == 2 ? QStringLiteral("Modificare membru") : QStringLiteral("Adaugare membru"));
     asazaControale();
-    try {
-        liste_ = IncarcaListePersoana(bd_);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    LaMargine(m_, [&] { liste_ = IncarcaListePersoana(bd_); });
     umpleListe();
 
     DatePersoana d;
@@ -525,12 +522,7 @@ void frmAddMembru::arataVarsta(const DateCNP& date) {
 void frmAddMembru::umpleCNP() {
     const QString text = cboCNP->currentText();
     QStringList coduri;
-    try {
-        coduri = CnpDupaInceput(bd_, text, CoduriInLista);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+    if (!LaMargine(m_, [&] { coduri = CnpDupaInceput(bd_, text, CoduriInLista); })) return;
     const QSignalBlocker b(cboCNP);
     cboCNP->clear();
     cboCNP->addItems(coduri);
@@ -549,7 +541,7 @@ void frmAddMembru::cboCNP_LostFocus() {
     const QString cnp = cboCNP->currentText().trimmed();
     if (cnp == cnpVerificat_) return;
     inPlecare_ = true;
-    try {
+    LaMargine(m_, [&] {
         DatePersoana d = Citeste();
         const RezultatPlecareCNP r = PlecareCNP(d, c_, stare_, bd_, m_);
         Scrie(d);
@@ -571,26 +563,22 @@ void frmAddMembru::cboCNP_LostFocus() {
         } else {
             cnpVerificat_ = cnp;
         }
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
     inPlecare_ = false;
 }
 
 void frmAddMembru::cmdOK_Click() {
     const DatePersoana d = Citeste();
-    try {
-        const RezultatOk r = OkPersoana(d, c_, stare_, m_);
-        if (!r.Focus.isEmpty()) {
-            focus(r.Focus);
-            return;
-        }
-        IndexScris = r.Index;
-    } catch (const Eroare& e) {
-        m_.Avertisment(e.text());
+    RezultatOk r;
+    if (!LaMargine(m_, {.fel = Mesaje::Fel::Avertisment}, [&] { r = OkPersoana(d, c_, stare_, m_); })) {
         focus(CasetaSumaInvalida(d));
         return;
     }
+    if (!r.Focus.isEmpty()) {
+        focus(r.Focus);
+        return;
+    }
+    IndexScris = r.Index;
     ESTE_OK = true;
     accept();
 }
@@ -633,15 +621,13 @@ frmMotiv::frmMotiv(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(parinte)
     g->setRowMinimumHeight(3, 8);
     g->addLayout(RandOkRenunta(this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }), 4, 0, 1, 4);
 
-    try {
+    LaMargine(m_, [&] {
         const ListePersoana l = IncarcaListePersoana(bd);
         for (const AlegereCombo& e : l.cboMembru[cboMotivID])
             cboMembru[0]->addItem(e.text, e.id);
         for (const AlegereCombo& e : l.cboMembru[cboTipValuta])
             cboMembru[1]->addItem(e.text, e.id);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
     cboMembru[0]->setCurrentIndex(-1);
     cboMembru[1]->setCurrentIndex(-1);
 
@@ -649,12 +635,12 @@ frmMotiv::frmMotiv(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(parinte)
 }
 
 void frmMotiv::cmdOK_Click() {
-    try {
+    const bool ales = LaMargine(m_, {.fel = Mesaje::Fel::Avertisment}, [&] {
         Rezultat = MotivDinControale(alegere(cboMembru[0], false), alegere(cboMembru[1], false), chkVenit->isChecked(),
                                      txtMembru->text());
-    } catch (const Eroare& e) {
+    });
+    if (!ales) {
         Rezultat.reset();
-        m_.Avertisment(e.text());
         txtMembru->setFocus(Qt::OtherFocusReason);
         txtMembru->selectAll();
         return;

@@ -2,10 +2,10 @@
 
 #include "cases/StareCerere.h"
 #include "cases/UiGrilaSume.h"
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "base/Setari.h"
 #include "ui/UiButoane.h"
+#include "ui/UiMargine.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -19,13 +19,10 @@ namespace {
 constexpr int ColoanaSuma = 1;
 
 std::vector<ElementCatalog> catalog(BazaDate& bd, Mesaje& m) {
-    try {
-        return CitesteListaVenituri(bd);
-    } catch (const Eroare& e) {
-        // An empty grid copies nothing back, so the incomes stay as they were.
-        m.Critic(e.text());
-        return {};
-    }
+    // An empty grid copies nothing back, so the incomes stay as they were.
+    std::vector<ElementCatalog> c;
+    LaMargine(m, [&] { c = CitesteListaVenituri(bd); });
+    return c;
 }
 
 } // namespace

@@ -4,10 +4,10 @@
 #include "cases/DateCerere.h"
 #include "cases/frmAdAdeverinte.h"
 #include "base/Ceas.h"
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
 #include "reference/UiListe.h"
+#include "ui/UiMargine.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -46,12 +46,7 @@ frmAdeverinte::frmAdeverinte(BazaDate& db, Mesaje& m, QWidget* parinte) : QDialo
 
 void frmAdeverinte::Incarca(qint64 selectat) {
     std::vector<RandAdeverintaScolara> randuri;
-    try {
-        randuri = Adeverinte::ListaAdeverinteScolare(db_, Ceas::Azi());
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+    if (!LaMargine(m_, [&] { randuri = Adeverinte::ListaAdeverinteScolare(db_, Ceas::Azi()); })) return;
     lvwAdeverinte->clear();
     QList<QTreeWidgetItem*> iteme;
     iteme.reserve(qsizetype(randuri.size()));
@@ -103,10 +98,8 @@ void frmAdeverinte::cmdEdit_Click() {
 void frmAdeverinte::cmdDelete_Click() {
     QTreeWidgetItem* r = RandAles(lvwAdeverinte, m_, FaraSelectie);
     if (!r || !VerificaBD(db_, m_)) return;
-    try {
+    LaMargine(m_, [&] {
         if (Adeverinte::StergeAdeverintaScolara(db_, m_, r->data(ColID, Qt::UserRole).toLongLong(), r->text(ColNrAdev)))
             StergeRand(lvwAdeverinte, r);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
 }

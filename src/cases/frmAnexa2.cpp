@@ -2,11 +2,11 @@
 
 #include "cases/Anchete.h"
 #include "base/Ceas.h"
-#include "base/Eroare.h"
 #include "base/Texte.h"
 #include "base/Mesaje.h"
 #include "ui/UiButoane.h"
 #include "ui/UiFormular.h"
+#include "ui/UiMargine.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -50,12 +50,10 @@ frmAnexa2::frmAnexa2(BazaDate& db, Mesaje& m, int lunaSetata, int anSetat, QWidg
     luni(cboDispoz_1, lunaSetata);
     if (anSetat > 0) txtDispoz[1]->setText(QString::number(anSetat));
     dtpData->setDate(Ceas::Azi());
-    try {
+    LaMargine(m_, [&] {
         for (const auto& e : Anchete::ListaDateGen(db_, TipDateGen::Actiune))
             cboCerere[cboTipDispozitie]->addItem(e.Continut, e.DataID);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
     cboCerere[cboTipDispozitie]->setCurrentIndex(-1);
     RuleazaGenerarea = [this](ParametriGenerare p) { return genereazaCuProgres(std::move(p)); };
 }
@@ -171,12 +169,7 @@ void frmAnexa2::cmdGenerate_Click() {
     p.Luna = CheieAleasa(cboDispoz_1);
     p.An = txtDispoz[1]->text();
     RezultatGenerare r;
-    try {
-        r = RuleazaGenerarea(std::move(p));
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+    if (!LaMargine(m_, [&] { r = RuleazaGenerarea(std::move(p)); })) return;
     if (!r.ok) {
         if (auto* w = r.control.isEmpty() ? nullptr : findChild<QWidget*>(r.control)) w->setFocus();
         return;

@@ -2,10 +2,10 @@
 
 #include "cases/StareCerere.h"
 #include "cases/UiGrilaSume.h"
-#include "base/Eroare.h"
 #include "base/Sume.h"
 #include "base/Mesaje.h"
 #include "ui/UiButoane.h"
+#include "ui/UiMargine.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -27,13 +27,10 @@ constexpr int ColoanaCantitate = 4;
 const QColor FundalCantitate(255, 255, 200);
 
 CatalogBife catalog(BazaDate& bd, Mesaje& m) {
-    try {
-        return CitesteListaBife(bd);
-    } catch (const Eroare& e) {
-        // Empty lists copy nothing back: the goods stay as they were, and Bife too.
-        m.Critic(e.text());
-        return {};
-    }
+    // Empty lists copy nothing back: the goods stay as they were, and Bife too.
+    CatalogBife c;
+    LaMargine(m, [&] { c = CitesteListaBife(bd); });
+    return c;
 }
 
 } // namespace

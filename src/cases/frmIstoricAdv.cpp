@@ -1,8 +1,8 @@
 #include "cases/frmIstoricAdv.h"
 
 #include "cases/Adeverinte.h"
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
+#include "ui/UiMargine.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -33,11 +33,7 @@ frmIstoricAdv::frmIstoricAdv(BazaDate& db, Mesaje& m, const std::vector<Adeverin
     connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
 
     TipuriAdeverinte tipuri;
-    try {
-        tipuri = TipuriAdeverinte::Citeste(db);
-    } catch (const Eroare& e) {
-        m.Critic(e.text());
-    }
+    LaMargine(m, [&] { tipuri = TipuriAdeverinte::Citeste(db); });
     for (const RandIstoricAdv& r : Adeverinte::Istoric(acte, tipuri))
         lvwIstoric->addTopLevelItem(new QTreeWidgetItem(
             QStringList{QString::number(r.AdevID), r.Tip, r.NrAdev, r.DataAdev, r.DataDep, r.DataExp}));

@@ -3,9 +3,9 @@
 #include "cases/Adeverinte.h"
 #include "cases/DateCerere.h"
 #include "base/Ceas.h"
-#include "base/Eroare.h"
 #include "base/Texte.h"
 #include "base/Mesaje.h"
+#include "ui/UiMargine.h"
 
 #include <QAbstractTableModel>
 #include <QHBoxLayout>
@@ -97,12 +97,7 @@ void frmListaActeExpira::AfisLista() {
     const QDate azi = Ceas::Azi();
     setWindowTitle(Adeverinte::TitluActeExpira(azi));
     std::vector<RandActExpira> randuri;
-    try {
-        randuri = Adeverinte::ListaActeExpira(db_, azi);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+    if (!LaMargine(m_, [&] { randuri = Adeverinte::ListaActeExpira(db_, azi); })) return;
     const bool gol = randuri.empty();
     model_->Pune(std::move(randuri));
     if (gol) {
@@ -131,12 +126,7 @@ void frmListaActeExpira::lvwActe_DblClick() {
     const RandActExpira& r = model_->Rand(selectate.first().row());
     const qint64 membru = r.MembruID;
     std::optional<qint64> cerere;
-    try {
-        cerere = Adeverinte::CerereActExpira(db_, membru, r.CerereID, Ceas::Azi());
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+    if (!LaMargine(m_, [&] { cerere = Adeverinte::CerereActExpira(db_, membru, r.CerereID, Ceas::Azi()); })) return;
     if (!cerere) {
         m_.Informatie(TextRandNegasit);
         AfisLista();

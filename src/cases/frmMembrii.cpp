@@ -4,6 +4,7 @@
 #include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "ui/UiButoane.h"
+#include "ui/UiMargine.h"
 
 #include <QAbstractTableModel>
 #include <QGridLayout>
@@ -182,11 +183,7 @@ frmMembrii::frmMembrii(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(pari
     tot->addLayout(butoane);
     resize(900, 560);
 
-    try {
-        model_->Citeste();
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    LaMargine(m_, [&] { model_->Citeste(); });
 }
 
 void frmMembrii::Txt_KeyPress(int camp) {
@@ -194,22 +191,12 @@ void frmMembrii::Txt_KeyPress(int camp) {
     if (camp < 0 || camp > 2) return;
     const QString text = Txt[size_t(camp)]->text();
     std::optional<qint64> gasit;
-    try {
-        gasit = CautaInMembrii(bd_, campuri[camp], text, m_);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+    if (!LaMargine(m_, [&] { gasit = CautaInMembrii(bd_, campuri[camp], text, m_); })) return;
     if (!gasit) return;
     // A person added after the list was read: the list is read again to show it.
     std::optional<int> rand = model_->Rand(*gasit);
     if (!rand) {
-        try {
-            model_->Citeste();
-        } catch (const Eroare& e) {
-            m_.Critic(e.text());
-            return;
-        }
+        if (!LaMargine(m_, [&] { model_->Citeste(); })) return;
         rand = model_->Rand(*gasit);
         if (!rand) return;
     }

@@ -1,9 +1,9 @@
 #include "reference/UiListe.h"
 
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
 #include "ui/UiButoane.h"
+#include "ui/UiMargine.h"
 
 #include <QDialog>
 #include <QHBoxLayout>
@@ -70,12 +70,7 @@ QTreeWidgetItem* RandAles(QTreeWidget* l, Mesaje& m, const QString& faraSelectie
 
 bool RecitesteRandul(QTreeWidget* l, QTreeWidgetItem* r, Mesaje& m, const std::function<bool(qint64)>& citeste) {
     bool exista = false;
-    try {
-        exista = citeste(r->data(0, Qt::UserRole).toLongLong());
-    } catch (const Eroare& e) {
-        m.Critic(e.text());
-        return false;
-    }
+    if (!LaMargine(m, [&] { exista = citeste(r->data(0, Qt::UserRole).toLongLong()); })) return false;
     if (!exista) {
         m.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
         StergeRand(l, r);
@@ -102,7 +97,7 @@ QHBoxLayout* RandComenziLista(QDialog* d, QTreeWidget* l, QPushButton*& adauga, 
 bool ScrieRandLista(BazaDate& bd, Mesaje& m, QLineEdit* denumire,
                     const std::function<std::optional<QString>()>& verifica, const std::function<bool()>& scrie) {
     if (!VerificaBD(bd, m)) return false;
-    try {
+    return LaMargine(m, [&] {
         if (const auto refuz = verifica()) {
             m.Informatie(*refuz);
             denumire->setFocus();
@@ -113,9 +108,6 @@ bool ScrieRandLista(BazaDate& bd, Mesaje& m, QLineEdit* denumire,
             m.Informatie(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
             return false;
         }
-    } catch (const Eroare& e) {
-        m.Critic(e.text());
-        return false;
-    }
-    return true;
+        return true;
+    });
 }

@@ -1,12 +1,12 @@
 #include "reference/frmChLunaAn.h"
 
-#include "base/Eroare.h"
 #include "reference/LunaLucru.h"
 #include "base/Mesaje.h"
 #include "store/Program.h"
 #include "base/ServiciuFisiere.h"
 #include "base/Setari.h"
 #include "ui/UiButoane.h"
+#include "ui/UiMargine.h"
 #include "base/Val.h"
 
 #include <QFormLayout>
@@ -29,10 +29,10 @@ frmChLunaAn::frmChLunaAn(Program& p, Mesaje& m, QWidget* parinte) : QDialog(pari
 }
 
 void frmChLunaAn::cmdOK_Click() {
-    try {
+    const bool scrisa = LaMargine(m_, [&] {
         if (const auto refuz = LunaLucru::Verifica(p_.bd, txtLuna->text(), txtAn->text())) {
             m_.Informatie(*refuz);
-            return;
+            return false;
         }
         const int luna = int(Val(txtLuna->text()));
         const int an = int(Val(txtAn->text()));
@@ -42,9 +42,8 @@ void frmChLunaAn::cmdOK_Click() {
                                   QString::number(an));
         p_.setari.LunaSetata = luna;
         p_.setari.AnSetat = an;
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+        return true;
+    });
+    if (!scrisa) return;
     accept();
 }

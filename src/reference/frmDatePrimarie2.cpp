@@ -1,9 +1,9 @@
 #include "reference/frmDatePrimarie2.h"
 
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
 #include "ui/UiButoane.h"
+#include "ui/UiMargine.h"
 
 #include <QComboBox>
 #include <QCompleter>
@@ -81,16 +81,14 @@ frmDatePrimarie2::frmDatePrimarie2(BazaDate& bd, Mesaje& m, QWidget* parinte) : 
     forma->addRow(RandOkRenunta(
         this, cmdOK, cmdCancel, [this] { cmdOK_Click(); }, EnterOK::Focalizat));
 
-    try {
+    LaMargine(m_, [&] {
         txtText[Judet]->setCompleter(ListaAjutatoare(Judete(bd_), this));
         txtText[Localitate]->setCompleter(ListaAjutatoare(Localitati(bd_), this));
         cbo->addItem(QStringLiteral("Comuna"), 1);
         cbo->addItem(QStringLiteral("Oras"), 2);
         cbo->addItem(QStringLiteral("Municipiu"), 3);
         InControale(CitesteDatePrimarie(bd_));
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
 }
 
 DatePrimarie frmDatePrimarie2::DinControale() const {
@@ -119,15 +117,14 @@ void frmDatePrimarie2::cmdOK_Click() {
         Control(refuz->control)->setFocus();
         return;
     }
-    try {
+    const bool salvate = LaMargine(m_, [&] {
         if (const auto refuz = SalveazaDatePrimarie(bd_, d)) {
             m_.Informatie(*refuz);
-            return;
+            return false;
         }
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+        return true;
+    });
+    if (!salvate) return;
     accept();
 }
 

@@ -1,10 +1,10 @@
 #include "reference/frmMotive.h"
 
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
 #include "reference/UiListe.h"
 #include "reference/frmAdMotive.h"
+#include "ui/UiMargine.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -31,12 +31,10 @@ frmMotive::frmMotive(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(parint
         RandComenziLista(this, lvwMotive, cmdAdd, cmdEdit, cmdDelete, cmdClose,
                          {[this] { cmdAdd_Click(); }, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); }}));
 
-    try {
+    LaMargine(m_, [&] {
         for (const Motiv& mt : Motive(bd_))
             lvwMotive->addTopLevelItem(new RandLista(mt.MotivID, {mt.Denumire}));
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
     LatimiColoane(lvwMotive);
     if (lvwMotive->topLevelItemCount() > 0) lvwMotive->setCurrentItem(lvwMotive->topLevelItem(0));
     resize(440, 360);
@@ -65,14 +63,13 @@ void frmMotive::cmdDelete_Click() {
     std::optional<Motiv> mt;
     if (!RecitesteRandul(lvwMotive, r, m_, [&](qint64 cheie) { return (mt = CitesteMotiv(bd_, cheie)).has_value(); }))
         return;
-    try {
+    const bool sters = LaMargine(m_, [&] {
         if (!m_.Intrebare(QStringLiteral("Sigur doriti sa stergeti Motivul ") + mt->Denumire + QStringLiteral(" ?"), {},
                           false))
-            return;
+            return false;
         StergeMotiv(bd_, mt->MotivID);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+        return true;
+    });
+    if (!sters) return;
     StergeRand(lvwMotive, r);
 }

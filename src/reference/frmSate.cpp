@@ -1,10 +1,10 @@
 #include "reference/frmSate.h"
 
-#include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
 #include "reference/UiListe.h"
 #include "reference/frmAdSate.h"
+#include "ui/UiMargine.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -26,15 +26,13 @@ frmSate::frmSate(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(parinte), 
         RandComenziLista(this, lvwSate, cmdAdd, cmdEdit, cmdDelete, cmdClose,
                          {[this] { cmdAdd_Click(); }, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); }}));
 
-    try {
+    LaMargine(m_, [&] {
         for (const Strada& s : Strazi(bd_)) {
             auto* r = new RandLista(s.StradaID, {});
             ScrieRand(r, s);
             lvwSate->addTopLevelItem(r);
         }
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-    }
+    });
     LatimiColoane(lvwSate);
     if (lvwSate->topLevelItemCount() > 0) lvwSate->setCurrentItem(lvwSate->topLevelItem(0));
     resize(560, 400);
@@ -72,20 +70,19 @@ void frmSate::cmdDelete_Click() {
     std::optional<Strada> s;
     if (!RecitesteRandul(lvwSate, r, m_, [&](qint64 cheie) { return (s = CitesteStrada(bd_, cheie)).has_value(); }))
         return;
-    try {
+    const bool stearsa = LaMargine(m_, [&] {
         if (StradaFolosita(bd_, s->Denumire)) {
             m_.Informatie(QStringLiteral("Strada / satul ") + s->Denumire +
                           QStringLiteral(" nu poate fi sters pentru ca face parte din cel putin o cerere"));
-            return;
+            return false;
         }
         if (!m_.Intrebare(QStringLiteral("Sigur doriti sa stergeti datele satului/strazii ") + s->Denumire +
                               QStringLiteral(" ?"),
                           {}, false))
-            return;
+            return false;
         StergeStrada(bd_, s->StradaID);
-    } catch (const Eroare& e) {
-        m_.Critic(e.text());
-        return;
-    }
+        return true;
+    });
+    if (!stearsa) return;
     StergeRand(lvwSate, r);
 }
