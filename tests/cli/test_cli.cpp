@@ -1,43 +1,141 @@
-#include "cli/CliTest.h"
+#include "cli/ComenziCli.h"
+#include "documents/web/PunteWebTest.h"
 #include "support/BazaTest.h"
 
-#include <QDir>
-#include <QFile>
+#include <QRegularExpression>
+#include <QTextStream>
+
+// One run of each command on both engines; what the commands compute is tested in core.
 
 namespace {
 
-class Cli : public TestCli {};
+// What one run of the command-line tool returned and wrote.
+struct IesireCli {
+    int cod;
+    QString out, err;
+};
 
-TEST_P(Cli, InitApoiUpgradeFaraSchimbari) {
-    const IesireCli init = Ruleaza(QStringList{QStringLiteral("init")});
-    ASSERT_EQ(init.cod, 0) << init.err.toStdString();
-    EXPECT_TRUE(init.out.contains(QStringLiteral("Baza de date a fost creata")));
-    for (const char* f : {"venituri.txt", "bife.txt", "acte.txt"})
-        EXPECT_TRUE(QFile::exists(QDir(Locatie().caleBD).filePath(QString::fromLatin1(f)))) << f;
-
-    const IesireCli upgrade = Ruleaza(QStringList{QStringLiteral("upgrade")});
-    EXPECT_EQ(upgrade.cod, 0) << upgrade.err.toStdString();
-    EXPECT_EQ(upgrade.out, QString());
-    EXPECT_EQ(upgrade.err, QString());
-
-    const IesireCli iar = Ruleaza(QStringList{QStringLiteral("init")});
-    EXPECT_EQ(iar.cod, 1);
-    EXPECT_TRUE(iar.err.startsWith(QStringLiteral("Exista deja o baza de date"))) << iar.err.toStdString();
+IesireCli RuleazaLinie(QStringList argumente) {
+    QString out, err;
+    QTextStream o(&out), e(&err);
+    const int cod = RuleazaCli(QStringList{T("ferolanta-cli")} + argumente, o, e);
+    return {cod, out, err};
 }
 
-TEST_P(Cli, UpgradeSpuneCeSchimbaSiEsueazaCuCatalogLipsa) {
-    ASSERT_EQ(Ruleaza(QStringList{QStringLiteral("init")}).cod, 0);
-    {
-        auto db = BazaDate::Deschide(Locatie());
-        db->Executa(QStringLiteral("DELETE FROM ListaActe WHERE NrAct = 28"));
-        db->Executa(QStringLiteral("DELETE FROM DateGen WHERE Tip = 34 AND DataID = 4"));
+class Cli : public TestBaza {
+protected:
+    // The command, given as one line, run on the test's database.
+    IesireCli Ruleaza(const QString& linie) const {
+        QStringList a = linie.split(u' ', Qt::SkipEmptyParts) << T("--dir") << Locatie().caleBD;
+        if (!Locatie().url.isEmpty()) a << T("--db") << Locatie().url;
+        return RuleazaLinie(a);
     }
-    QFile::remove(QDir(Locatie().caleBD).filePath(QStringLiteral("acte.txt")));
-    const IesireCli r = Ruleaza(QStringList{QStringLiteral("upgrade")});
-    EXPECT_EQ(r.cod, 1);
-    EXPECT_TRUE(r.out.contains(QStringLiteral("DateGen: adaugat Tip 34 DataID 4 EURO"))) << r.out.toStdString();
-    EXPECT_TRUE(r.out.contains(QStringLiteral("In tabela Acte exista 27 randuri")));
-    EXPECT_TRUE(r.err.contains(QStringLiteral("Fisierul acte.txt nu exista in"))) << r.err.toStdString();
+    void SetUp() override {
+        TestBaza::SetUp();
+        if (IsSkipped()) return;
+        const IesireCli init = Ruleaza(T("init"));
+        ASSERT_EQ(init.cod, 0) << init.err.toStdString();
+        ASSERT_TRUE(iesiri.isValid());
+    }
+    void TearDown() override {
+        if (!folderInitial.isEmpty()) QDir::setCurrent(folderInitial);
+        TestBaza::TearDown();
+    }
+    QString In(const char* nume) const { return iesiri.filePath(QString::fromLatin1(nume)); }
+
+    QTemporaryDir iesiri;
+    QString folderInitial;
+};
+
+TEST_P(Cli, InitUpgradeSiDemo) {
+    EXPECT_TRUE(QFile::exists(QDir(Locatie().caleBD).filePath(T("bife.txt"))));
+    const IesireCli iar = Ruleaza(T("init"));
+    EXPECT_EQ(iar.cod, 1);
+    EXPECT_FALSE(iar.err.isEmpty());
+
+    const IesireCli nimic = Ruleaza(T("upgrade"));
+    EXPECT_EQ(nimic.cod, 0) << nimic.err.toStdString();
+    EXPECT_EQ(nimic.out + nimic.err, QString()) << "nothing to do, nothing said";
+    Redeschide();
+    Bd().Executa(T("DELETE FROM DateGen WHERE Tip = 34 AND DataID = 4"));
+    Bd().Executa(T("DELETE FROM ListaActe WHERE NrAct = 28"));
+    QFile::remove(QDir(Locatie().caleBD).filePath(T("acte.txt")));
+    const IesireCli upgrade = Ruleaza(T("upgrade"));
+    EXPECT_EQ(upgrade.cod, 1) << "a catalog could not be reloaded";
+    EXPECT_TRUE(upgrade.out.contains(T("DateGen"))) << "each change on its line";
+    EXPECT_TRUE(upgrade.err.contains(T("acte.txt"))) << upgrade.err.toStdString();
+
+    const IesireCli demo = Ruleaza(T("demo --cereri 12 --seed 3"));
+    EXPECT_EQ(demo.cod, 0) << demo.err.toStdString();
+    EXPECT_TRUE(demo.out.contains(T("12 cereri adaugate"))) << demo.out.toStdString();
+    EXPECT_EQ(Numar(T("SELECT COUNT(*) FROM Cereri")), 12);
+}
+
+// The amount of a stored request in the working month: --luna and --an, else the settings file of --dir,
+// else today's month.
+TEST_P(Cli, CuantumInLunaDeLucru) {
+    Redeschide();
+    ScriePrimarie(Bd(), PrimarieA());
+    ScrieCerere(Bd(), CerereA());
+    ExecutaCu(Bd(), T("UPDATE Cereri SET DataStare = ?"), QDate(2015, 3, 1));
+    // The children turn 18 in March 2015: counted then, not in today's month.
+    ExecutaCu(Bd(), T("UPDATE CereriMembrii SET Data18Ani = ? WHERE RudenieID IN (3, 6)"), QDate(2015, 3, 15));
+    const IesireCli r = Ruleaza(T("cuantum 7 --luna 3 --an 2015"));
+    EXPECT_EQ(r.cod, 0) << r.err.toStdString();
+    EXPECT_TRUE(QRegularExpression(T("^NrCopii=\\d+ Cuantum=\\d+\\.\\d{4}\n$")).match(r.out).hasMatch())
+        << r.out.toStdString();
+    EXPECT_NE(Ruleaza(T("cuantum 7")).out, r.out) << "today's month";
+    ScrieText(QDir(Locatie().caleBD).filePath(T("setari207.ini")), T("[Setari]\r\nLunaSetata=3\r\nAnSetat=2015\r\n"));
+    EXPECT_EQ(Ruleaza(T("cuantum 7")).out, r.out) << "the settings' month";
+    const IesireCli lipsa = Ruleaza(T("cuantum 2"));
+    EXPECT_EQ(lipsa.cod, 1);
+    EXPECT_EQ(lipsa.out, QString());
+    EXPECT_TRUE(lipsa.err.contains(u'2')) << lipsa.err.toStdString();
+}
+
+// A document goes to its fixed name in the current folder; a failure writes nothing.
+TEST_P(Cli, DocumentScrisSauNimic) {
+    Redeschide();
+    ScriePrimarie(Bd(), PrimarieA());
+    ScrieCerere(Bd(), CerereA());
+    ScrieDispozitie(Bd(), DispozitieA());
+    folderInitial = QDir::currentPath();
+    QDir::setCurrent(iesiri.path());
+    const IesireCli d = Ruleaza(T("document dispozitie 3"));
+    ASSERT_EQ(d.cod, 0) << d.err.toStdString();
+    EXPECT_TRUE(d.out.contains(QDir::toNativeSeparators(In("Disp.rtf")))) << d.out.toStdString();
+    EXPECT_TRUE(CitesteTot(In("Disp.rtf")).contains("1850312410015"));
+    QFile::remove(In("Disp.rtf"));
+    const IesireCli lipsa = Ruleaza(T("document declaratie 3"));
+    EXPECT_EQ(lipsa.cod, 1);
+    EXPECT_FALSE(lipsa.err.isEmpty());
+    EXPECT_TRUE(QDir(iesiri.path()).isEmpty());
+}
+
+// The data beside a copy of the page in --out, the address on stdout; a failure leaves --out as it was.
+TEST_P(Cli, WebScrieDateleLangaPagina) {
+    Redeschide();
+    ScrieDosarWeb(Bd());
+    ScrieText(QDir(Locatie().caleBD).filePath(T("setari207.ini")),
+              T("[Generale]\nDataCerereTiparita=2\nNrCerereTiparita=1\nServerCerere=https://alt.ro/\n"));
+    const QString folder = In("formulare");
+    const IesireCli r = Ruleaza(T("web cerere_1a 7 --out ") + folder);
+    ASSERT_EQ(r.cod, 0) << r.err.toStdString();
+    const QString pagina = QDir(folder).filePath(PunteWeb::Pagina);
+    QUrl asteptat = QUrl::fromLocalFile(pagina);
+    asteptat.setFragment(PunteWeb::DocCerere1a);
+    EXPECT_EQ(r.out, asteptat.toString() + u'\n');
+    EXPECT_EQ(CitesteText(pagina), CitesteText(SursaPagina));
+    const QString date = CitesteText(QDir(folder).filePath(PunteWeb::FisierDate));
+    EXPECT_TRUE(date.startsWith(T("SETARI_INI='dct:2;nct:1;';\n") +
+                                PunteWeb::LiniePrefix(PunteWeb::DocCerere1a, T("https://alt.ro/"))))
+        << date.left(200).toStdString();
+    EXPECT_EQ(CitesteJson(JsonDinFisier(date)).at(0).at(0).at(T("cnp")), QString::fromLatin1(CnpTitular));
+
+    const IesireCli lipsa = Ruleaza(T("web cerere 404 --out ") + In("nou"));
+    EXPECT_EQ(lipsa.cod, 1);
+    EXPECT_TRUE(lipsa.out.isEmpty());
+    EXPECT_FALSE(QFileInfo::exists(In("nou")));
 }
 
 PE_AMBELE_MOTOARE(Cli);
@@ -45,85 +143,42 @@ PE_AMBELE_MOTOARE(Cli);
 // Each wrong command line gives code 2, one line of usage on the error stream, nothing on the
 // other, and creates nothing in the folder it names (DIR).
 TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
-    const char* general = "utilizare: ferolanta-cli";
-    const char* cuantum = "cuantum ID [--luna L --an A]";
-    const struct {
-        const char* linie;
-        const char* utilizare;
-    } cazuri[] = {
-        {"", general},
-        {"sterge-tot", general},
-        {"init --necunoscut", general},
-        {"demo", general},
-        {"demo --cereri multe", general},
-        {"demo --cereri -5", general},
-        {"demo --cereri 99999999999", general},
-        {"demo --cereri 10000001", general},
-        {"demo --cereri 5 --seed 99999999999999999999", general},
-        {"cuantum 5 --luna 2 --an 2101 --dir DIR", cuantum},
-        {"init --seed 3", general},
-        {"init upgrade", general},
-        {"cuantum --dir DIR", cuantum},
-        {"cuantum abc --dir DIR", cuantum},
-        {"cuantum 0 --dir DIR", cuantum},
-        {"cuantum -3 --dir DIR", cuantum},
-        {"cuantum 5 6 --dir DIR", cuantum},
-        {"cuantum 5 --luna 3 --dir DIR", cuantum},
-        {"cuantum 5 --luna 13 --an 2015 --dir DIR", cuantum},
-        {"cuantum 5 --luna 0 --an 2015 --dir DIR", cuantum},
-        {"cuantum 5 --luna 2 --an 20x5 --dir DIR", cuantum},
-        {"cuantum 5 --cereri 3 --dir DIR", cuantum},
-        {"init --luna 3 --an 2015 --dir DIR", cuantum},
-        {"document", general},
-        {"document dispozitie", general},
-        {"document anexa 3", general},
-        {"document fisa x", general},
-        {"document fisa 0", general},
-        {"document fisa 3 4", general},
-        {"document dispozitie 3 --data 01.01.2025", general},
-        {"document fisa 3 --data 31.02.2025", general},
-        {"init --out x.rtf", general},
-        {"web", general},
-        {"web cerere", general},
-        {"web dispozitie 3", general},
-        {"web cerere -1", general},
-        {"web cerere x", general},
-        {"web cerere 3 4", general},
-        {"web cerere 3 --sablon a.rtf", general},
-        {"upgrade --out x", general},
-    };
+    // clang-format off
+    const char* linii[] = {
+        "", "sterge-tot", "init --necunoscut", "init upgrade", "init --seed 3", "init --out x.rtf", "upgrade --out x",
+        "demo", "demo --cereri multe", "demo --cereri -5", "demo --cereri 10000001",
+        "demo --cereri 5 --seed 99999999999999999999", "cuantum --dir DIR", "cuantum 0 --dir DIR",
+        "cuantum 5 6 --dir DIR", "cuantum 5 --luna 3 --dir DIR", "cuantum 5 --luna 13 --an 2015 --dir DIR",
+        "cuantum 5 --luna 2 --an 2101 --dir DIR", "cuantum 5 --cereri 3 --dir DIR", "document", "document dispozitie",
+        "document anexa 3", "document fisa x", "document fisa 3 4", "document dispozitie 3 --data 01.01.2025",
+        "document fisa 3 --data 31.02.2025", "web", "web cerere", "web dispozitie 3", "web cerere -1",
+        "web cerere 3 --sablon a.rtf"};
+    // clang-format on
     QTemporaryDir dir;
-    for (const auto& c : cazuri) {
-        SCOPED_TRACE(c.linie);
+    for (const char* linie : linii) {
         const IesireCli r = RuleazaLinie(
-            QString::fromLatin1(c.linie).replace(QLatin1String("DIR"), dir.path()).split(u' ', Qt::SkipEmptyParts));
-        EXPECT_EQ(r.cod, 2);
-        EXPECT_EQ(r.err.count(QLatin1Char('\n')), 1) << r.err.toStdString();
-        EXPECT_TRUE(r.err.contains(QLatin1String(c.utilizare))) << r.err.toStdString();
-        EXPECT_TRUE(r.out.isEmpty()) << r.out.toStdString();
+            QString::fromLatin1(linie).replace(QLatin1String("DIR"), dir.path()).split(u' ', Qt::SkipEmptyParts));
+        EXPECT_EQ(r.cod, 2) << linie;
+        EXPECT_EQ(r.err.count(u'\n'), 1) << linie << ": " << r.err.toStdString();
+        EXPECT_TRUE(r.err.contains(QLatin1String("utilizare: ferolanta-cli"))) << linie;
+        EXPECT_TRUE(r.out.isEmpty()) << linie << ": " << r.out.toStdString();
     }
     EXPECT_TRUE(QDir(dir.path()).isEmpty()) << "nothing created for bad arguments";
 }
 
-TEST(CliArgumente, FolderLipsaSauFisierStraindauCodul1) {
+TEST(CliArgumente, FolderLipsaSauFisierStrainDauCodul1) {
     QTemporaryDir dir;
-    const IesireCli lipsa =
-        RuleazaLinie({QStringLiteral("init"), QStringLiteral("--dir"), dir.filePath(QStringLiteral("nu-exista"))});
+    const IesireCli lipsa = RuleazaLinie({T("init"), T("--dir"), dir.filePath(T("nu-exista"))});
     EXPECT_EQ(lipsa.cod, 1);
-    EXPECT_TRUE(lipsa.err.contains(QStringLiteral("nu-exista"))) << lipsa.err.toStdString();
-
-    QFile f(QDir(dir.path()).filePath(QStringLiteral("Ferolanta.db")));
+    EXPECT_TRUE(lipsa.err.contains(T("nu-exista"))) << lipsa.err.toStdString();
+    QFile f(QDir(dir.path()).filePath(T("Ferolanta.db")));
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.write("acesta nu este un fisier SQLite, ci o scrisoare\n");
     f.close();
-    const IesireCli strain = RuleazaLinie({QStringLiteral("upgrade"), QStringLiteral("--dir"), dir.path()});
+    const IesireCli strain = RuleazaLinie({T("upgrade"), T("--dir"), dir.path()});
     EXPECT_EQ(strain.cod, 1);
-    EXPECT_TRUE(strain.err.contains(QStringLiteral("Ferolanta.db"))) << strain.err.toStdString();
+    EXPECT_TRUE(strain.err.contains(T("Ferolanta.db"))) << strain.err.toStdString();
     EXPECT_EQ(f.size(), 48) << "the foreign file is left as it was";
-
-    const IesireCli faraBaza =
-        RuleazaLinie({QStringLiteral("upgrade"), QStringLiteral("--dir"), dir.filePath(QStringLiteral("gol"))});
-    EXPECT_EQ(faraBaza.cod, 1);
 }
 
 } // namespace

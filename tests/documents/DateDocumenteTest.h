@@ -95,29 +95,15 @@ inline PrimarieTest PrimarieA() {
 
 // Request 7: a father with one child (and the rest of the household for the declaration).
 inline CerereDocTest CerereA() {
-    CerereDocTest c;
-    c.CerereID = 7;
-    c.NrCerere = 125;
-    c.DataCerere = QDate(2015, 2, 10);
-    c.TipCerere = 1;
-    c.NrMembrii = 3;
-    c.NrCopii = 1;
-    c.VenitTotal = Suma("1200.5");
-    c.VenitpeMembru = QVariant();
-    c.Cuantum = Suma("82");
-    c.MotivStare = T("Motiv din cerere");
-    c.Judet = T("Ilfov");
-    c.Localitate = T("Brănești");
-    c.Strada = T("Florilor");
-    c.Nr = T("12");
-    c.Sc = T("B");
-    c.Ap = T("4");
-    c.Persoane = {{70, T("Popa"), T("Vasile"), T("1850312410015"), 1, 1, QVariant()},
-                  {71, T("Popa"), T("Ioana"), T("2870506410021"), 2, 99, 3},
-                  {72, T("Popa"), T("Mihai"), T("5100203410034"), 3, QVariant(), 3},
-                  {73, T("Ionescu"), T("Dan"), T("5120808410047"), 6, 8, QVariant()},
-                  {74, T("Popa"), T("Gheorghe"), T("1500101410055"), 4, QVariant(), 2}};
-    return c;
+    // clang-format off
+    return {7, 125, QDate(2015, 2, 10), 1, 3, 1, Suma("1200.5"), QVariant(), Suma("82"), T("Motiv din cerere"),
+            T("Ilfov"), T("Brănești"), T("Florilor"), T("12"), T("B"), T("4"),
+            {{70, T("Popa"), T("Vasile"), T("1850312410015"), 1, 1, QVariant()},
+             {71, T("Popa"), T("Ioana"), T("2870506410021"), 2, 99, 3},
+             {72, T("Popa"), T("Mihai"), T("5100203410034"), 3, QVariant(), 3},
+             {73, T("Ionescu"), T("Dan"), T("5120808410047"), 6, 8, QVariant()},
+             {74, T("Popa"), T("Gheorghe"), T("1500101410055"), 4, QVariant(), 2}}};
+    // clang-format on
 }
 
 inline DispozitieTest DispozitieA() {
@@ -131,25 +117,11 @@ inline PrimarieTest PrimarieB() {
 
 // Request 8: a single mother of five.
 inline CerereDocTest CerereB() {
-    CerereDocTest c;
-    c.CerereID = 8;
-    c.NrCerere = 9;
-    c.DataCerere = QDate(2016, 5, 3);
-    c.TipCerere = 2;
-    c.NrMembrii = 6;
-    c.NrCopii = 5;
-    c.VenitTotal = Suma("300");
-    c.VenitpeMembru = Suma("50");
-    c.Cuantum = Suma("428");
-    c.MotivStare = T("Mutare în localitate");
-    c.Judet = T("Cluj");
-    c.Localitate = T("fizeșu gherlii");
-    c.Strada = T("LIBERTĂȚII");
-    c.Nr = T("3");
-    c.Sc = QVariant();
-    c.Ap = T("");
-    c.Persoane = {{80, T("MUREȘAN"), T("ana-maria"), T("2900715123456"), 1, 4, QVariant()}};
-    return c;
+    // clang-format off
+    return {8, 9, QDate(2016, 5, 3), 2, 6, 5, Suma("300"), Suma("50"), Suma("428"), T("Mutare în localitate"),
+            T("Cluj"), T("fizeșu gherlii"), T("LIBERTĂȚII"), T("3"), QVariant(), T(""),
+            {{80, T("MUREȘAN"), T("ana-maria"), T("2900715123456"), 1, 4, QVariant()}}};
+    // clang-format on
 }
 
 inline DispozitieTest DispozitieB() {
