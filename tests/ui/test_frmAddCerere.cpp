@@ -112,9 +112,8 @@ TEST_P(FormaCerere, DeschideSalveazaSiRenunta) {
     f->cmdOK->click();
     EXPECT_TRUE(f->ESTE_OK) << mesaje.Texte().join(u'|').toStdString();
     EXPECT_NE(f->CerereID(), cerereID);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE CerereID = ?"),
-                           f->CerereID()),
-              1);
+    EXPECT_EQ(
+        NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE CerereID = ?"), f->CerereID()), 1);
 }
 
 PE_AMBELE_MOTOARE(FormaCerere);

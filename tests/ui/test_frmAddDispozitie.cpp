@@ -51,9 +51,9 @@ TEST_P(FormaDispozitii, DispozitiaDeschideSalveazaSiRenunta) {
     g.txtDispoz[0]->setText(QStringLiteral("78"));
     g.cmdOK->click();
     ASSERT_TRUE(g.ESTE_OK);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT NrDisp FROM Dispozitii WHERE DispozitieID = ?"),
-                           f.DispozitieID()),
-              78);
+    EXPECT_EQ(
+        NumarRanduri(Bd(), QStringLiteral("SELECT NrDisp FROM Dispozitii WHERE DispozitieID = ?"), f.DispozitieID()),
+        78);
 }
 
 // The bulk generation and the choice of what to print, from the working month.

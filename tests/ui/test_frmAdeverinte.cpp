@@ -63,7 +63,8 @@ TEST_P(ListeDosar, AdeverinteleScolare) {
     };
     f.cmdEdit->click();
     EXPECT_EQ(l->currentItem()->text(0), nou);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Adeverinte WHERE AdevID = ? AND NrAdev = 'S-100'"),
+    EXPECT_EQ(NumarRanduri(Bd(),
+                           QStringLiteral("SELECT COUNT(*) FROM Adeverinte WHERE AdevID = ? AND NrAdev = 'S-100'"),
                            nou.toLongLong()),
               1);
 

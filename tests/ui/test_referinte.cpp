@@ -1,3 +1,4 @@
+#include "base/ServiciuFisiere.h"
 #include "reference/DateReferinta.h"
 #include "reference/frmAdMotive.h"
 #include "reference/frmAdSate.h"
@@ -5,7 +6,6 @@
 #include "reference/frmDatePrimarie2.h"
 #include "reference/frmMotive.h"
 #include "reference/frmSate.h"
-#include "base/ServiciuFisiere.h"
 #include "store/Program.h"
 #include "ui/FormaDosar.h"
 #include "ui/UiFormular.h"
