@@ -213,3 +213,30 @@ TEST_P(Lista, TitlulSiTextulRezultatului) {
 PE_AMBELE_MOTOARE(Lista);
 
 } // namespace
+
+// The list's model: a column sorts by its text whatever the case, and a row the rules mark red is
+// drawn red in every column.
+#include "cases/ModelCereri.h"
+
+#include <QBrush>
+
+namespace {
+
+TEST_P(Lista, ModelulSorteazaFaraMajusculeSiColoreazaRandurileRosii) {
+    ModelCereri m;
+    m.Seteaza(ListaCereri::Cauta(Bd(), {}));
+    m.sort(ModelCereri::Solicitant);
+    QStringList solicitanti;
+    int rosii = 0;
+    for (int i = 0; i < m.rowCount(); ++i) {
+        rosii += m.Rand(i)->Rosu();
+        solicitanti << m.index(i, ModelCereri::Solicitant).data().toString();
+        const QVariant culoare = m.index(i, ModelCereri::Adresa).data(Qt::ForegroundRole);
+        EXPECT_EQ(culoare.isValid() && culoare.value<QBrush>().color() == QColor(255, 0, 0), m.Rand(i)->Rosu()) << i;
+    }
+    EXPECT_EQ(solicitanti, (QStringList{QStringLiteral("Ionescu Vasile"), QStringLiteral("popa Maria"),
+                                        QStringLiteral("Popescu Ion")}));
+    EXPECT_EQ(rosii, 2);
+}
+
+} // namespace

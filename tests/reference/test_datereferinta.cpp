@@ -116,3 +116,23 @@ TEST_P(Referinte, DatelePrimarieiPrimulCampGolApoiUnSingurRandRescris) {
 PE_AMBELE_MOTOARE(Referinte);
 
 } // namespace
+
+// The working month: a month 1-12 and a year 2008-2500 that the payment calendar holds.
+#include "reference/LunaLucru.h"
+
+namespace {
+
+TEST_P(Referinte, LunaDeLucruTrebuieSaFieInCalendar) {
+    const struct {
+        const char *luna, *an, *refuz;
+    } cazuri[] = {
+        {"13", "2013", "Luna incorecta!"}, {"0", "2024", "Luna incorecta!"},        {"5", "2007", "An incorect!"},
+        {"5", "2501", "An incorect!"},     {"5", "2012", "An sau Luna incorecta!"}, {"12", "2013", nullptr},
+    };
+    for (const auto& c : cazuri)
+        EXPECT_EQ(LunaLucru::Verifica(Bd(), QString::fromLatin1(c.luna), QString::fromLatin1(c.an)),
+                  c.refuz ? std::optional<QString>(QString::fromLatin1(c.refuz)) : std::nullopt)
+            << c.luna << "/" << c.an;
+}
+
+} // namespace
