@@ -8,18 +8,10 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-// Readable dates in failure messages.
-static void PrintTo(const QDate& d, std::ostream* os) {
-    *os << (d.isValid() ? d.toString(Qt::ISODate).toStdString() : std::string("(fara data)"));
-}
-
 namespace {
-
-using Fel = Mesaje::Fel;
 
 const QString Valabil = QStringLiteral("valabilitate 6 luni");
 const QString Incetata = QStringLiteral("Cererea este INCETATA!");
-const QString FaraCopii = QStringLiteral("nu mai exista nici un copil");
 
 // A CNP born on that day: the century digit of a man, then YYMMDD; the rest is not read here.
 QString Cnp(const QDate& nastere, int n) {
@@ -28,8 +20,8 @@ QString Cnp(const QDate& nastere, int n) {
            QLatin1Char('7');
 }
 
-// The fields of an inquiry, as text.
-QStringList Campuri(const Ancheta& x) {
+// The fields of an inquiry, as one text.
+QString Campuri(const Ancheta& x) {
     QStringList t{QString::number(x.AnchetaID),
                   QString::number(x.CerereID),
                   x.DataAncheta.toString(Qt::ISODate),
@@ -51,7 +43,7 @@ QStringList Campuri(const Ancheta& x) {
                   x.Aspecte};
     for (const auto& o : {x.TipLocuinta, x.RegimJuridic, x.TipLocuire, x.TipDetinere})
         t << QString::number(o.value_or(-1));
-    return t;
+    return t.join(u'|');
 }
 
 // A day past the month's end rolls into the next month.
@@ -77,8 +69,7 @@ protected:
     // A request with persons of those CNPs, the first the titular, the others children by relation.
     qint64 Cerere(qint64 id, const QStringList& cnpuri) {
         CerereTest c;
-        c.cerereID = id;
-        c.nrCerere = id;
+        c.cerereID = c.nrCerere = id;
         for (const QString& cnp : cnpuri) {
             const qint64 membru = id * 100 + c.persoane.size() + 1;
             c.persoane.push_back(
@@ -87,7 +78,6 @@ protected:
         AdaugaCerereTest(Bd(), c);
         return id;
     }
-    qint64 CerereCuUnCopil(qint64 id = 1) { return Cerere(id, {Cnp(QDate(1985, 3, 2), 1), Cnp(QDate(2014, 2, 3), 2)}); }
 
     // An inquiry that passes every check, on request cerereID, made on d.
     static Ancheta Completa(qint64 cerereID, const QDate& d, int nrCopii = 1) {
@@ -97,11 +87,9 @@ protected:
         a.Intocmitor = QStringLiteral("Ionescu Maria");
         a.NrMembrii = 2;
         a.NrCopii = nrCopii;
-        a.TipLocuinta = 3;
-        a.RegimJuridic = 1;
+        a.TipLocuinta = a.RegimJuridic = a.TipDetinere = 1;
         a.NrCamere = QStringLiteral("3");
         a.SuprUtila = QStringLiteral("54.5");
-        a.TipDetinere = 1;
         return a;
     }
 
@@ -113,92 +101,64 @@ protected:
 // can't be read is reported.
 TEST_P(AncheteBaza, CalculExpirareDupaVarstaCopiilor) {
     const QDate d(2024, 5, 10), l(2024, 11, 10);
-    const QDate adult(1985, 3, 2);
-    const auto cu = [&](const QDate& copil) { return QStringList{Cnp(adult, 1), Cnp(copil, 2)}; };
+    const auto cu = [&](const QDate& copil) { return QStringList{Cnp(QDate(1985, 3, 2), 1), Cnp(copil, 2)}; };
     const struct {
-        const char* nume;
         QDate d;
         QStringList cnpuri;
         int membri, copii;
         QDate expira;
         QString motiv;
-        QStringList mesaje; // a piece of each message
+        int mesaje;
     } cazuri[] = {
-        // clang-format off
-        {"un copil de 10 ani", d, cu(QDate(2014, 2, 3)), 2, 1, l, Valabil, {}},
-        {"fara minori", d, cu(QDate(2001, 1, 1)), 2, 0, {}, Incetata, {FaraCopii}},
-        {"doi copii si un adult", d, cu(QDate(2012, 6, 1)) << Cnp(QDate(2006, 7, 1), 3), 3, 2, l, Valabil, {}},
-        {"majoratul chiar la sfarsitul termenului", d, cu(QDate(2006, 11, 10)), 2, 1, {}, Incetata, {FaraCopii}},
-        {"majoratul a doua zi dupa termen", d, cu(QDate(2006, 11, 11)), 2, 1, l, Valabil, {}},
-        {"majoratul chiar in ziua anchetei", d, cu(QDate(2006, 5, 10)), 2, 0, {}, Incetata, {FaraCopii}},
-        {"31 august, apoi an bisect", QDate(2023, 8, 31), cu(QDate(2015, 1, 1)), 2, 1, QDate(2024, 3, 2), Valabil, {}},
-        {"luna necitita", d, {QStringLiteral("1851310400017"), Cnp(QDate(2014, 2, 3), 2)}, 2, 1, l, Valabil,
-         {QStringLiteral("Luna incorecta")}},
-        {"ziua necitita", d, {Cnp(adult, 1), QStringLiteral("5140232400027")}, 2, 0, {}, Incetata,
-         {QStringLiteral("Zi incorecta"), FaraCopii}},
-        {"CNP prea scurt", d, {QStringLiteral("123"), Cnp(QDate(2014, 2, 3), 2)}, 2, 1, l, Valabil, {}},
-        {"data goala nu calculeaza nimic", QDate(), cu(QDate(2014, 2, 3)), 0, 0, {}, {}, {}},
-        // clang-format on
+        {d, cu(QDate(2014, 2, 3)), 2, 1, l, Valabil, 0},
+        {d, cu(QDate(2001, 1, 1)), 2, 0, {}, Incetata, 1},
+        {d, cu(QDate(2012, 6, 1)) << Cnp(QDate(2006, 7, 1), 3), 3, 2, l, Valabil, 0},
+        {d, cu(QDate(2006, 11, 10)), 2, 1, {}, Incetata, 1}, // of age on the last day of the term
+        {d, cu(QDate(2006, 11, 11)), 2, 1, l, Valabil, 0},   // the day after
+        {d, cu(QDate(2006, 5, 10)), 2, 0, {}, Incetata, 1},  // on the day of the inquiry
+        {QDate(2023, 8, 31), cu(QDate(2015, 1, 1)), 2, 1, QDate(2024, 3, 2), Valabil, 0},
+        {d, {QStringLiteral("1851310400017"), Cnp(QDate(2014, 2, 3), 2)}, 2, 1, l, Valabil, 1}, // month 13
+        {d, {QStringLiteral("123"), Cnp(QDate(2014, 2, 3), 2)}, 2, 1, l, Valabil, 0},
+        {QDate(), cu(QDate(2014, 2, 3)), 0, 0, {}, {}, 0},
     };
     qint64 id = 1;
     for (const auto& c : cazuri) {
-        SCOPED_TRACE(c.nume);
+        SCOPED_TRACE(id);
         Cerere(id, c.cnpuri);
         mesaje.mesaje.clear();
         const Expirare e = Anchete::CalculExpirare(Bd(), id++, c.d, mesaje);
-        EXPECT_EQ(e.NrMembrii, c.membri);
-        EXPECT_EQ(e.NrCopii, c.copii);
+        EXPECT_EQ((std::array{e.NrMembrii, e.NrCopii, int(mesaje.mesaje.size())}),
+                  (std::array{c.membri, c.copii, c.mesaje}));
         EXPECT_EQ(e.DataExpirarii, c.expira);
         EXPECT_EQ(e.Motiv, c.motiv);
-        ASSERT_EQ(mesaje.Texte().size(), c.mesaje.size());
-        for (qsizetype i = 0; i < c.mesaje.size(); ++i)
-            EXPECT_TRUE(mesaje.Texte()[i].contains(c.mesaje[i])) << mesaje.Texte()[i].toStdString();
     }
 }
 
 // The checks of OK in order, each step mending what the one before refused; a child count other
-// than the request's only warns, before every check and also when all pass. On a change, an
-// inquiry gone is told before every other check and closes the editor.
+// than the request's only warns, also when all pass. On a change, an inquiry gone is told before
+// every other check and closes the editor; gone between the check and the save, it writes nothing.
 TEST_P(AncheteBaza, VerificaControaleInOrdine) {
-    const qint64 cerere = CerereCuUnCopil();
     Ancheta a;
-    a.CerereID = cerere;
-    const struct {
-        std::function<void(Ancheta&)> schimba;
-        const char* control;
-    } pasi[] = {
+    a.CerereID = Cerere(1, {Cnp(QDate(1985, 3, 2), 1), Cnp(QDate(2014, 2, 3), 2)});
+    const std::pair<std::function<void(Ancheta&)>, const char*> pasi[] = {
         {[](Ancheta&) {}, "dtpData"},
-        {[](Ancheta& x) { x.DataAncheta = QDate(2024, 5, 10); }, "dtpData"}, // no child: the inquiry makes no sense
-        {[](Ancheta& x) {
-             x.NrCopii = 1;
-             x.Intocmitor = QStringLiteral("  \t ");
-         },
-         "txtCerere_0"},
-        {[](Ancheta& x) {
-             x.Intocmitor = QStringLiteral("Ionescu Maria");
-             x.NrCamere = QStringLiteral(",5");
-         },
-         "txtCerere_1"},
-        {[](Ancheta& x) {
-             x.NrCamere = QStringLiteral(" 3");
-             x.SuprUtila = QStringLiteral("mp 54");
-         },
-         "txtCerere_2"},
+        {[](Ancheta& x) { x.DataAncheta = QDate(2024, 5, 10); }, "dtpData"}, // no child on the day
+        {[](Ancheta& x) { x.NrCopii = 1, x.Intocmitor = QStringLiteral("  \t "); }, "txtCerere_0"},
+        {[](Ancheta& x) { x.Intocmitor = QStringLiteral("Ion"), x.NrCamere = QStringLiteral(",5"); }, "txtCerere_1"},
+        {[](Ancheta& x) { x.NrCamere = QStringLiteral(" 3"), x.SuprUtila = QStringLiteral("mp 54"); }, "txtCerere_2"},
         {[](Ancheta& x) { x.SuprUtila = QStringLiteral("54,5"); }, "cboCerere_0"},
         {[](Ancheta& x) { x.TipLocuinta = 3; }, "cboCerere_1"},
         {[](Ancheta& x) { x.RegimJuridic = 1; }, "cboCerere_3"},
         {[](Ancheta& x) { x.TipDetinere = 2; }, ""},
     };
-    for (const auto& p : pasi) {
-        SCOPED_TRACE(p.control);
-        p.schimba(a);
+    for (const auto& [schimba, control] : pasi) {
+        schimba(a);
         mesaje.mesaje.clear();
         const VerificareAncheta v = Anchete::VerificaControale(Bd(), mesaje, a, ModAncheta::Adaugare, 2);
-        EXPECT_EQ(v.ok, !*p.control);
-        EXPECT_FALSE(v.inchide);
-        EXPECT_EQ(v.control, QLatin1String(p.control));
-        EXPECT_EQ(mesaje.Texte(Fel::Avertisment).size(), 1);
-        EXPECT_EQ(mesaje.Texte(Fel::Informatie).size(), *p.control ? 1 : 0);
+        EXPECT_EQ(v.ok, !*control) << control;
+        EXPECT_EQ(v.control, QLatin1String(control));
+        EXPECT_EQ(mesaje.Texte(Mesaje::Fel::Avertisment).size(), 1) << control;
+        EXPECT_EQ(mesaje.Texte(Mesaje::Fel::Informatie).size(), *control ? 1 : 0) << control;
     }
     mesaje.mesaje.clear();
     EXPECT_TRUE(Anchete::VerificaControale(Bd(), mesaje, a, ModAncheta::Adaugare, 1).ok);
@@ -211,10 +171,8 @@ TEST_P(AncheteBaza, VerificaControaleInOrdine) {
     alta.Intocmitor.clear();
     mesaje.mesaje.clear();
     const VerificareAncheta v = Anchete::VerificaControale(Bd(), mesaje, alta, ModAncheta::Modificare, 2);
-    EXPECT_FALSE(v.ok);
-    EXPECT_TRUE(v.inchide);
+    EXPECT_TRUE(!v.ok && v.inchide);
     EXPECT_EQ(mesaje.Texte().size(), 1);
-    // Gone between the check and the save: the change reaches nothing.
     alta.Intocmitor = QStringLiteral("Altcineva");
     EXPECT_THROW(Anchete::Salveaza(Bd(), mesaje, alta, ModAncheta::Modificare), Eroare);
     EXPECT_EQ(NrAnchete(), 1);
@@ -237,7 +195,6 @@ TEST_P(AncheteBaza, SalvareaAdaugaSiModifica) {
         *campuri[i] = QStringLiteral("text %1, cu o virgula").arg(i);
     a.DataExpirarii = QDate(2030, 1, 1); // what the editor's labels held is replaced
     a.Motiv = QStringLiteral("vechi");
-
     const qint64 id = Anchete::Salveaza(Bd(), mesaje, a, ModAncheta::Adaugare);
     EXPECT_EQ(id, 42);
     Ancheta asteptat = a;
@@ -246,7 +203,6 @@ TEST_P(AncheteBaza, SalvareaAdaugaSiModifica) {
     asteptat.Motiv = Valabil;
     ASSERT_TRUE(Anchete::Citeste(Bd(), id));
     EXPECT_EQ(Campuri(*Anchete::Citeste(Bd(), id)), Campuri(asteptat));
-    EXPECT_TRUE(mesaje.Texte().isEmpty());
 
     Ancheta b = asteptat;
     b.DataAncheta = QDate(2031, 11, 1);
@@ -266,38 +222,28 @@ TEST_P(AncheteBaza, SalvareaAdaugaSiModifica) {
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Anchete WHERE Teren IS NULL AND TipLocuire IS NULL "
                                    "AND DataExpirarii IS NULL AND AnchetaID = 42")),
               1);
-    EXPECT_FALSE(Anchete::Citeste(Bd(), id + 1).has_value());
 
-    const struct {
-        const char *camere, *suprafata, *camereCitite, *suprafataCitita; // empty: refused
-    } numere[] = {{"3 camere", "48.25", "3", "48.25"},
-                  {"3.5", "1 2 0", "4", "120"},
-                  {"-2", "0.5", "-2", "0.5"},
-                  {"99999999999", "50", "", ""},
-                  {"3", "1e40", "", ""}};
-    for (const auto& c : numere) {
-        SCOPED_TRACE(c.camere);
+    const std::tuple<const char*, const char*, const char*> numere[] = {
+        {"3.5", "1 2 0", "4|120"}, {"-2", "0.5", "-2|0.5"}, {"99999999999", "50", ""}, {"3", "1e40", ""}};
+    for (const auto& [camere, suprafata, citite] : numere) {
         Ancheta n = Completa(cerere, QDate(2024, 5, 10), 2);
-        n.NrCamere = QString::fromLatin1(c.camere);
-        n.SuprUtila = QString::fromLatin1(c.suprafata);
+        n.NrCamere = QLatin1String(camere);
+        n.SuprUtila = QLatin1String(suprafata);
         const qint64 inainte = NrAnchete();
-        if (!*c.camereCitite) {
-            EXPECT_THROW(Anchete::Salveaza(Bd(), mesaje, n, ModAncheta::Adaugare), Eroare);
+        if (!*citite) {
+            EXPECT_THROW(Anchete::Salveaza(Bd(), mesaje, n, ModAncheta::Adaugare), Eroare) << camere;
             EXPECT_EQ(NrAnchete(), inainte);
             continue;
         }
-        const auto citita = Anchete::Citeste(Bd(), Anchete::Salveaza(Bd(), mesaje, n, ModAncheta::Adaugare));
-        ASSERT_TRUE(citita.has_value());
-        EXPECT_EQ(citita->NrCamere, QLatin1String(c.camereCitite));
-        EXPECT_EQ(citita->SuprUtila, QLatin1String(c.suprafataCitita));
+        const auto c = Anchete::Citeste(Bd(), Anchete::Salveaza(Bd(), mesaje, n, ModAncheta::Adaugare));
+        EXPECT_EQ(c->NrCamere + u'|' + c->SuprUtila, QLatin1String(citite));
     }
 }
 
-// The request's inquiries newest first, a missing value shown empty; the lists in their Ordine,
-// in lower case.
-TEST_P(AncheteBaza, ListeleAnchetelorSiDateGen) {
-    const qint64 cerere = CerereCuUnCopil();
-    EXPECT_TRUE(Anchete::ListaAnchete(Bd(), cerere).empty());
+// The request's inquiries newest first, a missing value shown empty; a delete finds its row
+// first, asks, and removes only that row.
+TEST_P(AncheteBaza, ListaSiStergerea) {
+    const qint64 cerere = Cerere(1, {Cnp(QDate(1985, 3, 2), 1), Cnp(QDate(2014, 2, 3), 2)});
     const QString ins = QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, NrMembrii, NrCopii, "
                                        "DataExpirarii, Motiv) VALUES (?, ?, ?, ?, ?, ?, ?)");
     const QVariant nul;
@@ -308,58 +254,17 @@ TEST_P(AncheteBaza, ListeleAnchetelorSiDateGen) {
     QStringList obtinut;
     for (const auto& r : Anchete::ListaAnchete(Bd(), cerere))
         obtinut << QStringList{QString::number(r.AnchetaID), r.Data, r.NrMembrii, r.NrCopii, r.DataExpirarii, r.Motiv}
-                       .join(QLatin1Char('|'));
+                       .join(u'|');
     EXPECT_EQ(obtinut,
               (QStringList{QStringLiteral("7|28.11.2024|3|0||") + Incetata,
                            QStringLiteral("5|03.02.2023|4|2|03.08.2023|") + Valabil, QStringLiteral("6|||||")}));
-
-    Interogare q(
-        Bd(), QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, ?, ?, ?, ?)"));
-    q.Leaga("PROBA").Leaga(98).Leaga(1).Leaga(QStringLiteral("ÎNTÂI")).Leaga(3).Executa();
-    q.Leaga("PROBA").Leaga(98).Leaga(2).Leaga(QStringLiteral("Al Doilea")).Leaga(1).Executa();
-    q.Leaga("PROBA").Leaga(98).Leaga(3).Leaga(QVariant()).Leaga(2).Executa();
-    QStringList lista;
-    for (const auto& e : Anchete::ListaDateGen(Bd(), 98))
-        lista << QStringLiteral("%1 %2").arg(e.DataID).arg(e.Continut);
-    EXPECT_EQ(lista, (QStringList{QStringLiteral("2 al doilea"), QStringLiteral("3 "), QStringLiteral("1 întâi")}));
-}
-
-// Each command finds its row first and says why not; a delete asks, and removes only its row.
-TEST_P(AncheteBaza, ComenzileCautaRandulInainte) {
-    const qint64 cerere = CerereCuUnCopil();
-    const qint64 prima = Anchete::Salveaza(Bd(), mesaje, Completa(cerere, QDate(2024, 5, 10)), ModAncheta::Adaugare);
-    const qint64 aDoua = Anchete::Salveaza(Bd(), mesaje, Completa(cerere, QDate(2024, 6, 10)), ModAncheta::Adaugare);
-    const QString nr = QString::number(aDoua);
-    const struct {
-        std::function<bool()> comanda;
-        bool rezultat;
-    } cazuri[] = {
-        {[&] { return Anchete::PoateAdauga(Bd(), mesaje, 0); }, false},
-        {[&] { return Anchete::PoateAdauga(Bd(), mesaje, 55); }, false},
-        {[&] { return Anchete::PoateAdauga(Bd(), mesaje, cerere); }, true},
-        {[&] { return Anchete::PoateModifica(Bd(), mesaje, 0); }, false},
-        {[&] { return Anchete::PoateModifica(Bd(), mesaje, 77); }, false},
-        {[&] { return Anchete::PoateModifica(Bd(), mesaje, prima); }, true},
-        {[&] { return Anchete::Sterge(Bd(), mesaje, 0, QString()); }, false},
-        {[&] { return Anchete::Sterge(Bd(), mesaje, 77, QStringLiteral("77")); }, false},
-        {[&] {
-             mesaje.raspunsuri = {false};
-             return Anchete::Sterge(Bd(), mesaje, aDoua, nr);
-         },
-         false},
-        {[&] { return Anchete::Sterge(Bd(), mesaje, aDoua, nr); }, true},
-    };
-    // A refusal says why; a permission says nothing; a delete asks.
-    for (size_t i = 0; i < std::size(cazuri); ++i) {
-        SCOPED_TRACE(i);
-        mesaje.mesaje.clear();
-        EXPECT_EQ(cazuri[i].comanda(), cazuri[i].rezultat);
-        EXPECT_EQ(mesaje.mesaje.size(), cazuri[i].rezultat && i < 8 ? 0u : 1u);
-    }
-    EXPECT_EQ(mesaje.Texte(Fel::Intrebare).size(), 1);
-    EXPECT_TRUE(Anchete::Citeste(Bd(), prima).has_value());
-    EXPECT_FALSE(Anchete::Citeste(Bd(), aDoua).has_value());
-    EXPECT_EQ(NrAnchete(), 1);
+    EXPECT_FALSE(Anchete::Sterge(Bd(), mesaje, 77, QStringLiteral("77")));
+    mesaje.raspunsuri = {false};
+    EXPECT_FALSE(Anchete::Sterge(Bd(), mesaje, 5, QStringLiteral("5")));
+    EXPECT_TRUE(Anchete::Sterge(Bd(), mesaje, 5, QStringLiteral("5")));
+    EXPECT_EQ(mesaje.Texte(Mesaje::Fel::Intrebare).size(), 2);
+    EXPECT_EQ(NrAnchete(), 3);
+    EXPECT_FALSE(Anchete::Citeste(Bd(), 5).has_value());
 }
 
 PE_AMBELE_MOTOARE(AncheteBaza);

