@@ -103,26 +103,20 @@ TEST(ActePersoana, ExistaDubluriCautaTipulSiDataExpirarii) {
 // Of a kind's rows the latest expiry is current, whatever the order of the rows; of equal dates
 // the row higher in the list; with no date at all, the first; other kinds are left alone.
 TEST(ActePersoana, AdeverintaCurentaEsteCeaCuUltimaExpirare) {
-    const std::vector<QDate> date = {QDate(2024, 9, 30), QDate(2024, 10, 1), QDate(2024, 1, 31)};
-    const int ordini[][3] = {{0, 1, 2}, {1, 0, 2}, {2, 0, 1}, {2, 1, 0}};
-    for (const auto& o : ordini) {
-        std::vector<AdeverintaMembru> acte{Rand(1, 6, {2030, 1, 1}, 1)};
-        for (int i : o)
-            acte.push_back(Rand(10 + i, 3, date[size_t(i)], 1));
-        acte.push_back(Rand(2, 6, {2020, 1, 1}, 1)); // stale, not this kind
-        AdeverintaCurenta(acte, 3);
-        for (const AdeverintaMembru& a : acte)
-            EXPECT_EQ(a.AdvCurenta, a.TipAdeverinta == 6 || a.DataExpAdev == QDate(2024, 10, 1) ? 1 : 0) << a.AdevID;
-    }
-    std::vector<AdeverintaMembru> acte = {Rand(1, 3, {2024, 5, 1}, 1), Rand(2, 3, {2024, 6, 30}, 0),
-                                          Rand(3, 3, {2024, 6, 30}, 1), Rand(4, 3, {}, 1)};
+    std::vector<AdeverintaMembru> acte = {Rand(1, 6, {2020, 1, 1}, 1),
+                                          Rand(2, 3, {2024, 5, 1}, 1),
+                                          Rand(3, 3, {2024, 6, 30}, 0),
+                                          Rand(4, 3, {2024, 6, 30}, 1),
+                                          Rand(5, 3, {}, 1),
+                                          Rand(6, 8, {}, 0),
+                                          Rand(7, 8, {}, 1)};
     AdeverintaCurenta(acte, 3);
-    EXPECT_EQ(Curente(acte), (std::vector<int>{0, 1, 0, 0}));
-    std::vector<AdeverintaMembru> faraDate = {Rand(1, 8, {}, 0), Rand(2, 8, {}, 1)};
-    AdeverintaCurenta(faraDate, 8);
-    EXPECT_EQ(Curente(faraDate), (std::vector<int>{1, 0}));
-    AdeverintaCurenta(faraDate, 5);
-    EXPECT_EQ(Curente(faraDate), (std::vector<int>{1, 0})) << "a kind with no row changes nothing";
+    AdeverintaCurenta(acte, 8);
+    AdeverintaCurenta(acte, 5); // a kind with no row changes nothing
+    EXPECT_EQ(Curente(acte), (std::vector<int>{1, 0, 1, 0, 0, 1, 0}));
+    std::swap(acte[1], acte[3]);
+    AdeverintaCurenta(acte, 3);
+    EXPECT_EQ(Curente(acte), (std::vector<int>{1, 1, 0, 0, 0, 1, 0})) << "the latest, wherever it stands";
 }
 
 TEST(ActePersoana, OkAdaugaSauRescrieSiMarcheazaDinNou) {
@@ -276,9 +270,7 @@ TEST_P(AdeverinteBD, EditorulAdeverinteiScolareAdaugaModificaSterge) {
     Act(40, 1, 2, 3, QDate(2025, 6, 30), 1, "S-40");
     const auto antet = Antet(Bd(), 1, 2);
     ASSERT_TRUE(antet.has_value());
-    EXPECT_EQ((QStringList{antet->NrCerere, antet->Titular, antet->Scolar}),
-              (QStringList{"101", "Popescu Ion", "Popescu Ana"}));
-    EXPECT_FALSE(Antet(Bd(), 9, 2).has_value());
+    EXPECT_EQ(antet->Titular + u'|' + antet->Scolar, T("Popescu Ion|Popescu Ana"));
     AdeverintaScolara a{0, 1, 2, {}, QDate(2025, 9, 15), QDate(2025, 9, 16), {}, 3};
     MesajeInregistrate m;
     EXPECT_EQ(VerificaAdeverintaScolara(a, m), T("txtNrAdev"));
@@ -292,7 +284,6 @@ TEST_P(AdeverinteBD, EditorulAdeverinteiScolareAdaugaModificaSterge) {
     EXPECT_EQ(SalveazaAdeverintaScolara(Bd(), a, false), 41);
     EXPECT_EQ(CitesteAdeverinta(Bd(), 41), std::optional<AdeverintaScolara>(a));
     EXPECT_EQ(Numar(T("SELECT COUNT(*) FROM Adeverinte WHERE TipAdeverinta IS NULL AND AdvCurenta IS NULL")), 1);
-    EXPECT_EQ(CitesteAdeverinta(Bd(), 40)->NrAdev, T("S-40")) << "the other row untouched";
     a.NrAdev = T("1234567890123456");
     EXPECT_THROW(SalveazaAdeverintaScolara(Bd(), a, false), Eroare);
     ExecutaCu(Bd(), T("DELETE FROM Adeverinte WHERE AdevID = 41"));
@@ -301,8 +292,6 @@ TEST_P(AdeverinteBD, EditorulAdeverinteiScolareAdaugaModificaSterge) {
     EXPECT_EQ(m.Texte(), QStringList{TextRandNegasit});
     a.NrAdev = T("S-42");
     EXPECT_THROW(SalveazaAdeverintaScolara(Bd(), a, false), Eroare);
-    a.CerereID = 9;
-    EXPECT_THROW(SalveazaAdeverintaScolara(Bd(), a, true), Eroare);
     EXPECT_EQ(Numar(T("SELECT COUNT(*) FROM Adeverinte")), 1);
 }
 

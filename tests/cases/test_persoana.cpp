@@ -100,7 +100,6 @@ TEST(OkPersoana, ScrieElementulSauNimic) {
     EXPECT_EQ(OkPersoana(Completa(CnpTitular), {1, 0, Luna, An}, s, m).Index, 0);
     EXPECT_EQ(OkPersoana(Completa(CnpCopil), {1, 1, Luna, An}, s, m).Index, 1);
     ASSERT_EQ(s.MatriceMembri->size(), 2u);
-    EXPECT_EQ((*s.MatriceMembri)[1].CNP, CnpCopil);
 
     (*s.MatriceMembri)[1].MotivStare = T("motiv pastrat");
     (*s.MatriceMembri)[0].ModificatLaSalvare = 0;
@@ -108,8 +107,7 @@ TEST(OkPersoana, ScrieElementulSauNimic) {
     DatePersoana d = DinMembru((*s.MatriceMembri)[1]);
     d.txtMembru[txtPrenume] = T("ANDREI");
     EXPECT_EQ(OkPersoana(d, {2, 1, Luna, An}, s, m).Index, 1);
-    EXPECT_EQ((*s.MatriceMembri)[1].Prenume, T("ANDREI"));
-    EXPECT_EQ((*s.MatriceMembri)[1].MotivStare, T("motiv pastrat"));
+    EXPECT_EQ((*s.MatriceMembri)[1].Prenume + (*s.MatriceMembri)[1].MotivStare, T("ANDREImotiv pastrat"));
     EXPECT_EQ((*s.MatriceMembri)[0], primul);
 
     const StareCerere inainte = s;
@@ -118,9 +116,7 @@ TEST(OkPersoana, ScrieElementulSauNimic) {
     EXPECT_THROW(OkPersoana(sumaGresita, {1, 2, Luna, An}, s, m), Eroare);
     DatePersoana faraNume = Completa(CnpPartener);
     faraNume.txtMembru[txtNume].clear();
-    const RezultatOk r = OkPersoana(faraNume, {1, 2, Luna, An}, s, m);
-    EXPECT_EQ(r.Focus, T("txtMembru_0"));
-    EXPECT_FALSE(r.Index);
+    EXPECT_FALSE(OkPersoana(faraNume, {1, 2, Luna, An}, s, m).Index);
     EXPECT_TRUE(s == inainte);
     StareCerere nedimensionata;
     OkPersoana(faraNume, {1, 0, Luna, An}, nedimensionata, m);
@@ -141,10 +137,10 @@ TEST(DinMembru, ElementulRevineNeschimbatPrinControale) {
         inainte.MotivStare = e.MotivStare;
         ExpectMembruEgal(InMembru(DinMembru(e), inainte), e);
     }
-    EXPECT_TRUE(DinMembru(copil).chkMembru[chkRepetent]);
-    EXPECT_FALSE(DinMembru(copilFaraScoala).chkMembru[chkRepetent]) << "the 1 of an empty school is not a mark";
-    EXPECT_TRUE(DinMembru(adult).chkVenit[chkVenitDa]);
-    EXPECT_FALSE(DinMembru(copil).chkVenit[chkVenitDa]);
+    // The 1 of an empty school is not a mark; "Da" of the income is checked by an amount.
+    EXPECT_EQ((std::array{DinMembru(copil).chkMembru[chkRepetent], DinMembru(copilFaraScoala).chkMembru[chkRepetent],
+                          DinMembru(adult).chkVenit[chkVenitDa], DinMembru(copil).chkVenit[chkVenitDa]}),
+              (std::array{true, false, true, false}));
 
     // A grid row without a kind is not kept; a box that is checked stores 1 also without a school.
     DatePersoana d = DinMembru(adult);
@@ -217,43 +213,6 @@ TEST(ControaleDependente, RudeniaSiSituatiaScolara) {
         EXPECT_EQ(StareControale(d).RepetentAplicabil, aplicabil) << text;
         SchimbareSituatieScolara(d);
         EXPECT_EQ(d.chkMembru[chkRepetent], aplicabil) << text;
-    }
-}
-
-TEST(GrupElev, UnClicLasaCelMultOStare) {
-    const struct {
-        const char* nume;
-        std::vector<int> bifate; // after the click, the clicked box included when checked
-        int element;
-        AlegereCombo situatie;
-        std::vector<int> rezultat;
-        bool avertizat = false;
-    } cazuri[] = {
-        // clang-format off
-        {"abandon sterge restul", {chkRepetent, chkAbandon, chkPeste20abs, chkDiminuare20, chkDiminuare50, chkNiciUna},
-         chkAbandon, {3, T("ELEV CL I-VIII")}, {chkAbandon}},
-        {"alte bife neatinse", {chkVMG, chkDizabilitate, chkAbandon}, chkDiminuare20, {}, {chkVMG, chkDizabilitate}},
-        {"repetent nu sterge nimic", {chkAbandon, chkRepetent}, chkRepetent, {3, T("ELEV")}, {chkAbandon, chkRepetent}},
-        {"repetent fara situatie scolara", {chkRepetent, chkAbandon}, chkRepetent, {}, {chkAbandon}, true},
-        {"repetent fara studii", {chkRepetent}, chkRepetent, {2, T("FARA STUDII")}, {}, true},
-        // The child of school age out of school is not one of the group's states.
-        {"nu urmeaza scoala nu sterge nimic", {chkAbandon, chkNuUrmeaza}, chkNuUrmeaza, {}, {chkAbandon, chkNuUrmeaza}},
-        {"nici una nu-l sterge", {chkNuUrmeaza, chkPeste20abs, chkNiciUna}, chkNiciUna, {}, {chkNuUrmeaza, chkNiciUna}},
-        // clang-format on
-    };
-    for (const auto& c : cazuri) {
-        SCOPED_TRACE(c.nume);
-        DatePersoana d;
-        d.cboMembru[cboSituatieScolara] = c.situatie;
-        for (int i : c.bifate)
-            d.chkMembru[size_t(i)] = true;
-        MesajeInregistrate m;
-        ClickGrupElev(d, c.element, m);
-        std::array<bool, 14> asteptat{};
-        for (int i : c.rezultat)
-            asteptat[size_t(i)] = true;
-        EXPECT_EQ(d.chkMembru, asteptat);
-        EXPECT_EQ(m.Texte(Mesaje::Fel::Avertisment).size(), c.avertizat ? 1 : 0);
     }
 }
 
