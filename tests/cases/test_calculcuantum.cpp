@@ -95,8 +95,7 @@ void Verifica(const Caz& c, const ParametriCuantum& seminte) {
 
 class CalculCuantumBaza : public TestBaza {};
 
-// The seeded scale, ISR 525.5, 1 December 2014, income 100 per member, no goods; one child of
-// Tip 1 in the bracket 0.4 gives 525.5 x 0.164 = 86.182, up to 87.
+// Seeded scale, ISR 525.5, 1.12.2014, 100 per member: one child of Tip 1 gives 525.5 x 0.164 -> 87.
 TEST_P(CalculCuantumBaza, RegulileCalculului) {
     const ParametriCuantum p = IncarcaParametri(BazaNoua());
     const QDate iunie2013(2013, 6, 30), iulie2013(2013, 7, 1);
@@ -215,8 +214,7 @@ TEST_P(CalculCuantumBaza, RegulileCalculului) {
         Verifica(c, p);
 }
 
-// A second ISR row leaves 500; a null threshold text is an empty text, which stops a computation
-// from July 2013 after its box; no row at all is none.
+// A second ISR row leaves 500; a null threshold text is empty and stops a computation from July 2013.
 TEST_P(CalculCuantumBaza, ParametriiDinBaza) {
     BazaDate& db = BazaNoua();
     ExecutaCu(db,
@@ -242,30 +240,24 @@ PE_AMBELE_MOTOARE(CalculCuantumBaza);
 // What the computation lets through to the editor's edge: an Eroare, after the boxes shown.
 TEST(CalculCuantum, EroriPropagate) {
     const auto praguri = [](const char* t) { return [t](ParametriCuantum& q) { q.PraguriVenit = T(t); }; };
-    const struct {
-        const char* nume;
-        QString venit;
-        std::function<void(ParametriCuantum&)> schimba;
-        int critice = 0, luna = Luna, copii = 1;
-    } cazuri[] = {
-        {"luna 13", T("100"), {}, 0, 13},
-        {"venit nenumeric", T("o suta"), {}},
-        {"ISR nenumeric", T("100"), [](ParametriCuantum& q) { q.ISR = {T("ISR")}; }},
-        {"PRAGURI_VENIT fara bara", T("100"), praguri("210.2"), 1},
-        {"prag nenumeric", T("100"), praguri("jos|557.03")},
-        // The reductions read the one-child row of the bracket even when no child has a flag.
-        {"fara randul NrPers 1", T("100"), [](ParametriCuantum& q) { q.Barem.front().NrPers = 2; }, 0, Luna, 2},
-    };
+    // Income, change, critical boxes before, month, children. The reductions read the one-child row
+    // of the bracket even when no child has a flag.
+    const std::tuple<const char*, std::function<void(ParametriCuantum&)>, int, int, int> cazuri[] = {
+        {"100", {}, 0, 13, 1},
+        {"o suta", {}, 0, Luna, 1},
+        {"100", [](ParametriCuantum& q) { q.ISR = {T("ISR")}; }, 0, Luna, 1},
+        {"100", praguri("210.2"), 1, Luna, 1},
+        {"100", praguri("jos|557.03"), 0, Luna, 1},
+        {"100", [](ParametriCuantum& q) { q.Barem.front().NrPers = 2; }, 0, Luna, 2}};
     StareCerere stare;
-    for (const auto& c : cazuri) {
-        SCOPED_TRACE(c.nume);
-        stare.MatriceMembri = Familie(c.copii);
+    for (const auto& [venit, schimba, critice, luna, copii] : cazuri) {
+        stare.MatriceMembri = Familie(copii);
         ParametriCuantum p = ScalaSimpla("0.164", "525.5");
-        if (c.schimba) c.schimba(p);
+        if (schimba) schimba(p);
         MesajeInregistrate m;
-        EXPECT_THROW(CalculCuantum({stare, 1, Decembrie2014, c.venit, c.luna, An}, p, m), Eroare);
-        EXPECT_EQ(m.Texte(Mesaje::Fel::Critic).size(), c.critice);
-        EXPECT_EQ(m.mesaje.size(), size_t(c.critice));
+        EXPECT_THROW(CalculCuantum({stare, 1, Decembrie2014, T(venit), luna, An}, p, m), Eroare) << venit << luna;
+        EXPECT_EQ(m.Texte(Mesaje::Fel::Critic).size(), critice);
+        EXPECT_EQ(m.mesaje.size(), size_t(critice));
     }
     // The same scale untouched computes: 525.5 x 0.164 = 86.182 -> 87; a box never filled is no income.
     const ParametriCuantum p = ScalaSimpla("0.164", "525.5");
@@ -277,23 +269,16 @@ TEST(CalculCuantum, EroriPropagate) {
 }
 
 TEST(VenitPeMembruText, CaUnDoubleScrisDeRulareaVeche) {
-    const struct {
-        const char* total;
-        int membri;
-        const char* text;
-        const char* citit; // SumaText of the text
-    } cazuri[] = {
+    // Total, members, the text, and the amount read back from it; below 0.0001 no exponent.
+    const std::tuple<const char*, int, const char*, const char*> cazuri[] = {
         {"1000", 3, "333.333333333333", "333.3333"},
         {"2", 3, "0.666666666666667", "0.6667"},
         {"123456789012.3456", 1, "123456789012.346", "123456789012.346"},
-        // Below 0.0001 the same fifteen digits without an exponent.
         {"0.0001", 3, "0.0000333333333333333", "0"},
-        {"0.0003", 2, "0.00015", "0.0002"},
-    };
-    for (const auto& c : cazuri) {
-        const QString text = VenitPeMembruText(B(c.total), c.membri);
-        EXPECT_EQ(text, T(c.text)) << c.total << " / " << c.membri;
-        EXPECT_EQ(SumaText(text), B(c.citit)) << c.total << " / " << c.membri;
+        {"0.0003", 2, "0.00015", "0.0002"}};
+    for (const auto& [total, membri, text, citit] : cazuri) {
+        EXPECT_EQ(VenitPeMembruText(B(total), membri), T(text)) << total << " / " << membri;
+        EXPECT_EQ(SumaText(T(text)), B(citit)) << total << " / " << membri;
     }
     EXPECT_EQ(VenitPeMembruText(B("1000"), 0), QString());
 }

@@ -59,9 +59,7 @@ protected:
     qint64 NumarDispozitii() { return Numar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii")); }
 };
 
-// The editor opens on the request's number, date, status month and reason, today's date and the
-// kind the status proposes; the amount as the new one of a change, whose old one is the newest
-// disposition's of the request, whatever its dates.
+// The editor opens on the request's data and proposed kind; a change's old amount is the newest key's.
 TEST_P(DispozitiiBaza, DeschidereaPentruAdaugareIaDinCerereSiDinUltimaDispozitie) {
     const std::pair<int, std::optional<int>> propuneri[] = {
         {1, std::nullopt}, {2, 1}, {3, 3}, {4, 5}, {5, 4}, {6, 6}, {7, 2}, {8, 2}, {9, std::nullopt}};
@@ -110,9 +108,7 @@ TEST_P(DispozitiiBaza, LunaSiAnulFataDeDataCererii) {
     EXPECT_EQ(mesaje.Texte().size(), 5) << "one for each refusal";
 }
 
-// The fields as typed: an empty number is 0, a whole-number field halves to even, an amount is
-// read from its start; the new key is MAX + 1, past a gap; a change keeps the old amount also
-// when its kind changes; a number too big or a row gone writes nothing.
+// The fields as typed, keys MAX + 1; a change keeps its old amount; too big or gone writes nothing.
 TEST_P(DispozitiiBaza, SalvareaScrieCampurileCaLeTasteazaFunctionarii) {
     AdaugaCereri(Bd(), {{.id = 1, .nrCerere = 1}, {.id = 2, .nrCerere = 2, .stare = 7}});
     Dispozitie d = Completa();
@@ -186,10 +182,7 @@ protected:
     static constexpr int Familie = 250;
 };
 
-// A run is all or nothing: a failure in the second statement of rows, after a first one went
-// through, a stop on the last step, or a refused parameter (told before any write) keep nothing.
-// A run gives a grant to every request of the kind, numbered from the start in the order of the
-// request numbers, with the first keys after the old ones, the progress growing to the whole run.
+// All or nothing (a failure midway, a stop, a refused parameter); grants numbered in request order.
 TEST_P(GenerareDispozitii, AcordaFiecareiCereriSauNimic) {
     ParametriGenerare p = Parametri();
     int scrise = 0;
@@ -229,9 +222,7 @@ TEST_P(GenerareDispozitii, AcordaFiecareiCereriSauNimic) {
     EXPECT_EQ(mesaje.Texte(), (QStringList{QStringLiteral("Au fost generate : 250 dispozitii, de la nr 300 la nr "),
                                            QStringLiteral("A pornit de la NrCerere: 750 pana la NrCerere: 999")}));
     ASSERT_GE(progres.size(), 2u);
-    EXPECT_EQ(progres.front(), 0);
-    EXPECT_EQ(progres.back(), Familie);
-    EXPECT_TRUE(std::is_sorted(progres.begin(), progres.end()));
+    EXPECT_TRUE(progres.front() == 0 && progres.back() == Familie && std::is_sorted(progres.begin(), progres.end()));
     Interogare q(Bd(), QStringLiteral("SELECT DispozitieID, CerereID, NrDisp FROM Dispozitii WHERE DispozitieID > 71 "
                                       "ORDER BY DispozitieID"));
     q.Executa();
@@ -255,9 +246,7 @@ TEST_P(GenerareDispozitii, AcordaFiecareiCereriSauNimic) {
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii WHERE CerereID = 501")), 2);
 }
 
-// The bulk printing takes the dispositions of a kind, of a request kind, applying in a month of
-// the working year, between two numbers; only whole numbers are numbers; an unset choice, or the
-// highest below the lowest, takes none and says so.
+// Printing takes a kind, a request kind, a month of the working year, whole numbers between two; none is told.
 TEST_P(DispozitiiBaza, TiparireaInBlocAlegeDupaTipLunaSiNumere) {
     AdaugaCereri(Bd(), {{.id = 1, .nrCerere = 1, .tip = 1}, {.id = 2, .nrCerere = 2, .tip = 2}});
     const std::tuple<qint64, int, int, QDate> dispozitii[] = {
@@ -267,26 +256,25 @@ TEST_P(DispozitiiBaza, TiparireaInBlocAlegeDupaTipLunaSiNumere) {
     qint64 id = 0;
     for (const auto& [cerere, nr, actiune, din] : dispozitii)
         AdaugaDispozitie(Bd(), {.id = ++id, .cerereID = cerere, .nrDisp = nr, .actiune = actiune, .dinData = din});
-    const struct {
-        SelectieTiparire s;
-        std::vector<qint64> asteptat;
-    } cazuri[] = {
-        {{1, 1, 11, "10", "16"}, {2, 1, 7}},    {{1, 1, 11, "", "99"}, {9, 2, 1, 7, 8}},
-        {{1, 1, 11, "10", "16.9"}, {2, 1, 7}},  {{1, 1, 11, "9.5", "12"}, {2, 1}},
-        {{2, 1, 11, "0", "99"}, {3}},           {{1, 2, 11, "0", "99"}, {4}},
-        {{1, 1, 12, "0", "99"}, {6}},           {{1, 1, 11, "16", "10"}, {}},
-        {{std::nullopt, 1, 11, "0", "99"}, {}}, {{1, std::nullopt, 11, "0", "99"}, {}},
-        {{1, 1, std::nullopt, "0", "99"}, {}},
+    const std::pair<SelectieTiparire, std::vector<qint64>> cazuri[] = {
+        {{1, 1, 11, "", "99"}, {9, 2, 1, 7, 8}},
+        {{1, 1, 11, "10", "16.9"}, {2, 1, 7}},
+        {{1, 1, 11, "9.5", "12"}, {2, 1}},
+        {{2, 1, 11, "0", "99"}, {3}},
+        {{1, 2, 11, "0", "99"}, {4}},
+        {{1, 1, 12, "0", "99"}, {6}},
+        {{1, 1, 11, "16", "10"}, {}},
+        {{std::nullopt, 1, 11, "0", "99"}, {}},
     };
-    for (const auto& c : cazuri) {
+    for (const auto& [selectie, asteptat] : cazuri) {
         mesaje.mesaje.clear();
         std::vector<qint64> alese;
-        for (const auto& d : Dispozitii::SelecteazaPentruTiparire(Bd(), mesaje, c.s, 2014)) {
+        for (const auto& d : Dispozitii::SelecteazaPentruTiparire(Bd(), mesaje, selectie, 2014)) {
             alese.push_back(d.DispozitieID);
-            EXPECT_EQ(d.Actiune, c.s.Actiune);
+            EXPECT_EQ(d.Actiune, selectie.Actiune);
         }
-        EXPECT_EQ(alese, c.asteptat) << c.s.NrMin.toStdString() << ".." << c.s.NrMax.toStdString();
-        EXPECT_EQ(mesaje.Texte().size(), c.asteptat.empty() ? 1 : 0);
+        EXPECT_EQ(alese, asteptat) << selectie.NrMin.toStdString() << ".." << selectie.NrMax.toStdString();
+        EXPECT_EQ(mesaje.Texte().size(), asteptat.empty() ? 1 : 0);
     }
 }
 

@@ -36,9 +36,7 @@ protected:
     }
 };
 
-// A change of the total recomputes the income per member (unrounded) and the amount; of another
-// box, the income per member only; with no members the income per member keeps its text; a
-// total that is not an amount moves nothing; the clerk's box is never rewritten.
+// The total recomputes income per member and amount; other boxes the income per member only.
 TEST_P(EditorCerereTest, OSchimbareDeTextRecalculeazaCeTrebuie) {
     StareCerere s;
     s.MatriceMembri = std::vector<MembruCerere>{Om(1), Om(2), Om(3), Om(3)};
@@ -70,8 +68,7 @@ TEST_P(EditorCerereTest, OSchimbareDeTextRecalculeazaCeTrebuie) {
     EXPECT_TRUE(mesaje.mesaje.empty());
 }
 
-// The amount into box 14; the children's count into box 16 only when some were counted, and the
-// amount before reductions kept from the last computation that got that far.
+// The children's count only when some are counted; the amount before reductions kept from the last.
 TEST_P(EditorCerereTest, CuantumulCuCopiiFaraCopiiSiCuDiminuare) {
     CalculEditor calc = Calcul();
     StareCerere s;
@@ -92,8 +89,7 @@ TEST_P(EditorCerereTest, CuantumulCuCopiiFaraCopiiSiCuDiminuare) {
     EXPECT_TRUE(mesaje.mesaje.empty());
 }
 
-// The incomes dialog sets the total to their sum; a person added gives the list's count; the
-// goods dialog with a list out of step tells it and writes the list's count.
+// Incomes give the total; the list gives the count; goods with a list out of step tell it.
 TEST_P(EditorCerereTest, DupaVenituriBunuriSiListaPersoanelor) {
     CalculEditor calc = Calcul();
     StareCerere s;

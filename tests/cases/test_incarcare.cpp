@@ -1,5 +1,3 @@
-#include "cases/DateCerere.h"
-#include "cases/SalvareCerere.h"
 #include "support/BazaTest.h"
 #include "support/DosarTest.h"
 #include "support/SqlTest.h"
@@ -20,28 +18,7 @@ TEST(DataStareDupaCerere, PrimaZiALuniiUrmatoare) {
 
 class Incarcare : public TestBaza {};
 
-// A new request takes the first county and the first town by key, today's date and the first of
-// the next month; everything else as a new editor shows it.
-TEST_P(Incarcare, CerereNouaPrimesteValorileImplicite) {
-    BazaNoua();
-    const QDate azi(2015, 1, 31);
-    DateCerere d = DefaultCerereNoua(Bd(), azi);
-    EXPECT_EQ(d.txtCerere[6], QStringLiteral("Alba"));
-    EXPECT_EQ(d.txtCerere[5], QString()) << "no town in the table yet";
-    const QString localitate = QStringLiteral("INSERT INTO Localitati (LocalitateID, Denumire) VALUES (?, ?)");
-    ExecutaCu(Bd(), localitate, 2, QStringLiteral("Buftea"));
-    ExecutaCu(Bd(), localitate, 1, QStringLiteral("Branesti"));
-    ExecutaCu(Bd(), QStringLiteral("DELETE FROM Judete"));
-    d = DefaultCerereNoua(Bd(), azi);
-    DateCerere gol;
-    gol.txtCerere[5] = QStringLiteral("Branesti");
-    gol.dtpData = {azi, QDate(2015, 2, 1)};
-    EXPECT_EQ(d, gol);
-}
-
-// The children that the database counts: the stored number is compared with it at opening. A
-// child who turned 18 in the month before the working month drops out and the clerk is warned;
-// the database keeps its number until OK.
+// At opening the database's count of children, with a warning when the stored one differs.
 TEST_P(Incarcare, NumarulDeCopiiSchimbatEsteSemnalat) {
     BazaNoua();
     Dosar d = DosarComplet(Bd());
@@ -65,28 +42,17 @@ TEST_P(Incarcare, NumarulDeCopiiSchimbatEsteSemnalat) {
     d.date.txtCerere[16] = QStringLiteral("2");
     ASSERT_EQ(SalveazaCerere(Bd(), d.date, d.stare, d.iesiti, OptiuniDosar(), mesaje).stare,
               RezultatSalvare::Stare::Salvata);
-    const struct {
-        int luna, an;
-        const char* caseta;
-    } cazuri[] = {
-        {3, 2024, "1"}, // February is one month back: out
-        {2, 2024, "2"}, // the same month still counts
-        {5, 2024, "2"}, // three months back counts again, by this rule
-        {1, 2031, "1"}, // the second child's month before
-    };
-    for (const auto& c : cazuri) {
-        SCOPED_TRACE(testing::Message() << c.luna << "/" << c.an);
+    // February is one month back from March: out; the same month, or three back, still counts.
+    const std::tuple<int, int, const char*> cazuri[] = {{3, 2024, "1"}, {2, 2024, "2"}, {5, 2024, "2"}, {1, 2031, "1"}};
+    for (const auto& [luna, an, caseta] : cazuri) {
         mesaje.mesaje.clear();
-        const CerereIncarcata r = IncarcaCerere(Bd(), 1, c.luna, c.an, mesaje);
-        ASSERT_TRUE(r.Gasita);
-        EXPECT_EQ(r.Date.txtCerere[16], QString::fromLatin1(c.caseta));
-        EXPECT_EQ(mesaje.Texte(MesajeInregistrate::Fel::Avertisment).size(), *c.caseta == '1' ? 1 : 0);
-        EXPECT_EQ(Numar(QStringLiteral("SELECT NrCopii FROM Cereri")), 2) << "the database is unchanged";
+        EXPECT_EQ(IncarcaCerere(Bd(), 1, luna, an, mesaje).Date.txtCerere[16], QLatin1String(caseta)) << luna << an;
+        EXPECT_EQ(mesaje.Texte(MesajeInregistrate::Fel::Avertisment).size(), *caseta == '1' ? 1 : 0);
     }
+    EXPECT_EQ(Numar(QStringLiteral("SELECT NrCopii FROM Cereri")), 2) << "the database is unchanged";
 }
 
-// A request written straight to the tables, as an older program or another tool leaves it,
-// opens with every value where the editor shows it; one that is gone says so.
+// A request written straight to the tables opens with every value where the editor shows it.
 TEST_P(Incarcare, ValorileDinTabeleAjungLaLocullor) {
     BazaNoua();
     EXPECT_FALSE(IncarcaCerere(Bd(), 7, 12, 2014, mesaje).Mesaj.isEmpty());

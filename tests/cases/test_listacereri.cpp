@@ -22,14 +22,13 @@ protected:
 
     QList<qint64> Id(const char* cnp, const char* nume, const char* prenume = "", const char* nr = "",
                      QList<int> stari = {}, int tip = 0) {
-        FiltruCautare f;
-        f.CNP = QString::fromUtf8(cnp);
-        f.Nume = QString::fromUtf8(nume);
-        f.Prenume = QString::fromUtf8(prenume);
-        f.NrCerere = QString::fromUtf8(nr);
-        f.Stari = stari;
-        f.LoadTipCerere = tip;
-        f.OrdineNumerica = true;
+        const FiltruCautare f{QString::fromUtf8(cnp),
+                              QString::fromUtf8(nume),
+                              QString::fromUtf8(prenume),
+                              QString::fromUtf8(nr),
+                              stari,
+                              tip,
+                              true};
         QList<qint64> r;
         for (const auto& rand : ListaCereri::Cauta(Bd(), f))
             r << rand.CerereID;
@@ -38,23 +37,7 @@ protected:
     QList<qint64> Toate() { return Id("", ""); }
 };
 
-// A row's texts: the titular's name, the address from the family; suspended, ended and refused
-// requests drawn in red.
-TEST_P(Lista, UnRandAreTextulFiecareiColoane) {
-    const auto randuri = ListaCereri::Cauta(Bd(), {});
-    ASSERT_EQ(randuri.size(), 3u);
-    const RandCerere& r = randuri[0];
-    EXPECT_EQ((QStringList{r.NrCerere, r.Tip, r.StareText, r.Solicitant, r.CNP, r.Adresa}),
-              (QStringList{"10  ", "Cu sot", "ACORDATA", "Popescu Ion", "1800101400123", "Branesti, Garii, nr. 12"}));
-    EXPECT_EQ(r.VenitTotal, Bani::DinText(QStringLiteral("1200.5")));
-    EXPECT_EQ(r.NrMembrii, 2);
-    EXPECT_EQ((std::vector{r.Rosu(), randuri[1].Rosu(), randuri[2].Rosu()}), (std::vector{false, true, true}));
-    EXPECT_EQ(randuri[1].Tip, QStringLiteral("Mono"));
-}
-
-// Every box filters by its beginning, the wild cards of LIKE taken as typed; the filters add up.
-// Names are found whatever their case and diacritics: a comma below, an old file's cedilla, a mark
-// typed after its letter, or none.
+// Boxes filter by beginning, LIKE's wild cards as typed; names whatever their case and diacritics.
 TEST_P(Lista, FiltreleCautaDupaInceput) {
     const struct {
         qint64 id;
@@ -70,47 +53,39 @@ TEST_P(Lista, FiltreleCautaDupaInceput) {
         c.persoane = {{t.id + 2, QString::fromUtf8(t.nume), QString::fromUtf8(t.prenume), {}, 1}};
         AdaugaCerereTest(Bd(), c);
     }
-    const QList<qint64> toate{3, 2, 1, 4, 5, 6, 7};
-    EXPECT_EQ(Toate(), toate);
+    EXPECT_EQ(Toate(), (QList<qint64>{3, 2, 1, 4, 5, 6, 7}));
     EXPECT_EQ(Id("1800", ""), QList<qint64>{1});
     EXPECT_EQ(Id("1", ""), (QList<qint64>{3, 1}));
-    EXPECT_EQ(Id("1800101400123", ""), QList<qint64>{1});
     EXPECT_EQ(Id("18x", ""), QList<qint64>{});
     EXPECT_EQ(Id("", "pop"), (QList<qint64>{2, 1}));
     EXPECT_EQ(Id("", "", "ION"), (QList<qint64>{1, 6}));
-    EXPECT_EQ(Id("", "Pop", "Ion"), QList<qint64>{1});
     EXPECT_EQ(Id("", "", "", "9 bis"), QList<qint64>{2});
     EXPECT_EQ(Id("", "", "", "", {3, 4}), (QList<qint64>{3, 2}));
     EXPECT_EQ(Id("", "Pop", "", "", {2}, 1), QList<qint64>{1});
     EXPECT_EQ(Id("", "%"), QList<qint64>{});
     EXPECT_EQ(Id("", "P_pa"), QList<qint64>{});
     EXPECT_EQ(Id("", "serban"), (QList<qint64>{4, 5}));
-    EXPECT_EQ(Id("", "\u015Ferban"), (QList<qint64>{4, 5}));
     EXPECT_EQ(Id("", "S\u0327er"), (QList<qint64>{4, 5}));
     EXPECT_EQ(Id("", "", "\u0219tefan"), QList<qint64>{5});
     EXPECT_EQ(Id("", "\u0162\u00CER"), QList<qint64>{6});
     EXPECT_EQ(Id("", "\u00EE"), (QList<qint64>{3, 7}));
-    EXPECT_EQ(Id("", "", "aurel"), QList<qint64>{7});
     EXPECT_EQ(Id("", "serbanescu"), QList<qint64>{});
 }
 
-// A titular removed by an older program or an import leaves a row with no name, which opens and
-// deletes.
+// A request without its titular shows, opens and deletes.
 TEST_P(Lista, CerereaFaraTitularSeVedeSiSeSterge) {
     ExecutaCu(Bd(), QStringLiteral("UPDATE Cereri SET MembruID1 = NULL WHERE CerereID = 3"));
     ExecutaCu(Bd(), QStringLiteral("DELETE FROM Membrii WHERE MembruID = 5"));
     EXPECT_EQ(Toate(), (QList<qint64>{3, 2, 1}));
     const RandCerere r = ListaCereri::Citeste(Bd(), 3);
-    EXPECT_EQ(r.Solicitant, QString());
-    EXPECT_EQ(r.Adresa, QStringLiteral("Cernica, nr. 12"));
+    EXPECT_EQ(r.Solicitant + u'|' + r.Adresa, QStringLiteral("|Cernica, nr. 12"));
     EXPECT_TRUE(IncarcaCerere(Bd(), 3, 3, 2024, mesaje).Gasita);
     ListaCereri::Sterge(Bd(), 3);
     EXPECT_EQ(Toate(), (QList<qint64>{2, 1}));
     EXPECT_EQ(ListaCereri::Citeste(Bd(), 3).CerereID, 0);
 }
 
-// A delete keeps the persons and the family that another request holds; the last request takes
-// its family, found by the request's family key, not by the number of the request.
+// A delete keeps what another request holds; the last takes its family, found by its family key.
 TEST_P(Lista, StergereaPastreazaFamiliaSiPersoaneleComune) {
     AdaugaCerereTest(Bd(), {5, 6, 40, 2, 1, {}, {}, {{6, "Stan", "Ion", {}, 1}}});
     AdaugaCerereTest(Bd(), {7, 5, 41, 2, 1, {}, {}, {{7, "Dinu", "Ana", {}, 1}}});
@@ -118,12 +93,13 @@ TEST_P(Lista, StergereaPastreazaFamiliaSiPersoaneleComune) {
     const auto numar = [&](const char* sql) { return Numar(QLatin1String(sql)); };
     ListaCereri::Sterge(Bd(), 5);
     EXPECT_EQ(numar("SELECT COUNT(*) FROM Familii WHERE FamilieID IN (5, 6)"), 1);
-    EXPECT_EQ(numar("SELECT COUNT(*) FROM Familii WHERE FamilieID = 5"), 1);
+    EXPECT_EQ(numar("SELECT FamilieID FROM Familii WHERE FamilieID IN (5, 6)"), 5);
     ListaCereri::Sterge(Bd(), 8); // titular and family both held by another request
     ListaCereri::Sterge(Bd(), 2);
     EXPECT_EQ(numar("SELECT COUNT(*) FROM Membrii WHERE MembruID IN (1, 2)"), 2) << "shared persons stay";
-    EXPECT_EQ(numar("SELECT COUNT(*) FROM Membrii WHERE MembruID IN (3, 4)"), 0);
-    EXPECT_EQ(numar("SELECT COUNT(*) FROM CereriMembrii WHERE CerereID IN (2, 8)"), 0);
+    EXPECT_EQ(numar("SELECT COUNT(*) FROM Membrii WHERE MembruID IN (3, 4)") +
+                  numar("SELECT COUNT(*) FROM CereriMembrii WHERE CerereID IN (2, 8)"),
+              0);
     EXPECT_EQ(numar("SELECT COUNT(*) FROM Familii WHERE FamilieID = 1"), 1);
     ListaCereri::Sterge(Bd(), 1);
     EXPECT_EQ(numar("SELECT COUNT(*) FROM Familii WHERE FamilieID = 1"), 0);

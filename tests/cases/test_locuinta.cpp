@@ -14,9 +14,7 @@ TEST(Locuinta, NumarulDeCamereDinText) {
         EXPECT_EQ(NrCamereDinText(QString::fromLatin1(text)), camere) << text;
 }
 
-// What the dialog opens with comes back unchanged, but for the eighth mark, which no box shows:
-// OK clears all eight marks first and keeps each mark's rooms; the insurance boxes are taken as
-// they stand, with or without a policy. Rooms outside a byte are refused and nothing is copied.
+// OK clears all eight marks (the eighth has no box) and keeps their rooms; bad rooms copy nothing.
 TEST(Locuinta, ControaleleDinStareSiInapoi) {
     StareCerere s;
     s.LocuinteSel[0] = {3, true};

@@ -2,7 +2,6 @@
 #include "cases/Dispozitii.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
-#include "support/SqlTest.h"
 
 namespace {
 
@@ -17,15 +16,13 @@ protected:
     }
 };
 
-// The notice of certificates that expire: a current one, of a request in payment, in the
-// calendar month of the day.
+// The notice: a current certificate of a paying request expiring in the calendar month.
 TEST_P(Paneluri, ActeCareExpiraDoarCurenteSiInPlataInLunaCalendaristica) {
     const QDate azi(2026, 11, 22);
     const std::tuple<qint64, QDate, int, bool> cazuri[] = {
         {1, QDate(2026, 11, 1), 1, true},   {1, QDate(2026, 11, 30), 1, true},  {1, QDate(2026, 12, 1), 1, false},
         {1, QDate(2026, 10, 31), 1, false}, {1, QDate(2026, 11, 15), 0, false}, {2, QDate(2026, 11, 15), 1, false},
-        {1, QDate(2025, 11, 15), 1, false},
-    };
+        {1, QDate(2025, 11, 15), 1, false}};
     for (const auto& [cerere, expira, curenta, gasit] : cazuri) {
         Bd().Executa(QStringLiteral("DELETE FROM Adeverinte"));
         ExecutaCu(Bd(),

@@ -1,5 +1,4 @@
 #include "base/Eroare.h"
-#include "base/Sume.h"
 #include "cases/CalculCuantum.h"
 #include "cases/VenituriBunuri.h"
 #include "support/BazaTest.h"
@@ -54,9 +53,8 @@ TEST_P(VenituriBunuri, GrilaVenituriiArataStareaSiTotalul) {
     v[78] = B("7"); // no row of the catalogue shows it
     GrilaVenituri g(CitesteListaVenituri(Bd()), v);
     EXPECT_EQ(g.TextTotal(), T("Total venituri: 150.25 lei"));
-    EXPECT_EQ(g.Seteaza(1, T("1.234,5")), B("1234.5"));
-    EXPECT_THROW(g.Seteaza(1, T("abc")), Eroare);
-    EXPECT_EQ(g.Suma(1), B("1234.5"));
+    g.Seteaza(1, T("1.234,5"));
+    EXPECT_THROW(g.Seteaza(1, T("abc")), Eroare) << "a refused text keeps the amount";
     g.Seteaza(0, QString());
     EXPECT_EQ(g.Total(), B("1284.75"));
     std::array<Bani, 79> scrise = v;
@@ -99,12 +97,8 @@ TEST_P(VenituriBunuri, BifeleSiBunurileDinDialogInCuantum) {
     const CatalogBife catalog = CitesteListaBife(Bd());
     StareCerere s;
     std::vector<MembruCerere> m(4);
-    m[0].RudenieID = 1;
-    m[1].RudenieID = 2;
-    for (size_t i : {2u, 3u}) {
-        m[i].RudenieID = 3;
-        m[i].Data18Ani = QDate(2030, 1, 1);
-    }
+    for (size_t i = 0; i < m.size(); ++i)
+        m[i].RudenieID = i < 2 ? int(i) + 1 : 3, m[i].Data18Ani = QDate(2030, 1, 1);
     s.MatriceMembri = m;
     const auto cuantum = [&] {
         return CalculCuantum({s, 1, QDate(2014, 12, 1), T("100"), 12, 2014}, IncarcaParametri(Bd()), mesaje).Cuantum;
