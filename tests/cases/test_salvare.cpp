@@ -1,23 +1,13 @@
-#include "cases/DateCerere.h"
-#include "cases/SalvareCerere.h"
 #include "base/BlocareFisier.h"
-#include "base/Ceas.h"
 #include "base/Eroare.h"
-#include "maintenance/Demo.h"
+#include "cases/SalvareCerere.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
 #include "support/DosarTest.h"
-#include "support/SqlTest.h"
 
 #include <QDir>
-#include <QFile>
 #include <gtest/gtest.h>
 #include <stdexcept>
-
-#ifdef Q_OS_UNIX
-#include <sys/wait.h>
-#include <unistd.h>
-#endif
 
 namespace {
 
@@ -27,7 +17,12 @@ protected:
         if (o.CaleBD.isEmpty()) o.CaleBD = Locatie().caleBD;
         return SalveazaCerere(Bd(), d.date, d.stare, d.iesiti, o, mesaje);
     }
-    CerereIncarcata Incarca(qint64 id) { return IncarcaCerere(Bd(), id, LunaDosar, AnDosar, mesaje); }
+    Dosar Redeschis(qint64 id) {
+        const CerereIncarcata c = IncarcaCerere(Bd(), id, LunaDosar, AnDosar, mesaje);
+        EXPECT_TRUE(c.Gasita);
+        return {c.Date, c.Stare, c.Iesiti};
+    }
+    qint64 Valoare(const char* sql, qint64 id) { return NumarRanduri(Bd(), QLatin1String(sql), id); }
     QStringList Denumiri(const char* tabela) {
         QStringList r;
         Interogare q(Bd(), QStringLiteral("SELECT Denumire FROM %1 ORDER BY Denumire").arg(QLatin1String(tabela)));
@@ -38,23 +33,14 @@ protected:
     }
 };
 
-// A new case file saved and opened again holds every field as entered; what the save computes
-// or the database gives (keys, amount, counts, texts of the lists) is what the rules say. A
-// change saved over it (a person leaves, a certificate is added, a good and a name change)
-// reads back the same way, and the leaver's certificates stay.
+// A case file saved and opened again holds every field, and so does a change saved over it.
 TEST_P(Salvare, DosarulSalvatSeCitesteInapoiCamp_cuCamp) {
     BazaNoua();
     const Dosar intrare = DosarComplet(Bd());
     const RezultatSalvare r = Salveaza(intrare);
     ASSERT_EQ(r.stare, RezultatSalvare::Stare::Salvata);
     EXPECT_EQ(r.CerereID, 1);
-    EXPECT_EQ(r.FamilieID, 1);
     EXPECT_EQ(r.Cuantum, CuantumDosar);
-    EXPECT_EQ(mesaje.Texte(), QStringList());
-
-    CerereIncarcata c = Incarca(r.CerereID);
-    ASSERT_TRUE(c.Gasita);
-    EXPECT_EQ(mesaje.Texte(), QStringList()) << "the stored NrCopii agrees with the database count";
 
     Dosar asteptat = intrare;
     asteptat.date.Adaug = 2;
@@ -71,192 +57,122 @@ TEST_P(Salvare, DosarulSalvatSeCitesteInapoiCamp_cuCamp) {
         for (AdeverintaMembru& a : p.Adeverinte)
             a.AdevID = ++adev;
     }
-    ExpectDateEgale(c.Date, asteptat.date);
-    ExpectStareEgala(c.Stare, asteptat.stare);
-    EXPECT_TRUE(c.Iesiti.empty());
+    Dosar c = Redeschis(1);
+    EXPECT_EQ(mesaje.Texte(), QStringList()) << "the stored NrCopii agrees with the database count";
+    ExpectDateEgale(c.date, asteptat.date);
+    ExpectStareEgala(c.stare, asteptat.stare);
+    EXPECT_TRUE(c.iesiti.empty());
 
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Familii WHERE FamilieID = ?"), 1), 1);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT MembruID1 FROM Cereri WHERE CerereID = ?"), 1), 1);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT MembruID2 FROM Cereri WHERE CerereID = ?"), 1), 2);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM BifeText WHERE CerereID = ?"), 1), 3);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM BifeText WHERE CerereID = ? AND NrBifa = 83"), 1),
-              1);
-    EXPECT_EQ(
-        NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Venituri WHERE CerereID = ? AND CodVenit = 79"), 1), 1);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Locuinte WHERE CerereID = ? AND Cod = 8"), 1), 1);
-    {
-        Interogare q(Bd(), QStringLiteral("SELECT A1Solicita FROM Cereri WHERE CerereID = ?"));
-        q.Leaga(1);
-        ASSERT_TRUE(q.Exista());
-        EXPECT_EQ(q.Valoare(0).toString(), QStringLiteral("011"));
-    }
+    // Where the entries go: titular and partner, good i as NrBifa i + 9, income i as CodVenit i + 1,
+    // housing kind i as Cod i + 1, the three boxes of what is asked for as one text.
+    const std::pair<const char*, qint64> randuri[] = {
+        {"SELECT MembruID1 FROM Cereri WHERE CerereID = ?", 1},
+        {"SELECT MembruID2 FROM Cereri WHERE CerereID = ?", 2},
+        {"SELECT COUNT(*) FROM BifeText WHERE CerereID = ? AND NrBifa IN (10, 29, 83)", 3},
+        {"SELECT COUNT(*) FROM Venituri WHERE CerereID = ? AND CodVenit IN (1, 6, 79)", 3},
+        {"SELECT COUNT(*) FROM Locuinte WHERE CerereID = ? AND Cod IN (1, 3, 8)", 3},
+        {"SELECT COUNT(*) FROM Cereri WHERE CerereID = ? AND A1Solicita = '011'", 1},
+    };
+    for (const auto& [sql, n] : randuri)
+        EXPECT_EQ(Valoare(sql, 1), n) << sql;
 
     // The change: Elena leaves, Andrei brings a new certificate, one good is gone, a name changes.
-    Dosar schimbat{c.Date, c.Stare, c.Iesiti};
-    std::vector<MembruCerere>& m = *schimbat.stare.MatriceMembri;
+    std::vector<MembruCerere>& m = *c.stare.MatriceMembri;
     ASSERT_EQ(m[3].Prenume, QStringLiteral("Elena"));
-    MembruIesit elena;
-    elena.MembruID = m[3].MembruID;
-    elena.Nume = m[3].Nume;
-    elena.Prenume = m[3].Prenume;
-    elena.CNP = m[3].CNP;
-    elena.Rudenie = m[3].Rudenie;
-    elena.RudenieID = 3;
-    elena.MotivID = 1;
-    elena.Suma = B("50.75");
-    elena.TipValuta = 1;
-    schimbat.iesiti.push_back(elena);
+    const MembruIesit elena{
+        m[3].MembruID, m[3].Nume, m[3].Prenume, m[3].CNP, m[3].Rudenie, B("50.75"), {}, {}, 3, 1, 1};
+    c.iesiti.push_back(elena);
     m.erase(m.begin() + 3);
     m[2].Adeverinte.insert(m[2].Adeverinte.begin(),
                            Adeverinta(3, "S-70", {2015, 1, 10}, {2015, 1, 12}, {2015, 9, 30}, 1));
     m[2].Adeverinte[1].AdvCurenta = 0;
     m[0].Nume = QStringLiteral("Popescu-Radu");
-    schimbat.stare.Bunuri[20] = Bani();
-    schimbat.stare.Venituri[5] = B("250");
-    schimbat.date.txtCerere[12] = QStringLiteral("650.5");
+    c.stare.Bunuri[20] = Bani();
+    c.stare.Venituri[5] = B("250");
+    c.date.txtCerere[12] = QStringLiteral("650.5");
     mesaje.mesaje.clear();
-    const RezultatSalvare r2 = Salveaza(schimbat);
+    const RezultatSalvare r2 = Salveaza(c);
     ASSERT_EQ(r2.stare, RezultatSalvare::Stare::Salvata);
-    EXPECT_EQ(r2.CerereID, 1);
     EXPECT_EQ(mesaje.Texte(), QStringList());
 
-    const CerereIncarcata c2 = Incarca(1);
-    ASSERT_TRUE(c2.Gasita);
-    Dosar asteptat2 = schimbat;
+    Dosar asteptat2 = c;
     asteptat2.date.txtCerere[15] = QStringLiteral("5");
     (*asteptat2.stare.MatriceMembri)[2].Adeverinte[0].AdevID = 7; // Elena's certificate 6 stays taken
-    ExpectDateEgale(c2.Date, asteptat2.date);
-    ExpectStareEgala(c2.Stare, asteptat2.stare);
-    ASSERT_EQ(c2.Iesiti.size(), 1u);
-    EXPECT_EQ(c2.Iesiti[0], elena);
-    EXPECT_EQ(c2.Iesiti[0].Rudenie, ContinutDateGen(Bd(), 2, 3));
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Adeverinte WHERE MembruID = ?"), elena.MembruID),
-              1)
+    const Dosar c2 = Redeschis(1);
+    ExpectDateEgale(c2.date, asteptat2.date);
+    ExpectStareEgala(c2.stare, asteptat2.stare);
+    EXPECT_EQ(c2.iesiti, std::vector<MembruIesit>{elena});
+    EXPECT_EQ(Valoare("SELECT COUNT(*) FROM Adeverinte WHERE MembruID = ?", elena.MembruID), 1)
         << "the certificates of a person who left stay";
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM BifeText WHERE CerereID = ?"), 1), 2);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Membrii WHERE MembruID = ?"), elena.MembruID), 1);
+    EXPECT_EQ(Valoare("SELECT COUNT(*) FROM BifeText WHERE CerereID = ?", 1), 2);
 }
 
-// The names typed into a case file that the reference lists lack are added once each, whatever
-// their letters' case and diacritics; the street of residence and a blank name add nothing.
+// New names go once into the reference lists, whatever their case and diacritics; blanks add nothing.
 TEST_P(Salvare, ListeleDeReferintaCrescCuNumeleNoi) {
     BazaNoua();
     Dosar d = DosarComplet(Bd());
-    {
-        Tranzactie t(Bd());
-        ExecutaCu(Bd(), QStringLiteral("INSERT INTO Scoli (ScoalaID, Denumire, LocalitateID) VALUES (7, ?, 2)"),
-                  QStringLiteral("LICEUL TEORETIC"));
-        // An old file's cedillas; the titular's issuer is typed with commas below, another's with no diacritics.
-        ExecutaCu(Bd(), QStringLiteral("INSERT INTO Politii (PolitiaID, Denumire, LocalitateID) VALUES (3, ?, 2)"),
-                  QString::fromUtf8("SPCLEP Br\u0103ne\u015Fti"));
-        t.Confirma();
-    }
+    ExecutaCu(Bd(), QStringLiteral("INSERT INTO Scoli (ScoalaID, Denumire, LocalitateID) VALUES (7, ?, 2)"),
+              QStringLiteral("LICEUL TEORETIC"));
+    // An old file's cedillas; the titular's issuer is typed with commas below, another's with no diacritics.
+    ExecutaCu(Bd(), QStringLiteral("INSERT INTO Politii (PolitiaID, Denumire, LocalitateID) VALUES (3, ?, 2)"),
+              QString::fromUtf8("SPCLEP Br\u0103ne\u015Fti"));
     (*d.stare.MatriceMembri)[0].Eliberat = QString::fromUtf8("SPCLEP Br\u0103ne\u0219ti");
     (*d.stare.MatriceMembri)[1].Eliberat = QStringLiteral("   ");
     ASSERT_EQ(Salveaza(d).stare, RezultatSalvare::Stare::Salvata);
-    EXPECT_EQ(Denumiri("Strazi"), QStringList{QStringLiteral("Strada Morii")});
-    EXPECT_EQ(Denumiri("Politii"), QStringList{QString::fromUtf8("SPCLEP Br\u0103ne\u015Fti")});
-    EXPECT_EQ(Denumiri("Scoli"),
-              (QStringList{QStringLiteral("LICEUL TEORETIC"), QStringLiteral("Scoala Gimnaziala nr. 1")}));
-    EXPECT_EQ(Denumiri("LocScolare"), (QStringList{QStringLiteral("Branesti"), QStringLiteral("Buftea")}));
-    EXPECT_EQ(Denumiri("Motive"),
-              (QStringList{QStringLiteral("Indeplineste conditiile"), QStringLiteral("Schimbare domiciliu")}));
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Strazi WHERE LocalitateID = ?"), 1), 1);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT ScoalaID FROM Scoli WHERE LocalitateID = ?"), 1), 8);
-
-    // The request keeps the street's name, not its key.
-    Interogare q(Bd(), QStringLiteral("SELECT Strada, StradaR FROM Familii"));
-    ASSERT_TRUE(q.Exista());
-    EXPECT_EQ(q.Text(QStringLiteral("Strada")), QStringLiteral("Strada Morii"));
-    EXPECT_EQ(q.Text(QStringLiteral("StradaR")), QStringLiteral("Strada Garii"));
+    EXPECT_EQ(Denumiri("Strazi") + Denumiri("Politii") + Denumiri("Scoli") + Denumiri("LocScolare") +
+                  Denumiri("Motive"),
+              (QStringList{"Strada Morii", QString::fromUtf8("SPCLEP Br\u0103ne\u015Fti"), "LICEUL TEORETIC",
+                           "Scoala Gimnaziala nr. 1", "Branesti", "Buftea", "Indeplineste conditiile",
+                           "Schimbare domiciliu"}));
+    EXPECT_EQ(Valoare("SELECT ScoalaID FROM Scoli WHERE LocalitateID = ?", 1), 8);
 
     const auto inainte = Instantaneu(Bd());
-    d.date.Adaug = 1;
     ASSERT_EQ(Salveaza(d).stare, RezultatSalvare::Stare::Salvata);
     const auto dupa = Instantaneu(Bd());
     for (const char* t : {"Strazi", "Politii", "Scoli", "LocScolare", "Motive"})
         EXPECT_EQ(dupa.at(QLatin1String(t)), inainte.at(QLatin1String(t))) << t;
 }
 
-// A person known from one request is the same Membrii row on the next: found by CNP, or by its
-// key when it has no CNP; what the second request says of the person is what stays.
+// A known person is the same Membrii row on the next request: by CNP, or by key without one.
 TEST_P(Salvare, PersoanaCunoscutaEsteReutilizata) {
     BazaNoua();
     const Dosar a = DosarComplet(Bd());
     ASSERT_EQ(Salveaza(a).stare, RezultatSalvare::Stare::Salvata);
-    const CerereIncarcata incarcata = Incarca(1);
-    const qint64 titular = (*incarcata.Stare.MatriceMembri)[0].MembruID;
-    const qint64 persoaneInainte = Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii"));
-
-    struct Caz {
-        const char* nume;
-        qint64 membruID; // what the list holds for the titular
-        const char* cnpCopil;
-    };
-    const Caz cazuri[] = {
-        {"dupa CNP, fara cheie", 0, "5120101400077"},
-        {"dupa CNP si cheie", titular, "5120101400088"},
-    };
-    qint64 nrCerere = 500, cereriAleTitularului = 1, persoane = persoaneInainte;
-    for (const Caz& caz : cazuri) {
-        SCOPED_TRACE(caz.nume);
+    const qint64 titular = 1;
+    // The key the list holds for the titular, its CNP, and the persons new: the child, or nobody.
+    const std::tuple<qint64, const char*, qint64> cazuri[] = {
+        {0, "1850305400011", 1}, {titular, "1850305400011", 1}, {titular, "", 0}};
+    qint64 nrCerere = 500;
+    for (const auto& [membruID, cnpTitular, persoaneNoi] : cazuri) {
+        SCOPED_TRACE(nrCerere);
+        if (!*cnpTitular) ExecutaCu(Bd(), QStringLiteral("UPDATE Membrii SET CNP = NULL WHERE MembruID = ?"), 1);
         Dosar b;
         b.date = a.date;
-        b.date.txtCerere[0] = QString::number(nrCerere);
-        b.date.txtCerere[1] = QString::number(nrCerere++);
-        b.date.cboCerere[3] = {2, TextTipCerere(2)};
+        b.date.txtCerere[1] = QString::number(nrCerere);
         MembruCerere t = (*a.stare.MatriceMembri)[0];
-        t.MembruID = caz.membruID;
-        t.Nume = QStringLiteral("Popa");
+        t.MembruID = membruID;
+        t.CNP = QLatin1String(cnpTitular);
+        t.Nume = QStringLiteral("Popa%1").arg(nrCerere);
         t.Adeverinte.clear();
         MembruCerere copil = (*a.stare.MatriceMembri)[2];
-        copil.CNP = QString::fromLatin1(caz.cnpCopil);
+        copil.CNP = QStringLiteral("5120101400%1").arg(nrCerere++);
         copil.Adeverinte.clear();
         b.stare.MatriceMembri = std::vector<MembruCerere>{t, copil};
+        if (persoaneNoi == 0) b.stare.MatriceMembri->pop_back();
+        const qint64 persoane = Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii"));
         const RezultatSalvare r = Salveaza(b);
         ASSERT_EQ(r.stare, RezultatSalvare::Stare::Salvata);
-        EXPECT_NE(r.CerereID, 1);
-        EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT MembruID1 FROM Cereri WHERE CerereID = ?"), r.CerereID),
-                  titular);
-        EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE MembruID = ?"), titular),
-                  ++cereriAleTitularului);
-        EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii")), ++persoane) << "only the child is new";
-        Interogare q(Bd(), QStringLiteral("SELECT Nume FROM Membrii WHERE MembruID = ?"));
-        q.Leaga(titular);
-        ASSERT_TRUE(q.Exista());
-        EXPECT_EQ(q.Valoare(0).toString(), QStringLiteral("Popa")) << "the person changes for every request";
-        // The first request sees the same person.
-        EXPECT_EQ((*Incarca(1).Stare.MatriceMembri)[0].Nume, QStringLiteral("Popa"));
-    }
-
-    // Without a CNP, a person keeps its own row by its key.
-    {
-        ExecutaCu(Bd(), QStringLiteral("UPDATE Membrii SET CNP = NULL WHERE MembruID = ?"), titular);
-        Dosar c;
-        c.date = a.date;
-        c.date.txtCerere[1] = QStringLiteral("901");
-        MembruCerere t = (*a.stare.MatriceMembri)[0];
-        t.MembruID = titular;
-        t.CNP.clear();
-        t.Adeverinte.clear();
-        c.stare.MatriceMembri = std::vector<MembruCerere>{t};
-        const qint64 inainte = Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii"));
-        const RezultatSalvare r = Salveaza(c);
-        ASSERT_EQ(r.stare, RezultatSalvare::Stare::Salvata);
-        EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii")), inainte);
-        EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT MembruID1 FROM Cereri WHERE CerereID = ?"), r.CerereID),
-                  titular);
+        EXPECT_EQ(Valoare("SELECT MembruID1 FROM Cereri WHERE CerereID = ?", r.CerereID), titular);
+        EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii")), persoane + persoaneNoi);
+        EXPECT_EQ((*Redeschis(1).stare.MatriceMembri)[0].Nume, t.Nume) << "the first request sees the same person";
     }
 }
 
-// A failure at any step, or at the commit, leaves the database as it was and the editor's
-// data as they were, for a new request and for a change alike.
+// A failure at any step or at the commit leaves the database and the editor's data as they were.
 TEST_P(Salvare, EsecLaOricePasNuLasaNimicScris) {
     BazaNoua();
-    Dosar existent = DosarComplet(Bd());
-    ASSERT_EQ(Salveaza(existent).stare, RezultatSalvare::Stare::Salvata);
-    const CerereIncarcata c = Incarca(1);
-    Dosar schimbat{c.Date, c.Stare, c.Iesiti};
+    ASSERT_EQ(Salveaza(DosarComplet(Bd())).stare, RezultatSalvare::Stare::Salvata);
+    Dosar schimbat = Redeschis(1);
     (*schimbat.stare.MatriceMembri)[0].Nume = QStringLiteral("Altul");
     schimbat.stare.Venituri[3] = B("10");
     Dosar nou = DosarComplet(Bd());
@@ -291,9 +207,7 @@ TEST_P(Salvare, EsecLaOricePasNuLasaNimicScris) {
 
     // The database itself refuses at the commit: a leaver whose person no longer exists.
     Dosar iesitLipsa = schimbat;
-    MembruIesit fantoma;
-    fantoma.MembruID = 987654;
-    iesitLipsa.iesiti.push_back(fantoma);
+    iesitLipsa.iesiti.emplace_back().MembruID = 987654;
     const auto inainte = Instantaneu(Bd());
     EXPECT_THROW(Salveaza(iesitLipsa), Eroare);
     EXPECT_EQ(Instantaneu(Bd()), inainte);
@@ -303,44 +217,30 @@ TEST_P(Salvare, EsecLaOricePasNuLasaNimicScris) {
     EXPECT_NE(Instantaneu(Bd()), inainte);
 }
 
-// Texts longer than their field are refused before anything is written, on both engines alike;
-// so is a CNP that stands twice in the list.
+// Texts or numbers too big for their field, or a CNP twice, are refused before anything is written.
 TEST_P(Salvare, DateCareNuIncapSauSeRepetaSuntRefuzate) {
     BazaNoua();
-    struct Caz {
-        const char* nume;
-        std::function<void(Dosar&)> strica;
-        QString inText;
+    const std::pair<std::function<void(Dosar&)>, const char*> cazuri[] = {
+        {[](Dosar& d) { d.date.txtCerere[7] = QStringLiteral("0123456789012345"); }, "Telefon"},
+        {[](Dosar& d) { (*d.stare.MatriceMembri)[1].Nume = QString(51, u'A'); }, "Nume"},
+        {[](Dosar& d) { (*d.stare.MatriceMembri)[5].CNP = (*d.stare.MatriceMembri)[2].CNP; }, "apare de doua ori"},
+        {[](Dosar& d) { d.date.txtCerere[0] = QStringLiteral("9e99"); }, "Numarul dosarului"},
     };
-    const Caz cazuri[] = {
-        {"telefon prea lung", [](Dosar& d) { d.date.txtCerere[7] = QStringLiteral("0123456789012345"); },
-         QStringLiteral("Telefon")},
-        {"nume prea lung", [](Dosar& d) { (*d.stare.MatriceMembri)[1].Nume = QString(51, u'A'); },
-         QStringLiteral("Nume")},
-        {"strada prea lunga", [](Dosar& d) { d.date.cboCerere[0].text = QString(51, u'S'); },
-         QStringLiteral("Denumire")},
-        {"acelasi CNP de doua ori", [](Dosar& d) { (*d.stare.MatriceMembri)[5].CNP = (*d.stare.MatriceMembri)[2].CNP; },
-         QStringLiteral("apare de doua ori")},
-        {"numar de dosar prea mare", [](Dosar& d) { d.date.txtCerere[0] = QStringLiteral("9e99"); },
-         QStringLiteral("Numarul dosarului")},
-    };
-    for (const Caz& caz : cazuri) {
-        SCOPED_TRACE(caz.nume);
+    for (const auto& [strica, inText] : cazuri) {
         Dosar d = DosarComplet(Bd());
-        caz.strica(d);
+        strica(d);
         const auto inainte = Instantaneu(Bd());
         try {
             Salveaza(d);
-            ADD_FAILURE() << "saved";
+            ADD_FAILURE() << inText;
         } catch (const Eroare& e) {
-            EXPECT_TRUE(e.text().contains(caz.inText)) << e.text().toStdString();
+            EXPECT_TRUE(e.text().contains(QLatin1String(inText))) << e.text().toStdString();
         }
         EXPECT_EQ(Instantaneu(Bd()), inainte);
     }
 }
 
-// With ReteaSetat on, a save while snet.txt is locked elsewhere stops at once with the message
-// and writes nothing; free, it asks "Salvati?" and No writes nothing either.
+// With ReteaSetat, snet.txt locked elsewhere stops the save; free, "Salvati?"; held while writing.
 TEST_P(Salvare, FisierulSnetOpresteAlDoileaCalculator) {
     BazaNoua();
     const Dosar d = DosarComplet(Bd());
@@ -352,19 +252,13 @@ TEST_P(Salvare, FisierulSnetOpresteAlDoileaCalculator) {
     {
         BlocareFisier altCalculator(snet);
         ASSERT_TRUE(altCalculator.Obtine());
-        const RezultatSalvare r = Salveaza(d, o);
-        EXPECT_EQ(r.stare, RezultatSalvare::Stare::Oprita);
-        EXPECT_EQ(mesaje.Texte(), QStringList{TextSalvareInCurs});
-        EXPECT_EQ(Instantaneu(Bd()), gol);
+        EXPECT_EQ(Salveaza(d, o).stare, RezultatSalvare::Stare::Oprita);
     }
-    mesaje.mesaje.clear();
     mesaje.raspunsuri = {false};
     EXPECT_EQ(Salveaza(d, o).stare, RezultatSalvare::Stare::Oprita);
-    EXPECT_EQ(mesaje.Texte(MesajeInregistrate::Fel::Intrebare), QStringList{QStringLiteral("Salvati?")});
+    EXPECT_EQ(mesaje.Texte(), (QStringList{TextSalvareInCurs, QStringLiteral("Salvati?")}));
     EXPECT_EQ(Instantaneu(Bd()), gol);
 
-    // Held during the write, released after it: another holder can take it once the save is over.
-    mesaje.mesaje.clear();
     bool blocatInTimpulScrierii = false;
     o.DupaPas = [&](PasSalvare p) {
         if (p == PasSalvare::Cereri) blocatInTimpulScrierii = !BlocareFisier(snet).Obtine();
@@ -372,65 +266,38 @@ TEST_P(Salvare, FisierulSnetOpresteAlDoileaCalculator) {
     EXPECT_EQ(Salveaza(d, o).stare, RezultatSalvare::Stare::Salvata);
     EXPECT_TRUE(blocatInTimpulScrierii);
     EXPECT_TRUE(BlocareFisier(snet).Obtine());
-    EXPECT_EQ(mesaje.Texte(), QStringList{QStringLiteral("Salvati?")});
 
-    // Off: neither the file nor the question.
-    mesaje.mesaje.clear();
     BlocareFisier tinut(snet);
     ASSERT_TRUE(tinut.Obtine());
     o.ReteaSetat = false;
     o.DupaPas = nullptr;
     EXPECT_EQ(Salveaza(d, o).stare, RezultatSalvare::Stare::Salvata);
-    EXPECT_EQ(mesaje.Texte(), (QStringList{QStringLiteral("Numarul 1234 a fost alocat altui dosar"),
-                                           QStringLiteral("Numarul 77 a fost alocat altei cereri")}));
+    EXPECT_EQ(mesaje.Texte(MesajeInregistrate::Fel::Intrebare).size(), 2) << "no question without ReteaSetat";
 }
 
-// New keys are the next free ones: two saves in a row, a request whose number is above every
-// family's, and a save after generated data.
+// New keys are the next free ones, in both Familii and Cereri, and past others' persons and certificates.
 TEST_P(Salvare, CheileNoiNuSeCiocnesc) {
     BazaNoua();
     const Dosar d = DosarComplet(Bd());
     const RezultatSalvare a = Salveaza(d);
     const RezultatSalvare b = Salveaza(d);
-    ASSERT_EQ(a.stare, RezultatSalvare::Stare::Salvata);
-    ASSERT_EQ(b.stare, RezultatSalvare::Stare::Salvata);
-    EXPECT_EQ(a.CerereID, a.FamilieID);
-    EXPECT_EQ(b.CerereID, b.FamilieID);
-    EXPECT_EQ(b.CerereID, a.CerereID + 1);
+    EXPECT_EQ((std::array{a.FamilieID, b.CerereID, b.FamilieID}),
+              (std::array{a.CerereID, a.CerereID + 1, a.CerereID + 1}));
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii")), 6) << "the second request re-used the persons";
-    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Adeverinte")), 12);
 
-    // A request numbered above the families (its family has another number).
+    // A request numbered above the families, with a person and a certificate of high keys.
     AdaugaCerereTest(Bd(), {40, 1, 9, 2, 1, QStringLiteral("Branesti"), {}, {{100, "Dan", "Ion", "1700101400012", 1}}});
-    const RezultatSalvare c = Salveaza(d);
-    EXPECT_EQ(c.CerereID, 41);
-    EXPECT_EQ(c.FamilieID, 41);
-
-    Ceas::SeteazaAzi(QDate(2025, 6, 18));
-    Demo::Optiuni o;
-    o.cereri = 25;
-    Demo::Genereaza(Bd(), o);
-    Ceas::SeteazaAzi(QDate());
-    const qint64 maxCerere = Numar(QStringLiteral("SELECT MAX(CerereID) FROM Cereri"));
-    const qint64 maxMembru = Numar(QStringLiteral("SELECT MAX(MembruID) FROM Membrii"));
-    const qint64 maxAdev = Numar(QStringLiteral("SELECT MAX(AdevID) FROM Adeverinte"));
-    Dosar strain = DosarComplet(Bd());
-    const char* cnpuri[] = {"1850305400111", "2870912400122", "5080417400133",
-                            "6050101400144", "1500720400155", "6100228400166"};
-    for (size_t i = 0; i < 6; ++i)
-        (*strain.stare.MatriceMembri)[i].CNP = QString::fromLatin1(cnpuri[i]);
-    const RezultatSalvare e = Salveaza(strain);
-    ASSERT_EQ(e.stare, RezultatSalvare::Stare::Salvata);
-    EXPECT_EQ(e.CerereID, maxCerere + 1);
-    EXPECT_EQ(
-        NumarRanduri(Bd(), QStringLiteral("SELECT MIN(MembruID) FROM CereriMembrii WHERE CerereID = ?"), e.CerereID),
-        maxMembru + 1);
-    EXPECT_EQ(Numar(QStringLiteral("SELECT MAX(AdevID) FROM Adeverinte")), maxAdev + 6);
+    ExecutaCu(Bd(), QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID) VALUES (50, 40, 100)"));
+    Dosar strain = d;
+    for (MembruCerere& m : *strain.stare.MatriceMembri)
+        m.CNP.replace(9, 1, u'9');
+    const RezultatSalvare c = Salveaza(strain);
+    EXPECT_EQ((std::array{c.CerereID, c.FamilieID}), (std::array<qint64, 2>{41, 41}));
+    EXPECT_EQ(Valoare("SELECT MIN(MembruID) FROM CereriMembrii WHERE CerereID = ?", c.CerereID), 101);
+    EXPECT_EQ(Valoare("SELECT MIN(AdevID) FROM Adeverinte WHERE CerereID = ?", c.CerereID), 51);
 }
 
-// What happens around the write: the reminder when DataStare is not the first of its month,
-// the warning of a dossier number held by another family, a request deleted meanwhile, and a
-// request without income.
+// Around the write: the DataStare reminder, a dossier number taken, a request deleted, a failed check.
 TEST_P(Salvare, MesajeleDinJurulSalvarii) {
     BazaNoua();
     Dosar d = DosarComplet(Bd());
@@ -446,79 +313,29 @@ TEST_P(Salvare, MesajeleDinJurulSalvarii) {
     ASSERT_EQ(Salveaza(d).stare, RezultatSalvare::Stare::Salvata);
     EXPECT_EQ(mesaje.Texte(), QStringList{QStringLiteral("Numarul 1234 a fost alocat altui dosar")});
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Familii WHERE NrDosar = 1234")), 2);
-    EXPECT_EQ(NumarRanduri(Bd(), QStringLiteral("SELECT COUNT(*) FROM Venituri WHERE CerereID = ?"), 2), 0);
+
+    // Stored before the income per member was kept: opens with a blank box and saves as with 0.
+    ExecutaCu(Bd(), QStringLiteral("UPDATE Cereri SET VenitpeMembru = NULL, VenitTotal = NULL WHERE CerereID = ?"), 1);
+    mesaje.mesaje.clear();
+    EXPECT_EQ(Salveaza(Redeschis(1)).stare, RezultatSalvare::Stare::Salvata) << mesaje.Texte().join(u'|').toStdString();
 
     // The request is deleted by another computer while the editor is open.
-    CerereIncarcata c = Incarca(2);
+    const Dosar c = Redeschis(2);
     ExecutaCu(Bd(), QStringLiteral("DELETE FROM Familii WHERE FamilieID = ?"), 2);
     mesaje.mesaje.clear();
     const auto inainte = Instantaneu(Bd());
-    const RezultatSalvare r = SalveazaCerere(Bd(), c.Date, c.Stare, c.Iesiti, OptiuniDosar(), mesaje);
-    EXPECT_EQ(r.stare, RezultatSalvare::Stare::InchideEditor);
-    EXPECT_EQ(mesaje.Texte(),
-              QStringList{QStringLiteral("Aceasta cerere a fost stearsa de alt utilizator. Modificarile "
-                                         "dvs. nu pot avea loc. Aceasta fereastra se va inchide!")});
+    EXPECT_EQ(Salveaza(c).stare, RezultatSalvare::Stare::InchideEditor);
+    EXPECT_EQ(mesaje.Texte().size(), 1);
     EXPECT_EQ(Instantaneu(Bd()), inainte);
 
     // A failed check is shown, names its control, and writes nothing.
-    mesaje.mesaje.clear();
     d.date.txtCerere[6] = QStringLiteral("  ");
     const RezultatSalvare v = Salveaza(d);
-    EXPECT_EQ(v.stare, RezultatSalvare::Stare::Oprita);
-    EXPECT_EQ(v.Control, QStringLiteral("txtCerere_6"));
-    EXPECT_EQ(mesaje.Texte().last(), QStringLiteral("Nu puteti salva datele inainte de a introduce Judetul"));
+    EXPECT_TRUE(v.stare == RezultatSalvare::Stare::Oprita && v.Control == QStringLiteral("txtCerere_6"));
+    EXPECT_TRUE(mesaje.Texte().last().endsWith(QStringLiteral("Judetul")));
     EXPECT_EQ(Instantaneu(Bd()), inainte);
 }
 
-// Requests stored before the income per member was kept open with a blank box and save as with 0.
-TEST_P(Salvare, CerereaFaraVenitPeMembruSeSalveaza) {
-    BazaNoua();
-    const RezultatSalvare r = Salveaza(DosarComplet(Bd()));
-    ASSERT_EQ(r.stare, RezultatSalvare::Stare::Salvata);
-    ExecutaCu(Bd(), QStringLiteral("UPDATE Cereri SET VenitpeMembru = NULL, VenitTotal = NULL WHERE CerereID = ?"),
-              r.CerereID);
-    CerereIncarcata c = Incarca(r.CerereID);
-    ASSERT_TRUE(c.Gasita);
-    mesaje.mesaje.clear();
-    const RezultatSalvare s = SalveazaCerere(Bd(), c.Date, c.Stare, c.Iesiti, OptiuniDosar(), mesaje);
-    EXPECT_EQ(s.stare, RezultatSalvare::Stare::Salvata) << mesaje.Texte().join(u'\n').toStdString();
-}
-
 PE_AMBELE_MOTOARE(Salvare);
-
-// The lock of snet.txt: exclusive, never waiting, for another object of this process and for
-// another process; it goes with its holder.
-TEST(BlocareFisier, ADouaIncercareEsueazaImediat) {
-    QTemporaryDir dir;
-    const QString cale = QDir(dir.path()).filePath(QStringLiteral("snet.txt"));
-    BlocareFisier a(cale);
-    ASSERT_TRUE(a.Obtine());
-    EXPECT_TRUE(QFile::exists(cale));
-    BlocareFisier b(cale);
-    EXPECT_FALSE(b.Obtine());
-    EXPECT_FALSE(b.Detinuta());
-#ifdef Q_OS_UNIX
-    auto altProces = [&]() {
-        const pid_t pid = fork();
-        if (pid == 0) {
-            BlocareFisier c(cale);
-            _exit(c.Obtine() ? 0 : 1);
-        }
-        int stare = -1;
-        waitpid(pid, &stare, 0);
-        return WIFEXITED(stare) ? WEXITSTATUS(stare) : -1;
-    };
-    EXPECT_EQ(altProces(), 1);
-#endif
-    a.Elibereaza();
-    EXPECT_TRUE(b.Obtine());
-#ifdef Q_OS_UNIX
-    b.Elibereaza();
-    EXPECT_EQ(altProces(), 0);
-#endif
-
-    BlocareFisier faraFolder(QDir(dir.path()).filePath(QStringLiteral("lipsa/snet.txt")));
-    EXPECT_FALSE(faraFolder.Obtine());
-}
 
 } // namespace
