@@ -85,6 +85,10 @@ QDate DataNasterii(const QString& cnp, bool adauga18, Mesaje* m) {
     return dataCuDepasire(an, luna, zi);
 }
 
+QDate ZiuaMajoratului(const QDate& nastere) {
+    return nastere.isValid() ? dataCuDepasire(nastere.year() + 18, nastere.month(), nastere.day()) : QDate();
+}
+
 QString DataNasteriiText(const QString& cnp) {
     if (!(Val(cnp) > 0)) return {};
     const QDate d = DataNasterii(cnp, false, nullptr);

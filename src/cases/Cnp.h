@@ -23,6 +23,9 @@ int CifraControlCnp(QStringView douasprezece);
 // 29 February of a common year is 1 March; a 00 month or day rolls back the same way.
 QDate DataNasterii(const QString& cnp, bool adauga18, Mesaje* m);
 
+// The day a person born on that date turns 18, by the same calendar: born on 29 February, on 1 March.
+QDate ZiuaMajoratului(const QDate& nastere);
+
 // "5 Martie 1985": day without leading zero, month name, year; empty without a birth date.
 QString DataNasteriiText(const QString& cnp);
 

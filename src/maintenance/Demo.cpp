@@ -548,7 +548,7 @@ RezultatCuantum Generator::cuantumLa(const Dosar& d, const QDate& data, qint64 v
         if (p.nastere > data) continue;
         MembruCerere m;
         m.RudenieID = p.rudenie;
-        if (EsteCopil(p.rudenie)) m.Data18Ani = p.nastere.addYears(18);
+        if (EsteCopil(p.rudenie)) m.Data18Ani = ZiuaMajoratului(p.nastere);
         m.Peste20abs = p.peste20 ? 1 : 0;
         m.Diminuare20 = cuReduceri && p.dim20 ? 1 : 0;
         m.Diminuare50 = cuReduceri && p.dim50 ? 1 : 0;

@@ -1,5 +1,6 @@
 #include "base/Eroare.h"
 #include "base/Texte.h"
+#include "cases/Cnp.h"
 #include "maintenance/GeneratorDemo.h"
 
 // How a drawn case file is written: the request with its family and persons, then its certificates,
@@ -114,7 +115,7 @@ void Generator::scrie(Dosar& d) {
             .Leaga(p.id)                                                                          // MembruID
             .Leaga(p.rudenie)                                                                     // RudenieID
             .Leaga(p.ocupatie)                                                                    // OcupatieID
-            .Leaga(copil ? QVariant(p.nastere.addYears(18)) : QVariant())                         // Data18Ani
+            .Leaga(copil ? QVariant(ZiuaMajoratului(p.nastere)) : QVariant())                         // Data18Ani
             .Leaga(copil ? QVariant(QStringLiteral("implinirea varstei de 18 ani")) : QVariant()) // Motiv
             .Leaga(1)                                                                             // CetatenieID
             .Leaga(1)                                                                             // ResedintaID
@@ -322,7 +323,7 @@ void Generator::scrieAnchete(const Dosar& d) {
         for (const Persoana& p : d.persoane) {
             if (p.nastere > data) continue;
             ++membri;
-            const QDate majorat = p.nastere.addYears(18);
+            const QDate majorat = ZiuaMajoratului(p.nastere);
             copii += majorat > data ? 1 : 0;
             copilTotTermenul = copilTotTermenul || majorat > expira;
         }

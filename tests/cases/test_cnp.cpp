@@ -108,6 +108,10 @@ TEST(Cnp, DataNasteriiSecolulSiDepasirile) {
         EXPECT_EQ(d, c.data) << c.cnp << " +18=" << c.adauga18 << " -> " << S(d.toString(Qt::ISODate));
         EXPECT_EQ(m.Texte(), c.mesaj ? QStringList{T(c.mesaj)} : QStringList{}) << c.cnp;
         EXPECT_EQ(DataNasterii(T(c.cnp), c.adauga18, nullptr), c.data) << c.cnp;
+        // The day of turning 18 from a birth date falls where the code's own +18 reading falls.
+        if (const QDate nastere = DataNasterii(T(c.cnp), false, nullptr); c.adauga18 && nastere.isValid()) {
+            EXPECT_EQ(ZiuaMajoratului(nastere), c.data) << c.cnp;
+        }
     }
     const std::pair<const char*, const char*> texte[] = {{"2900107460012", "7 Ianuarie 1990"},
                                                          {"5121231460012", "31 Decembrie 2012"},

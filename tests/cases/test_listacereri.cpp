@@ -1,7 +1,10 @@
 #include "cases/DateCerere.h"
 #include "cases/ListaCereri.h"
+#include "cases/ModelCereri.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
+
+#include <QBrush>
 
 namespace {
 
@@ -107,18 +110,8 @@ TEST_P(Lista, StergereaPastreazaFamiliaSiPersoaneleComune) {
     EXPECT_EQ(Toate(), (QList<qint64>{3, 7}));
 }
 
-PE_AMBELE_MOTOARE(Lista);
-
-} // namespace
-
 // The list's model: a column sorts by its text whatever the case, and a row the rules mark red is
 // drawn red in every column.
-#include "cases/ModelCereri.h"
-
-#include <QBrush>
-
-namespace {
-
 TEST_P(Lista, ModelulSorteazaFaraMajusculeSiColoreazaRandurileRosii) {
     ModelCereri m;
     m.Seteaza(ListaCereri::Cauta(Bd(), {}));
@@ -135,5 +128,7 @@ TEST_P(Lista, ModelulSorteazaFaraMajusculeSiColoreazaRandurileRosii) {
                                         QStringLiteral("Popescu Ion")}));
     EXPECT_EQ(rosii, 2);
 }
+
+PE_AMBELE_MOTOARE(Lista);
 
 } // namespace

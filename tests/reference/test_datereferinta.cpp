@@ -3,6 +3,7 @@
 #include "support/SqlTest.h"
 #include "support/Texte.h"
 
+#include "reference/LunaLucru.h"
 #include <optional>
 
 namespace {
@@ -113,15 +114,7 @@ TEST_P(Referinte, DatelePrimarieiPrimulCampGolApoiUnSingurRandRescris) {
     EXPECT_FALSE(Bd().InTranzactie());
 }
 
-PE_AMBELE_MOTOARE(Referinte);
-
-} // namespace
-
 // The working month: a month 1-12 and a year 2008-2500 that the payment calendar holds.
-#include "reference/LunaLucru.h"
-
-namespace {
-
 TEST_P(Referinte, LunaDeLucruTrebuieSaFieInCalendar) {
     const struct {
         const char *luna, *an, *refuz;
@@ -134,5 +127,7 @@ TEST_P(Referinte, LunaDeLucruTrebuieSaFieInCalendar) {
                   c.refuz ? std::optional<QString>(QString::fromLatin1(c.refuz)) : std::nullopt)
             << c.luna << "/" << c.an;
 }
+
+PE_AMBELE_MOTOARE(Referinte);
 
 } // namespace

@@ -22,7 +22,6 @@ protected:
     // An empty database with the delivered tables in the shape of the oldest files.
     BazaDate& BazaVeche();
     BazaDate& Bd() { return *bd_; }
-    void Inchide() { bd_.reset(); }
     BazaDate& Redeschide();
 
     qint64 Numar(const QString& sql);
