@@ -1,28 +1,28 @@
 #include "app/frmMain.h"
 
+#include "app/Pornire.h"
+#include "app/frmAbout.h"
+#include "app/frmOptiuni.h"
+#include "app/frmParola.h"
+#include "base/Ceas.h"
+#include "base/Mesaje.h"
+#include "base/Setari.h"
+#include "base/Texte.h"
+#include "cases/Adeverinte.h"
+#include "cases/ModelCereri.h"
 #include "cases/frmAddCerere.h"
 #include "cases/frmAdeverinte.h"
 #include "cases/frmMembrii.h"
-#include "base/Ceas.h"
-#include "base/Texte.h"
-#include "ui/UiFunctii.h"
 #include "reference/LunaLucru.h"
-#include "base/Mesaje.h"
-#include "cases/ModelCereri.h"
-#include "cases/Adeverinte.h"
-#include "app/Pornire.h"
-#include "store/Program.h"
-#include "base/Setari.h"
-#include "ui/UiButoane.h"
-#include "ui/UiDataOptionala.h"
-#include "ui/UiMargine.h"
-#include "app/frmAbout.h"
 #include "reference/frmChLunaAn.h"
-#include "app/frmOptiuni.h"
-#include "app/frmParola.h"
-#include "store/BazaDate.h"
 #include "reference/frmMotive.h"
 #include "reference/frmSate.h"
+#include "store/BazaDate.h"
+#include "store/Program.h"
+#include "ui/UiButoane.h"
+#include "ui/UiDataOptionala.h"
+#include "ui/UiFunctii.h"
+#include "ui/UiMargine.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -57,7 +57,7 @@ const QString ContactSuport = QStringLiteral(" Suport: suport@ferolanta.ro ");
 } // namespace
 
 frmMain::frmMain(Program& p, Mesaje& m, QWidget* parinte)
-    : QMainWindow(parinte), p_(p), m_(m), model_(new ModelCereri(this)) {
+    : QMainWindow(parinte), p_(p), m_(m), model_(new ModelCereri(p.bd, this)) {
     setObjectName(QStringLiteral("frmMain"));
     MediuDocumente = MediuDeschidere::Sistem();
     MediuDocumente.DeschideImplicit = [](const QUrl& u) { return QDesktopServices::openUrl(u); };
@@ -192,6 +192,9 @@ void frmMain::construiesteCautarea(QWidget* sus) {
     connect(lvwCereri->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { ItemClick(); });
     connect(lvwCereri, &QTableView::doubleClicked, this, &frmMain::cmdEdit_Click);
     lvwCereri->installEventFilter(this);
+    connect(
+        model_, &ModelCereri::EroareCitire, this, [this](const QString& text) { m_.Critic(text); },
+        Qt::QueuedConnection);
     asezare->addWidget(lvwCereri, 1);
 }
 
@@ -404,7 +407,7 @@ void frmMain::Form_Load() {
         if (!ScrieTitlul(true)) QTimer::singleShot(0, this, &frmMain::mnuDatePrimarie_Click);
         FiltruCautare f;
         f.LoadTipCerere = p_.setari.LoadTipCerere;
-        ListaCereri(ListaCereri::Cauta(p_.bd, f));
+        ListaCereri(f);
         lstStare->clear();
         for (const ElementLista& e : ListaCereri::Stari(p_.bd))
             (new QListWidgetItem(e.text, lstStare))->setData(Qt::UserRole, e.id);
@@ -478,21 +481,21 @@ FiltruCautare frmMain::FiltruDinControale() const {
     for (int i = 0; i < lstStare->count(); ++i)
         if (lstStare->item(i)->isSelected()) f.Stari << lstStare->item(i)->data(Qt::UserRole).toInt();
     f.LoadTipCerere = p_.setari.LoadTipCerere;
-    f.OrdineNumerica = true;
+    f.Ordine = ColoanaCereri::NrCerere;
     return f;
 }
 
 void frmMain::cmdCauta_Click() {
     if (!VerificaBD(p_.bd, m_)) return;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    LaMargine(m_, [&] { ListaCereri(ListaCereri::Cauta(p_.bd, FiltruDinControale())); });
+    LaMargine(m_, [&] { ListaCereri(FiltruDinControale()); });
     ActivareComenzi();
     GolireFiltre();
     QApplication::restoreOverrideCursor();
 }
 
-void frmMain::ListaCereri(std::vector<RandCerere> randuri) {
-    model_->Seteaza(std::move(randuri));
+void frmMain::ListaCereri(const FiltruCautare& f) {
+    model_->Seteaza(f);
     lblRezul->setText(ListaCereri::TextRezultat(model_->rowCount()));
     if (model_->rowCount() > 0)
         SelecteazaRand(0);
@@ -514,7 +517,12 @@ void frmMain::ColumnClick(int coloana) {
         cmdCauta_Click();
         return;
     }
-    model_->sort(coloana, Qt::AscendingOrder);
+    LaMargine(m_, [&] { model_->sort(coloana, Qt::AscendingOrder); });
+    lblRezul->setText(ListaCereri::TextRezultat(model_->rowCount()));
+    if (model_->rowCount() > 0)
+        SelecteazaRand(0);
+    else
+        ItemClick();
 }
 
 void frmMain::SelecteazaRand(int rand) {

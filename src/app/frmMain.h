@@ -132,7 +132,7 @@ private:
     QAction* meniu(QMenu* parinte, const char* nume, const QString& text, bool activ);
     void Form_Load();
     bool ScrieTitlul(bool cuMesaj);
-    void ListaCereri(std::vector<RandCerere> randuri);
+    void ListaCereri(const FiltruCautare& f);
     void GolireFiltre();
     FiltruCautare FiltruDinControale() const;
     void Iesire();

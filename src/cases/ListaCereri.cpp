@@ -1,10 +1,10 @@
 #include "cases/ListaCereri.h"
 
 #include "base/Texte.h"
-#include "store/Dialect.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
 #include "store/DateGen.h"
+#include "store/Dialect.h"
 #include "store/Sql.h"
 
 #include <QRegularExpression>
@@ -12,19 +12,17 @@
 namespace {
 
 // A request whose titular is gone still shows, with no name, so that it can be opened and deleted.
-// A search by the titular's code or names finds no such request anyway, and joins the titular
-// plainly: the planner then starts from the index of what was typed, which it doesn't do from the
-// outer side of a LEFT JOIN. Its one parameter, the DateGen list of the states, comes before the
-// caller's own.
-QString SelectLista(bool dupaTitular = false) {
+// The rows come from `sursa`, which names the requests C; the one parameter of the columns, the
+// DateGen list of the states, comes after the source's own.
+QString SelectLista(const QString& sursa) {
     return QStringLiteral(
                "SELECT C.CerereID, C.FamilieID, C.NrCerere, C.NrCerere2, C.TipCerere, C.Stare, C.DataCerere, "
                "C.VenitTotal, C.Cuantum, C.NrMembrii, C.NrCopii, M.Nume, M.Prenume, M.CNP, F.NrDosar2, F.Localitate, "
                "F.Strada, F.Nr, F.Sc, F.Ap, G.Continut AS StareText "
-               "FROM Cereri C %1 JOIN Membrii M ON C.MembruID1 = M.MembruID "
+               "FROM %1 LEFT JOIN Membrii M ON C.MembruID1 = M.MembruID "
                "LEFT JOIN Familii F ON F.FamilieID = C.FamilieID "
                "LEFT JOIN DateGen G ON G.Tip = ? AND G.DataID = C.Stare")
-        .arg(dupaTitular ? QStringLiteral("INNER") : QStringLiteral("LEFT"));
+        .arg(sursa);
 }
 
 RandCerere randDin(const Interogare& q) {
@@ -61,9 +59,21 @@ RandCerere randDin(const Interogare& q) {
 
 } // namespace
 
-std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f) {
+namespace {
+
+// The WHERE of a filter with its values, and the tables it needs besides the requests.
+struct Selectie {
     QStringList conditii;
     QVariantList valori;
+    bool dupaText = false; // a code, a name or a number was typed: few rows, found by their own index
+
+    QString Where() const {
+        return conditii.isEmpty() ? QString() : QStringLiteral(" WHERE ") + conditii.join(QStringLiteral(" AND "));
+    }
+};
+
+Selectie selectie(const FiltruCautare& f) {
+    Selectie s;
     if (!f.CNP.isEmpty()) {
         // A code is digits: the prefix becomes a range that the index on CNP serves.
         static const QRegularExpression cifre(QStringLiteral("^[0-9]+$"));
@@ -71,59 +81,153 @@ std::vector<RandCerere> ListaCereri::Cauta(BazaDate& db, const FiltruCautare& f)
             QString sus = f.CNP;
             while (sus.endsWith(QLatin1Char('9')))
                 sus.chop(1);
-            conditii << QStringLiteral("M.CNP >= ?");
-            valori << f.CNP;
+            s.conditii << QStringLiteral("M.CNP >= ?");
+            s.valori << f.CNP;
             if (!sus.isEmpty()) {
                 sus[sus.size() - 1] = QChar(sus.back().unicode() + 1);
-                conditii << QStringLiteral("M.CNP < ?");
-                valori << sus;
+                s.conditii << QStringLiteral("M.CNP < ?");
+                s.valori << sus;
             }
         } else {
-            conditii << QStringLiteral("M.CNP LIKE ? ESCAPE '\\'");
-            valori << PrefixLike(f.CNP);
+            s.conditii << QStringLiteral("M.CNP LIKE ? ESCAPE '\\'");
+            s.valori << PrefixLike(f.CNP);
         }
     }
     // Names are searched in their stored search keys, by prefix, which their indexes serve.
     if (!f.Nume.isEmpty()) {
-        conditii << QStringLiteral("M.NumeCautare LIKE ? ESCAPE '\\'");
-        valori << PrefixLike(CheieCautare(f.Nume));
+        s.conditii << QStringLiteral("M.NumeCautare LIKE ? ESCAPE '\\'");
+        s.valori << PrefixLike(CheieCautare(f.Nume));
     }
     if (!f.Prenume.isEmpty()) {
-        conditii << QStringLiteral("M.PrenumeCautare LIKE ? ESCAPE '\\'");
-        valori << PrefixLike(CheieCautare(f.Prenume));
+        s.conditii << QStringLiteral("M.PrenumeCautare LIKE ? ESCAPE '\\'");
+        s.valori << PrefixLike(CheieCautare(f.Prenume));
     }
     if (!f.NrCerere.isEmpty()) {
-        conditii << QStringLiteral("C.NrCerere = ?");
-        valori << qint64(Val(f.NrCerere));
+        s.conditii << QStringLiteral("C.NrCerere = ?");
+        s.valori << qint64(Val(f.NrCerere));
     }
     if (!f.Stari.isEmpty()) {
-        for (int s : f.Stari)
-            valori << s;
-        conditii << QStringLiteral("C.Stare IN (%1)").arg(Sql::Semne(f.Stari.size()));
+        for (int st : f.Stari)
+            s.valori << st;
+        s.conditii << QStringLiteral("C.Stare IN (%1)").arg(Sql::Semne(f.Stari.size()));
     }
     if (f.LoadTipCerere != 0) {
-        conditii << QStringLiteral("C.TipCerere = ?");
-        valori << f.LoadTipCerere;
+        s.conditii << QStringLiteral("C.TipCerere = ?");
+        s.valori << f.LoadTipCerere;
     }
-    QString sql = SelectLista(!f.CNP.isEmpty() || !f.Nume.isEmpty() || !f.Prenume.isEmpty());
-    if (!conditii.isEmpty()) sql += QStringLiteral(" WHERE ") + conditii.join(QStringLiteral(" AND "));
-    // "+ 0" keeps the planner from walking the whole table in NrCerere order to spare a sort,
-    // so that a search starts from the index of what the clerk typed.
-    sql += f.OrdineNumerica ? QStringLiteral(" ORDER BY C.NrCerere + 0, C.CerereID")
-                            : QStringLiteral(" ORDER BY C.CerereID");
-    Interogare q(db, sql);
-    q.Leaga(TipDateGen::Statut);
-    for (const QVariant& v : valori)
+    if (!f.Fara.isEmpty()) {
+        for (qint64 id : f.Fara)
+            s.valori << id;
+        s.conditii << QStringLiteral("C.CerereID NOT IN (%1)").arg(Sql::Semne(f.Fara.size()));
+    }
+    s.dupaText = !f.CNP.isEmpty() || !f.Nume.isEmpty() || !f.Prenume.isEmpty() || !f.NrCerere.isEmpty();
+    return s;
+}
+
+bool cuTitular(const FiltruCautare& f) {
+    return !f.CNP.isEmpty() || !f.Nume.isEmpty() || !f.Prenume.isEmpty();
+}
+
+// The fields a column orders by; the key breaks ties, so that a position always names one row.
+QStringList cheiOrdine(ColoanaCereri c) {
+    switch (c) {
+    case ColoanaCereri::ID:
+        return {};
+    case ColoanaCereri::NrCerere:
+        return {QStringLiteral("C.NrCerere")};
+    case ColoanaCereri::Tip:
+        return {QStringLiteral("C.TipCerere")};
+    case ColoanaCereri::Stare:
+        return {QStringLiteral("C.Stare")};
+    case ColoanaCereri::Data:
+        return {QStringLiteral("C.DataCerere")};
+    case ColoanaCereri::Solicitant:
+        return {QStringLiteral("M.NumeCautare"), QStringLiteral("M.PrenumeCautare")};
+    case ColoanaCereri::CNP:
+        return {QStringLiteral("M.CNP")};
+    case ColoanaCereri::Adresa:
+        return {QStringLiteral("F.Localitate"), QStringLiteral("F.Strada"), QStringLiteral("F.Nr"),
+                QStringLiteral("F.Sc"), QStringLiteral("F.Ap")};
+    case ColoanaCereri::VenitTotal:
+        return {QStringLiteral("C.VenitTotal")};
+    case ColoanaCereri::Cuantum:
+        return {QStringLiteral("C.Cuantum")};
+    case ColoanaCereri::NrMembrii:
+        return {QStringLiteral("C.NrMembrii")};
+    case ColoanaCereri::NrCopii:
+        return {QStringLiteral("C.NrCopii")};
+    }
+    return {};
+}
+
+// ORDER BY of a column, from the end when `invers`. After a typed search on SQLite the first field
+// gets a unary "+", which keeps the planner from walking the whole table in that field's index to
+// spare a sort: it starts from the index of what the clerk typed, and the few rows found are sorted.
+QString orderBy(const FiltruCautare& f, bool invers, bool sqlite, bool dupaText) {
+    QStringList chei = cheiOrdine(f.Ordine);
+    chei << QStringLiteral("C.CerereID");
+    if (sqlite && dupaText) chei[0].prepend(QLatin1Char('+'));
+    if (invers)
+        for (QString& c : chei)
+            c += QStringLiteral(" DESC");
+    return QStringLiteral(" ORDER BY ") + chei.join(QStringLiteral(", "));
+}
+
+// The joins that the filter and the order need before the rows are chosen.
+QString tabeleSelectie(const FiltruCautare& f) {
+    QString t = QStringLiteral("Cereri C");
+    // A search by the titular joins it plainly: the planner then starts from the index of what was
+    // typed, which it doesn't do from the outer side of a LEFT JOIN.
+    if (cuTitular(f))
+        t += QStringLiteral(" INNER JOIN Membrii M ON C.MembruID1 = M.MembruID");
+    else if (f.Ordine == ColoanaCereri::Solicitant || f.Ordine == ColoanaCereri::CNP)
+        t += QStringLiteral(" LEFT JOIN Membrii M ON C.MembruID1 = M.MembruID");
+    if (f.Ordine == ColoanaCereri::Adresa) t += QStringLiteral(" LEFT JOIN Familii F ON F.FamilieID = C.FamilieID");
+    return t;
+}
+
+} // namespace
+
+qint64 ListaCereri::Numara(BazaDate& db, const FiltruCautare& f) {
+    const Selectie s = selectie(f);
+    QString tabele = QStringLiteral("Cereri C");
+    if (cuTitular(f)) tabele += QStringLiteral(" INNER JOIN Membrii M ON C.MembruID1 = M.MembruID");
+    Interogare q(db, QStringLiteral("SELECT COUNT(*) FROM ") + tabele + s.Where());
+    for (const QVariant& v : s.valori)
         q.Leaga(v);
-    q.Executa();
+    q.Exista();
+    return q.Intreg(0);
+}
+
+std::vector<RandCerere> ListaCereri::Pagina(BazaDate& db, const FiltruCautare& f, qint64 deLa, qint64 cate,
+                                            qint64 total) {
     std::vector<RandCerere> randuri;
+    if (deLa < 0 || cate <= 0 || (total >= 0 && deLa >= total)) return randuri;
+    const Selectie s = selectie(f);
+    const bool sqlite = db.dialect().EsteSQLite();
+    // The keys before a deep position are stepped over one by one, so the shorter way is taken.
+    const bool invers = total >= 0 && deLa > total / 2;
+    qint64 limita = cate, salt = deLa;
+    if (invers) {
+        limita = std::min(cate, total - deLa);
+        salt = total - deLa - limita;
+    }
+    const QString chei = QStringLiteral("SELECT C.CerereID FROM ") + tabeleSelectie(f) + s.Where() +
+                         orderBy(f, invers, sqlite, s.dupaText) + QStringLiteral(" LIMIT ? OFFSET ?");
+    Interogare q(db, SelectLista(QStringLiteral("(%1) P INNER JOIN Cereri C ON C.CerereID = P.CerereID").arg(chei)) +
+                         orderBy(f, false, false, false));
+    for (const QVariant& v : s.valori)
+        q.Leaga(v);
+    q.Leaga(limita).Leaga(salt).Leaga(TipDateGen::Statut);
+    q.Executa();
+    randuri.reserve(size_t(std::min<qint64>(limita, 10000)));
     while (q.Urmator())
         randuri.push_back(randDin(q));
     return randuri;
 }
 
 RandCerere ListaCereri::Citeste(BazaDate& db, qint64 cerereID) {
-    Interogare q(db, SelectLista() + QStringLiteral(" WHERE C.CerereID = ?"));
+    Interogare q(db, SelectLista(QStringLiteral("Cereri C")) + QStringLiteral(" WHERE C.CerereID = ?"));
     q.Leaga(TipDateGen::Statut).Leaga(cerereID);
     return q.Exista() ? randDin(q) : RandCerere{};
 }

@@ -31,12 +31,32 @@ struct RandCerere {
     bool Rosu() const { return Stare == 3 || Stare == 4 || Stare == 5; }
 };
 
+// The list's columns, in their order; a list is ordered by one of them, ties by the key.
+enum class ColoanaCereri {
+    ID,
+    NrCerere,
+    Tip,
+    Stare,
+    Data,
+    Solicitant,
+    CNP,
+    Adresa,
+    VenitTotal,
+    Cuantum,
+    NrMembrii,
+    NrCopii
+};
+
 // What the search boxes hold. A blank box is no filter; text boxes match by prefix.
 struct FiltruCautare {
     QString CNP, Nume, Prenume, NrCerere;
     QList<int> Stari;
     int LoadTipCerere = 0;
-    bool OrdineNumerica = false; // by request number; otherwise as the database returns them
+    // ID: the order the requests were entered in; NrCerere: by number, as a search gives them.
+    ColoanaCereri Ordine = ColoanaCereri::ID;
+    // Requests left out of the result: the rows a clerk added below the list stand there, whatever
+    // the order.
+    QList<qint64> Fara;
 };
 
 // One entry of a combo or list filled from a table: its key and its text.
@@ -52,8 +72,14 @@ std::vector<ElementLista> Strazi(BazaDate& db);
 // The request statuses in their order, for the status filter.
 std::vector<ElementLista> Stari(BazaDate& db);
 
-// All requests matching the filter, with their titular, family and status text, in one query.
-std::vector<RandCerere> Cauta(BazaDate& db, const FiltruCautare& f);
+// How many requests match the filter.
+qint64 Numara(BazaDate& db, const FiltruCautare& f);
+
+// The requests matching the filter from position `deLa` (0: the first) in the filter's order, at
+// most `cate`, with their titular, family and status text, in one query. Only the rows asked for
+// are read: a deep position reads the keys before it from an index and nothing else. Given the
+// count (`total`), a position in the second half is read from the end.
+std::vector<RandCerere> Pagina(BazaDate& db, const FiltruCautare& f, qint64 deLa, qint64 cate, qint64 total = -1);
 
 // One request by key; CerereID 0 when it is gone.
 RandCerere Citeste(BazaDate& db, qint64 cerereID);

@@ -1,10 +1,10 @@
 #include "cases/ModelCereri.h"
 
+#include "base/Eroare.h"
 #include "base/Sume.h"
 
 #include <QBrush>
 #include <QColor>
-#include <algorithm>
 
 namespace {
 
@@ -13,39 +13,91 @@ const char* const Titluri[] = {"ID",  "Nr cerere", "Tip",      "Stare",   "Data"
 
 } // namespace
 
-void ModelCereri::Seteaza(std::vector<RandCerere> randuri) {
+ModelCereri::ModelCereri(BazaDate& db, QObject* parinte) : QAbstractTableModel(parinte), db_(db) {}
+
+void ModelCereri::Seteaza(const FiltruCautare& f) {
     beginResetModel();
-    randuri_ = std::move(randuri);
+    filtru_ = f;
+    filtru_.Fara.clear();
+    adaugate_.clear();
+    uitaPaginile();
+    eroare_ = false;
+    total_ = 0;
+    try {
+        total_ = ListaCereri::Numara(db_, filtru_);
+    } catch (const Eroare&) {
+        // The list stays empty; the caller shows why.
+        endResetModel();
+        throw;
+    }
     endResetModel();
 }
 
+void ModelCereri::uitaPaginile() const {
+    pagini_.clear();
+}
+
 const RandCerere* ModelCereri::Rand(int rand) const {
-    return rand >= 0 && rand < int(randuri_.size()) ? &randuri_[size_t(rand)] : nullptr;
+    if (rand < 0 || rand >= rowCount()) return nullptr;
+    if (rand >= total_) return &adaugate_[size_t(rand - total_)];
+    const qint64 pagina = rand / RanduriPePagina;
+    auto it = pagini_.find(pagina);
+    if (it == pagini_.end()) {
+        if (eroare_) return nullptr;
+        // A view shows a few screens at a time: the pages kept stay few.
+        if (pagini_.size() >= 64) uitaPaginile();
+        try {
+            it = pagini_
+                     .emplace(pagina,
+                              ListaCereri::Pagina(db_, filtru_, pagina * RanduriPePagina, RanduriPePagina, total_))
+                     .first;
+        } catch (const Eroare& e) {
+            eroare_ = true;
+            Q_EMIT EroareCitire(e.text());
+            return nullptr;
+        }
+    }
+    const qint64 i = rand - pagina * RanduriPePagina;
+    // Fewer rows than counted: another computer deleted some since the search.
+    return i < qint64(it->second.size()) ? &it->second[size_t(i)] : nullptr;
 }
 
 int ModelCereri::RandulCererii(qint64 cerereID) const {
-    for (size_t i = 0; i < randuri_.size(); ++i)
-        if (randuri_[i].CerereID == cerereID) return int(i);
+    for (const auto& [pagina, randuri] : pagini_)
+        for (size_t i = 0; i < randuri.size(); ++i)
+            if (randuri[i].CerereID == cerereID) return int(pagina * RanduriPePagina + qint64(i));
+    for (size_t i = 0; i < adaugate_.size(); ++i)
+        if (adaugate_[i].CerereID == cerereID) return int(total_ + qint64(i));
     return -1;
 }
 
 void ModelCereri::Inlocuieste(int rand, const RandCerere& r) {
     if (!Rand(rand)) return;
-    randuri_[size_t(rand)] = r;
+    if (rand >= total_)
+        adaugate_[size_t(rand - total_)] = r;
+    else
+        pagini_[rand / RanduriPePagina][size_t(rand % RanduriPePagina)] = r;
     Q_EMIT dataChanged(index(rand, 0), index(rand, NrColoane - 1));
 }
 
 void ModelCereri::Adauga(const RandCerere& r) {
-    const int n = int(randuri_.size());
+    const int n = rowCount();
     beginInsertRows({}, n, n);
-    randuri_.push_back(r);
+    filtru_.Fara << r.CerereID;
+    adaugate_.push_back(r);
     endInsertRows();
 }
 
 void ModelCereri::Elimina(int rand) {
-    if (!Rand(rand)) return;
+    if (rand < 0 || rand >= rowCount()) return;
     beginRemoveRows({}, rand, rand);
-    randuri_.erase(randuri_.begin() + rand);
+    if (rand >= total_) {
+        adaugate_.erase(adaugate_.begin() + (rand - total_));
+    } else {
+        // The request is gone from the database: the rows after it move up when read again.
+        --total_;
+        uitaPaginile();
+    }
     endRemoveRows();
 }
 
@@ -81,7 +133,7 @@ QString ModelCereri::Text(const RandCerere& r, int coloana) {
 }
 
 int ModelCereri::rowCount(const QModelIndex& parinte) const {
-    return parinte.isValid() ? 0 : int(randuri_.size());
+    return parinte.isValid() ? 0 : int(total_ + qint64(adaugate_.size()));
 }
 
 int ModelCereri::columnCount(const QModelIndex& parinte) const {
@@ -111,20 +163,9 @@ QVariant ModelCereri::headerData(int sectiune, Qt::Orientation o, int rol) const
     return {};
 }
 
-void ModelCereri::sort(int coloana, Qt::SortOrder ordine) {
-    // Each text is made once: a large office's list holds a hundred thousand rows.
-    std::vector<std::pair<QString, size_t>> chei;
-    chei.reserve(randuri_.size());
-    for (size_t i = 0; i < randuri_.size(); ++i)
-        chei.emplace_back(Text(randuri_[i], coloana).toCaseFolded(), i);
-    std::stable_sort(chei.begin(), chei.end(), [&](const auto& a, const auto& b) {
-        return ordine == Qt::AscendingOrder ? a.first < b.first : b.first < a.first;
-    });
-    Q_EMIT layoutAboutToBeChanged();
-    std::vector<RandCerere> sortate;
-    sortate.reserve(randuri_.size());
-    for (const auto& c : chei)
-        sortate.push_back(std::move(randuri_[c.second]));
-    randuri_ = std::move(sortate);
-    Q_EMIT layoutChanged();
+void ModelCereri::sort(int coloana, Qt::SortOrder) {
+    if (coloana < 0 || coloana >= NrColoane) return;
+    FiltruCautare f = filtru_;
+    f.Ordine = ColoanaCereri(coloana);
+    Seteaza(f);
 }

@@ -54,6 +54,7 @@ qint64 OptiuneIntre(const QCommandLineParser& p, const QString& optiune, qint64 
 int ComandaInit(const QCommandLineParser& p, QTextStream& out, QTextStream& err);
 int ComandaUpgrade(const QCommandLineParser& p, QTextStream& out, QTextStream& err);
 int ComandaDemo(const QCommandLineParser& p, QTextStream& out, QTextStream& err);
+int ComandaCauta(const QCommandLineParser& p, QTextStream& out, QTextStream& err);
 int ComandaCuantum(const QCommandLineParser& p, const QString& idText, QTextStream& out, QTextStream& err);
 int ComandaDocument(const QCommandLineParser& p, const QString& fel, const QString& idText, QTextStream& out,
                     QTextStream& err);

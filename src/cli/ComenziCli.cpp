@@ -10,7 +10,9 @@ namespace {
 const QString Utilizare =
     QStringLiteral("utilizare: ferolanta-cli {init|upgrade|demo --cereri N [--seed S]|cuantum ID [--luna L --an A]|"
                    "document {dispozitie|fisa|declaratie} ID [--sablon FISIER] [--out FISIER] [--data ZZ.LL.AAAA]|"
-                   "web {cerere|cerere_1a|ancheta} ID [--out DIR]} [--dir DIR] "
+                   "web {cerere|cerere_1a|ancheta} ID [--out DIR]|"
+                   "cauta [--cnp P] [--nume P] [--prenume P] [--nr-cerere N] [--stari ID,ID,...] [--primele N]} "
+                   "[--dir DIR] "
                    "[--db postgresql://...]");
 
 } // namespace
@@ -26,7 +28,14 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
     p.addOption({QStringLiteral("sablon"), QStringLiteral("sablonul documentului"), QStringLiteral("FISIER")});
     p.addOption({QStringLiteral("out"), QStringLiteral("fisierul scris (web: folderul)"), QStringLiteral("FISIER")});
     p.addOption({QStringLiteral("data"), QStringLiteral("data fisei de calcul"), QStringLiteral("ZZ.LL.AAAA")});
-    p.addPositionalArgument(QStringLiteral("comanda"), QStringLiteral("init, upgrade, demo, cuantum, document, web"));
+    p.addOption({QStringLiteral("cnp"), QStringLiteral("inceputul CNP-ului titularului"), QStringLiteral("P")});
+    p.addOption({QStringLiteral("nume"), QStringLiteral("inceputul numelui titularului"), QStringLiteral("P")});
+    p.addOption({QStringLiteral("prenume"), QStringLiteral("inceputul prenumelui titularului"), QStringLiteral("P")});
+    p.addOption({QStringLiteral("nr-cerere"), QStringLiteral("numarul cererii"), QStringLiteral("N")});
+    p.addOption({QStringLiteral("stari"), QStringLiteral("starile cererilor"), QStringLiteral("ID,ID")});
+    p.addOption({QStringLiteral("primele"), QStringLiteral("cate randuri se scriu"), QStringLiteral("N")});
+    p.addPositionalArgument(QStringLiteral("comanda"),
+                            QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta"));
     try {
         if (!p.parse(argumente)) throw EroareArgumente{p.errorText()};
         const QStringList poz = p.positionalArguments();
@@ -51,7 +60,12 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
             throw EroareArgumente{QStringLiteral("--cereri si --seed sunt doar pentru demo")};
         if (!cuCerere && (p.isSet(QStringLiteral("luna")) || p.isSet(QStringLiteral("an"))))
             throw EroareArgumente{QStringLiteral("--luna si --an sunt doar pentru cuantum")};
+        if (comanda != QLatin1String("cauta"))
+            for (const char* o : {"cnp", "nume", "prenume", "nr-cerere", "stari", "primele"})
+                if (p.isSet(QLatin1String(o)))
+                    throw EroareArgumente{QStringLiteral("--%1 este doar pentru cauta").arg(QLatin1String(o))};
         if (comanda == QLatin1String("init")) return ComandaInit(p, out, err);
+        if (comanda == QLatin1String("cauta")) return ComandaCauta(p, out, err);
         if (comanda == QLatin1String("upgrade")) return ComandaUpgrade(p, out, err);
         if (comanda == QLatin1String("demo")) return ComandaDemo(p, out, err);
         if (cuCerere) return ComandaCuantum(p, poz[1], out, err);

@@ -2,10 +2,9 @@
 
 #include "base/Ceas.h"
 #include "base/Eroare.h"
-#include "cases/Cnp.h"
 #include "base/Mesaje.h"
+#include "cases/Cnp.h"
 #include "maintenance/GeneratorDemo.h"
-#include "store/Sql.h"
 
 #include <algorithm>
 
@@ -29,8 +28,6 @@ QString Roman(int n) {
     return QString::fromUtf8(r[std::clamp(n, 0, 12)]);
 }
 
-constexpr auto insert = &Sql::Insert;
-
 } // namespace
 
 namespace DemoDate {
@@ -39,35 +36,35 @@ namespace DemoDate {
 Generator::Generator(BazaDate& db, quint64 samanta, const QDate& azi)
     : db_(db), zar_(samanta), azi_(azi), lunaAzi_(IntaiaZi(azi)),
       ultimaCerere_(std::min(UltimaCerere, azi.addDays(-1))), coduriCnp_(coduriCnp()),
-      familii_(db, insert("Familii", {"FamilieID", "Judet", "Localitate", "Strada", "Nr", "Sc", "Ap", "NrDosar2",
-                                      "NrDosar", "Bloc", "Etaj", "Telefon", "Mobil"})),
-      membrii_(db, insert("Membrii", {"MembruID", "Nume", "Prenume", "CNP", "SerieBI", "NrBI", "TipAct", "Eliberat",
-                                      "DataElib", "Dizabilitate", "NumeCautare", "PrenumeCautare"})),
-      cereri_(db, insert("Cereri", {"CerereID", "FamilieID", "NrCerere", "DataCerere", "MembruID1", "MembruID2",
+      familii_(db, "Familii", {"FamilieID", "Judet", "Localitate", "Strada", "Nr", "Sc", "Ap", "NrDosar2",
+                                      "NrDosar", "Bloc", "Etaj", "Telefon", "Mobil"}),
+      membrii_(db, "Membrii", {"MembruID", "Nume", "Prenume", "CNP", "SerieBI", "NrBI", "TipAct", "Eliberat",
+                                      "DataElib", "Dizabilitate", "NumeCautare", "PrenumeCautare"}),
+      cereri_(db, "Cereri", {"CerereID", "FamilieID", "NrCerere", "DataCerere", "MembruID1", "MembruID2",
                                     "Stare", "NrMembrii", "NrCopii", "Cuantum", "MotivStare", "DataStare",
                                     "VenitTotal", "VenitpeMembru", "ReprLegal", "ModPlata", "NumeTitularCont", "Cont",
                                     "Banca", "Gospodarire", "GospodLoc", "RegimJuridLoc", "TipIncalzire",
                                     "TipLocuinta", "Bife", "TipCerere", "LuniRetro", "Vmg", "Inc", "Supl", "Lege416",
                                     "A1Solicita", "ActeBife", "TipDobandire", "Polita", "SocietatePolita", "NrPolita",
-                                    "DataStartPolita", "DataStopPolita", "AcoperaRiscuri", "NrCamere"})),
-      cereriMembrii_(db, insert("CereriMembrii",
+                                    "DataStartPolita", "DataStopPolita", "AcoperaRiscuri", "NrCamere"}),
+      cereriMembrii_(db, "CereriMembrii",
                                 {"CerereID", "MembruID", "RudenieID", "OcupatieID", "Data18Ani", "Motiv", "CetatenieID",
                                  "ResedintaID", "StCivila", "Studii", "DrAsSociala", "LucreazaAfara", "UScolara",
                                  "Clasa", "RealizeazaVenit", "DataStare", "MotivID", "StareMembru", "Diminuare20",
                                  "Diminuare50", "LocuitAfara", "Venit", "VMG", "Alocatie", "Incalzire", "LocScoala",
-                                 "Repetent", "Abandon", "Peste20abs"})),
-      venituri_(db, insert("Venituri", {"CerereID", "CodVenit", "Valoare"})),
-      bifeText_(db, insert("BifeText", {"CerereID", "NrBifa", "Valoare"})),
-      locuinte_(db, insert("Locuinte", {"CerereID", "Cod", "NrCamere", "Suprafata"})),
-      adeverinte_(db, insert("Adeverinte", {"AdevID", "CerereID", "MembruID", "TipAdeverinta", "NrAdev",
-                                            "DataAdeverinta", "DataExpAdev", "DataDepunerii", "AdvCurenta"})),
-      dispozitii_(db, insert("Dispozitii", {"DispozitieID", "CerereID", "NrDisp", "DataDisp", "DinData", "Luna", "An",
+                                 "Repetent", "Abandon", "Peste20abs"}),
+      venituri_(db, "Venituri", {"CerereID", "CodVenit", "Valoare"}),
+      bifeText_(db, "BifeText", {"CerereID", "NrBifa", "Valoare"}),
+      locuinte_(db, "Locuinte", {"CerereID", "Cod", "NrCamere", "Suprafata"}),
+      adeverinte_(db, "Adeverinte", {"AdevID", "CerereID", "MembruID", "TipAdeverinta", "NrAdev",
+                                            "DataAdeverinta", "DataExpAdev", "DataDepunerii", "AdvCurenta"}),
+      dispozitii_(db, "Dispozitii", {"DispozitieID", "CerereID", "NrDisp", "DataDisp", "DinData", "Luna", "An",
                                             "Actiune", "Cuantum", "CuantumVechi", "Motiv", "BeneficiarID",
-                                            "NumeTitularVechi"})),
-      anchete_(db, insert("Anchete", {"AnchetaID", "CerereID", "DataAncheta", "Intocmitor", "DataExpirarii", "Motiv",
+                                            "NumeTitularVechi"}),
+      anchete_(db, "Anchete", {"AnchetaID", "CerereID", "DataAncheta", "Intocmitor", "DataExpirarii", "Motiv",
                                       "NrMembrii", "NrCopii", "TipLocuinta", "RegimJuridic", "NrCamere", "SuprUtila",
                                       "Bunuri", "Igiena", "TipLocuire", "TipDetinere", "Teren", "Cladiri",
-                                      "StareSanatate", "Nevoi", "Aspecte"})) {
+                                      "StareSanatate", "Nevoi", "Aspecte"}) {
     // clang-format on
     if (ultimaCerere_ < Inceput.addMonths(6))
         throw Eroare(QStringLiteral("Datele demonstrative incep in 2013; data de azi (%1) este prea veche.")
@@ -139,6 +136,10 @@ void Generator::Lot(int n) {
     citesteChei();
     for (int i = 0; i < n; ++i)
         cerere();
+    // Parents before the rows that point to them.
+    for (InserareInLot* t : {&familii_, &membrii_, &cereri_, &cereriMembrii_, &venituri_, &bifeText_, &locuinte_,
+                             &adeverinte_, &dispozitii_, &anchete_})
+        t->Scrie();
 }
 
 void Generator::cerere() {

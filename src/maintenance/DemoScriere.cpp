@@ -13,7 +13,7 @@ void Generator::scrie(Dosar& d) {
     const Persoana& titular = d.persoane[0];
 
     const qint64 nrDosar = nrDosar_++;
-    Interogare& f = familii_;
+    InserareInLot& f = familii_;
     f.Leaga(d.id).Leaga(judet_).Leaga(localitate_).Leaga(zar_.Unul(t.strazi));
     if (d.bloc) {
         f.Leaga(QString::number(zar_.Intre(1, 60)))

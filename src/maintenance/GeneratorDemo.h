@@ -5,6 +5,7 @@
 #include "cases/CalculCuantum.h"
 #include "base/Bani.h"
 #include "store/BazaDate.h"
+#include "store/InserareInLot.h"
 #include "maintenance/DemoTexte.h"
 
 #include <QDate>
@@ -110,7 +111,7 @@ private:
     qint64 cerereID_ = 0, membruID_ = 0, adevID_ = 0, dispozitieID_ = 0, anchetaID_ = 0;
     qint64 nrCerere_ = 0, nrDosar_ = 0, nrDisp_ = 0;
 
-    Interogare familii_, membrii_, cereri_, cereriMembrii_, venituri_, bifeText_, locuinte_, adeverinte_, dispozitii_,
+    InserareInLot familii_, membrii_, cereri_, cereriMembrii_, venituri_, bifeText_, locuinte_, adeverinte_, dispozitii_,
         anchete_;
 };
 

@@ -214,13 +214,9 @@ Interogare::Interogare(BazaDate& db, const QString& sql) : db_(db), q_(db.conexi
     if (!q_.prepare(sql)) throw Eroare(QStringLiteral("%1\n[%2]").arg(textEroare(q_.lastError()), sql));
 }
 
-Interogare& Interogare::Leaga(const QVariant& v) {
+Interogare& Interogare::LeagaValoare(const QVariant& v) {
     q_.bindValue(legate_++, db_.dialect().Parametru(v));
     return *this;
-}
-
-Interogare& Interogare::Leaga(const Bani& b) {
-    return Leaga(QVariant::fromValue(b));
 }
 
 Interogare& Interogare::Executa() {

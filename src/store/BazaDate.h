@@ -107,24 +107,29 @@ private:
 };
 
 // A prepared statement with positional parameters (?) and typed readers of its result.
-class Interogare {
+// The ways a statement takes a value, shared by the statements that bind them one by one: each
+// ends in the statement's own LeagaValoare.
+template <class D> class LegareValori {
+public:
+    D& Leaga(const QVariant& v) { return static_cast<D&>(*this).LeagaValoare(v); }
+    D& Leaga(const Bani& b) { return Leaga(QVariant::fromValue(b)); }
+    D& Leaga(const QDate& d) { return Leaga(QVariant(d)); }
+    D& Leaga(const QString& s) { return Leaga(QVariant(s)); }
+    D& Leaga(const char* s) { return Leaga(QVariant(QString::fromUtf8(s))); }
+    D& Leaga(bool b) { return Leaga(QVariant(b ? 1 : 0)); }
+    // Any whole number (int, qint64, std::int64_t, ...), bound as 64 bits.
+    template <typename T>
+    requires(std::is_integral_v<T> && !std::is_same_v<T, bool>) D& Leaga(T v) { return Leaga(QVariant(qint64(v))); }
+    // A named constant, bound as its number.
+    template <typename E>
+    requires std::is_enum_v<E> D& Leaga(E v) { return Leaga(qint64(std::underlying_type_t<E>(v))); }
+};
+
+class Interogare : public LegareValori<Interogare> {
 public:
     Interogare(BazaDate& db, const QString& sql);
 
-    Interogare& Leaga(const QVariant& v);
-    Interogare& Leaga(const Bani& b);
-    Interogare& Leaga(const QDate& d) { return Leaga(QVariant(d)); }
-    Interogare& Leaga(const QString& s) { return Leaga(QVariant(s)); }
-    Interogare& Leaga(const char* s) { return Leaga(QVariant(QString::fromUtf8(s))); }
-    Interogare& Leaga(bool b) { return Leaga(QVariant(b ? 1 : 0)); }
-    // Any whole number (int, qint64, std::int64_t, ...), bound as 64 bits.
-    template <typename T>
-    requires(std::is_integral_v<T> && !std::is_same_v<T, bool>) Interogare& Leaga(T v) {
-        return Leaga(QVariant(qint64(v)));
-    }
-    // A named constant, bound as its number.
-    template <typename E>
-    requires std::is_enum_v<E> Interogare& Leaga(E v) { return Leaga(qint64(std::underlying_type_t<E>(v))); }
+    Interogare& LeagaValoare(const QVariant& v);
 
     // Executes with the values bound so far, then forgets them so the statement can run again.
     Interogare& Executa();

@@ -258,6 +258,13 @@ std::vector<IndexSchema> construiesteIndexuri() {
         ix("Cereri", {"MembruID2"}),
         ix("Cereri", {"NrCerere"}),
         ix("Cereri", {"Stare"}),
+        // The request list's orders by a column: each is read a screen at a time from its index.
+        ix("Cereri", {"TipCerere", "CerereID"}),
+        ix("Cereri", {"DataCerere", "CerereID"}),
+        ix("Cereri", {"VenitTotal", "CerereID"}),
+        ix("Cereri", {"Cuantum", "CerereID"}),
+        ix("Cereri", {"NrMembrii", "CerereID"}),
+        ix("Cereri", {"NrCopii", "CerereID"}),
         ix("CereriMembrii", {"MembruID"}),
         ix("Membrii", {"CNP"}),
         prefix("Membrii", "NumeCautare"),

@@ -31,10 +31,12 @@ protected:
                               QString::fromUtf8(nr),
                               stari,
                               tip,
-                              true};
+                              ColoanaCereri::NrCerere,
+                              {}};
         QList<qint64> r;
-        for (const auto& rand : ListaCereri::Cauta(Bd(), f))
+        for (const auto& rand : ListaCereri::Pagina(Bd(), f, 0, 1000))
             r << rand.CerereID;
+        EXPECT_EQ(ListaCereri::Numara(Bd(), f), r.size()) << cnp << nume << prenume << nr;
         return r;
     }
     QList<qint64> Toate() { return Id("", ""); }
@@ -110,11 +112,61 @@ TEST_P(Lista, StergereaPastreazaFamiliaSiPersoaneleComune) {
     EXPECT_EQ(Toate(), (QList<qint64>{3, 7}));
 }
 
-// The list's model: a column sorts by its text whatever the case, and a row the rules mark red is
-// drawn red in every column.
-TEST_P(Lista, ModelulSorteazaFaraMajusculeSiColoreazaRandurileRosii) {
-    ModelCereri m;
-    m.Seteaza(ListaCereri::Cauta(Bd(), {}));
+// Any window of the list, read from either end, is that part of the whole list, in every order;
+// the rows left out and the filters hold in every window.
+TEST_P(Lista, FerestreleListeiSuntPartiAleIntregii) {
+    for (qint64 id = 10; id < 23; ++id) {
+        CerereTest c;
+        c.cerereID = id;
+        c.nrCerere = (id * 7) % 5; // repeated numbers: the key breaks the ties
+        c.stare = int(id % 4) + 1;
+        c.localitate = id % 2 ? QStringLiteral("Cernica") : QStringLiteral("Branesti");
+        c.persoane = {{id + 10, id % 3 ? QStringLiteral("Pop") : QStringLiteral("Ban"), QString::number(id), {}, 1}};
+        AdaugaCerereTest(Bd(), c);
+    }
+    const auto ids = [](const std::vector<RandCerere>& r) {
+        QList<qint64> l;
+        for (const RandCerere& x : r)
+            l << x.CerereID;
+        return l;
+    };
+    FiltruCautare cuStare;
+    cuStare.Stari = {2, 3};
+    cuStare.Fara = {14};
+    for (const FiltruCautare& baza : {FiltruCautare{}, cuStare}) {
+        for (int c = 0; c <= int(ColoanaCereri::NrCopii); ++c) {
+            FiltruCautare f = baza;
+            f.Ordine = ColoanaCereri(c);
+            SCOPED_TRACE(testing::Message() << "coloana " << c << ", stari " << f.Stari.size());
+            const QList<qint64> toate = ids(ListaCereri::Pagina(Bd(), f, 0, 1000));
+            const qint64 total = ListaCereri::Numara(Bd(), f);
+            ASSERT_EQ(toate.size(), total);
+            QList<qint64> pePagini;
+            for (qint64 deLa = 0; deLa < total; deLa += 3)
+                pePagini << ids(ListaCereri::Pagina(Bd(), f, deLa, 3, total));
+            EXPECT_EQ(pePagini, toate);
+            EXPECT_EQ(toate.contains(14), f.Fara.isEmpty());
+            EXPECT_TRUE(ListaCereri::Pagina(Bd(), f, total, 3, total).empty());
+        }
+    }
+    FiltruCautare f;
+    f.Ordine = ColoanaCereri::NrCerere;
+    f.Nume = QStringLiteral("ban");
+    EXPECT_EQ(ids(ListaCereri::Pagina(Bd(), f, 0, 100)), (QList<qint64>{15, 18, 21, 12}));
+    f.Nume.clear();
+    f.Stari = {4};
+    f.Ordine = ColoanaCereri::Solicitant;
+    EXPECT_EQ(ids(ListaCereri::Pagina(Bd(), f, 1, 100, 4)), (QList<qint64>{3, 11, 19}));
+    EXPECT_EQ(ids(ListaCereri::Pagina(Bd(), f, 3, 100, 4)), (QList<qint64>{19}));
+}
+
+// The list's model reads what the view shows, keeps added rows below the list and follows a delete;
+// a column click orders the same search by that column, and a row the rules mark red is drawn red in
+// every column.
+TEST_P(Lista, ModelulCitestePePaginiSiColoreazaRandurileRosii) {
+    ModelCereri m(Bd());
+    m.Seteaza({});
+    ASSERT_EQ(m.rowCount(), 3);
     m.sort(ModelCereri::Solicitant);
     QStringList solicitanti;
     int rosii = 0;
@@ -127,6 +179,20 @@ TEST_P(Lista, ModelulSorteazaFaraMajusculeSiColoreazaRandurileRosii) {
     EXPECT_EQ(solicitanti, (QStringList{QStringLiteral("Ionescu Vasile"), QStringLiteral("popa Maria"),
                                         QStringLiteral("Popescu Ion")}));
     EXPECT_EQ(rosii, 2);
+
+    AdaugaCerereTest(Bd(), {9, 0, 1, 2, 1, {}, {}, {{9, "Albu", "Ion", {}, 1}}});
+    m.Adauga(ListaCereri::Citeste(Bd(), 9));
+    EXPECT_EQ(m.rowCount(), 4);
+    EXPECT_EQ(m.Rand(3)->CerereID, 9) << "below the list, not in its order";
+    EXPECT_EQ(m.RandulCererii(9), 3);
+    ListaCereri::Sterge(Bd(), 2);
+    m.Elimina(1);
+    QList<qint64> ramase;
+    for (int i = 0; i < m.rowCount(); ++i)
+        ramase << m.Rand(i)->CerereID;
+    EXPECT_EQ(ramase, (QList<qint64>{3, 1, 9}));
+    m.sort(ModelCereri::NrCerere);
+    EXPECT_EQ(m.Rand(0)->CerereID, 9) << "a new order reads the added row in its place";
 }
 
 PE_AMBELE_MOTOARE(Lista);

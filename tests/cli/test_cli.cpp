@@ -69,6 +69,16 @@ TEST_P(Cli, InitUpgradeSiDemo) {
     EXPECT_EQ(demo.cod, 0) << demo.err.toStdString();
     EXPECT_TRUE(demo.out.contains(T("12 cereri adaugate"))) << demo.out.toStdString();
     EXPECT_EQ(Numar(T("SELECT COUNT(*) FROM Cereri")), 12);
+
+    const IesireCli cauta = Ruleaza(T("cauta --primele 3"));
+    EXPECT_EQ(cauta.cod, 0) << cauta.err.toStdString();
+    const QStringList linii = cauta.out.split(u'\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(linii.size(), 4) << cauta.out.toStdString();
+    EXPECT_EQ(linii[0], T("12 cereri"));
+    for (const QString& l : linii.mid(1))
+        EXPECT_EQ(l.count(u'\t'), 4) << l.toStdString();
+    const IesireCli una = Ruleaza(T("cauta --stari 1,2,3,4,5,6,7,8 --nr-cerere ") + linii[1].section(u'\t', 0, 0));
+    EXPECT_EQ(una.out, T(" o cerere\n") + linii[1] + u'\n');
 }
 
 // The amount of a stored request in the working month: --luna and --an, else the settings file of --dir,
@@ -152,7 +162,8 @@ TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
         "cuantum 5 --luna 2 --an 2101 --dir DIR", "cuantum 5 --cereri 3 --dir DIR", "document", "document dispozitie",
         "document anexa 3", "document fisa x", "document fisa 3 4", "document dispozitie 3 --data 01.01.2025",
         "document fisa 3 --data 31.02.2025", "web", "web cerere", "web dispozitie 3", "web cerere -1",
-        "web cerere 3 --sablon a.rtf"};
+        "web cerere 3 --sablon a.rtf", "cauta x", "cauta --stari 2,x", "cauta --primele -1",
+        "cauta --nr-cerere 12a", "upgrade --nume Pop"};
     // clang-format on
     QTemporaryDir dir;
     for (const char* linie : linii) {

@@ -66,7 +66,11 @@ protected:
         mesaje.mesaje.clear();
         return *f;
     }
-    void Selecteaza(qint64 cerere) { f->SelecteazaRand(f->model()->RandulCererii(cerere)); }
+    void Selecteaza(qint64 cerere) {
+        for (int i = 0; i < f->model()->rowCount(); ++i)
+            if (f->model()->Rand(i)->CerereID == cerere) return f->SelecteazaRand(i);
+        ADD_FAILURE() << "no row for request " << cerere;
+    }
     // Copies delivered files into the program's data folder.
     void Copiaza(const char* sub, const QStringList& fisiere) {
         QDir(folder).mkpath(QLatin1String(sub));

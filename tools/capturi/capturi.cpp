@@ -131,8 +131,11 @@ int main(int argc, char** argv) {
     {
         frmMain f(program, m);
         f.resize(1280, 800);
-        const int rand = f.model()->RandulCererii(cerere);
-        if (rand >= 0) f.SelecteazaRand(rand);
+        for (int i = 0; i < f.model()->rowCount(); ++i)
+            if (f.model()->Rand(i)->CerereID == cerere) {
+                f.SelecteazaRand(i);
+                break;
+            }
         captura(f, "frmMain");
     }
     frmAddCerere editor(*db, setari, m, DeschidereCerere{2, cerere});
