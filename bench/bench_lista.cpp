@@ -142,7 +142,7 @@ const bool inregistrate = [] {
         const std::pair<const char*, FiltruCautare> cautari[] = {
             {"cauta_cnp", filtru("2850", "", "", "", {})},
             {"cauta_nume", filtru("", "Pop", "", "", {})},
-            {"cauta_nume_diacritice", filtru("", "ȘTEF", "", "", {})},
+            {"cauta_prenume_diacritice", filtru("", "", "ȘTEF", "", {})},
             {"cauta_prenume", filtru("", "", "ion", "", {})},
             {"cauta_nr_cerere", filtru("", "", "", "4711", {})},
             {"cauta_stare", filtru("", "", "", "", {3})},

@@ -11,6 +11,9 @@ namespace {
 // Both engines take at least 32,766 values in one statement (SQLite since 3.32, PostgreSQL 65,535).
 constexpr qsizetype ValoriPeInstructiune = 30000;
 constexpr qsizetype RanduriMaxime = 500;
+// Qt's SQLite driver looks each bound value up among the statement's parameters, so that a long
+// statement costs the square of its values there; a row per statement, prepared once, is as fast.
+constexpr qsizetype RanduriMaximeSQLite = 50;
 } // namespace
 
 InserareInLot::InserareInLot(BazaDate& db, const QString& tabela, const QStringList& campuri)
@@ -53,18 +56,17 @@ void InserareInLot::Scrie() {
     const std::vector<QVariant> valori = std::exchange(valori_, {});
     const qsizetype randuri = qsizetype(valori.size()) / campuri_.size();
     if (randuri == 0) return;
-    std::optional<Interogare> plina;
     qsizetype scrise = 0;
     while (scrise < randuri) {
         const qsizetype n = std::min(randuriPeInstructiune_, randuri - scrise);
-        std::optional<Interogare> partiala;
-        Interogare* q;
-        if (n == randuriPeInstructiune_) {
-            if (!plina) plina.emplace(db_, instructiune(n));
-            q = &*plina;
-        } else {
-            q = &partiala.emplace(db_, instructiune(n));
-        }
+        // Each size is prepared once for the run: preparing a long statement costs more than running it.
+        auto it = instructiuni_.find(n);
+        if (it == instructiuni_.end())
+            it = instructiuni_
+                     .emplace(std::piecewise_construct, std::forward_as_tuple(n),
+                              std::forward_as_tuple(db_, instructiune(n)))
+                     .first;
+        Interogare* q = &it->second;
         const size_t primul = size_t(scrise * campuri_.size());
         for (size_t i = primul; i < primul + size_t(n * campuri_.size()); ++i)
             q->Leaga(valori[i]);

@@ -3,6 +3,7 @@
 #include "store/BazaDate.h"
 
 #include <QStringList>
+#include <map>
 #include <vector>
 
 // Rows for one table gathered and written many to a statement. A PostgreSQL server answers each
@@ -27,5 +28,6 @@ private:
     QStringList campuri_;
     qsizetype randuriPeInstructiune_;
     std::vector<QVariant> valori_;
+    std::map<qsizetype, Interogare> instructiuni_;
     qsizetype legate_ = 0;
 };
