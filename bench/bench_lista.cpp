@@ -58,7 +58,7 @@ void Cauta(benchmark::State& st, int cereri, FiltruCautare f) {
 }
 
 // A jump of the scroll bar: a screen at each tenth of the list, in turn.
-void Derulare(benchmark::State& st, int cereri, ColoanaCereri ordine) {
+void Derulare(benchmark::State& st, int cereri, ListaCereri::Coloana ordine) {
     auto db = BazaDate::Deschide(BazaDemoSQLite(cereri, false));
     FiltruCautare f;
     f.Ordine = ordine;
@@ -71,7 +71,7 @@ void Derulare(benchmark::State& st, int cereri, ColoanaCereri ordine) {
 }
 
 // A column click: the same list in the column's order, to its first screen.
-void Ordonare(benchmark::State& st, int cereri, ColoanaCereri ordine) {
+void Ordonare(benchmark::State& st, int cereri, ListaCereri::Coloana ordine) {
     auto db = BazaDate::Deschide(BazaDemoSQLite(cereri, false));
     ModelCereri model(*db);
     model.Seteaza({});
@@ -128,7 +128,7 @@ FiltruCautare filtru(const char* cnp, const char* nume, const char* prenume, con
     f.Prenume = QString::fromUtf8(prenume);
     f.NrCerere = QString::fromUtf8(nr);
     f.Stari = stari;
-    f.Ordine = ColoanaCereri::NrCerere;
+    f.Ordine = ListaCereri::NrCerere;
     return f;
 }
 
@@ -150,12 +150,12 @@ const bool inregistrate = [] {
         };
         for (const auto& [ce, f] : cautari)
             ms(benchmark::RegisterBenchmark(nume(ce).c_str(), Cauta, cereri, f));
-        for (int c = 0; c <= int(ColoanaCereri::NrCopii); ++c) {
+        for (int c = 0; c <= int(ListaCereri::NrCopii); ++c) {
             const auto col = QStringLiteral("_%1").arg(c).toStdString();
             ms(benchmark::RegisterBenchmark(nume(("derulare" + col).c_str()).c_str(), Derulare, cereri,
-                                            ColoanaCereri(c)));
+                                            ListaCereri::Coloana(c)));
             ms(benchmark::RegisterBenchmark(nume(("ordonare" + col).c_str()).c_str(), Ordonare, cereri,
-                                            ColoanaCereri(c)));
+                                            ListaCereri::Coloana(c)));
         }
         ms(benchmark::RegisterBenchmark(nume("schimbare_rand").c_str(), SchimbareRand, cereri));
         ms(benchmark::RegisterBenchmark(nume("umplere_rand_cu_rand").c_str(), UmplereRandCuRand, cereri)

@@ -481,7 +481,7 @@ FiltruCautare frmMain::FiltruDinControale() const {
     for (int i = 0; i < lstStare->count(); ++i)
         if (lstStare->item(i)->isSelected()) f.Stari << lstStare->item(i)->data(Qt::UserRole).toInt();
     f.LoadTipCerere = p_.setari.LoadTipCerere;
-    f.Ordine = ColoanaCereri::NrCerere;
+    f.Ordine = ListaCereri::NrCerere;
     return f;
 }
 
@@ -517,12 +517,9 @@ void frmMain::ColumnClick(int coloana) {
         cmdCauta_Click();
         return;
     }
-    LaMargine(m_, [&] { model_->sort(coloana, Qt::AscendingOrder); });
-    lblRezul->setText(ListaCereri::TextRezultat(model_->rowCount()));
-    if (model_->rowCount() > 0)
-        SelecteazaRand(0);
-    else
-        ItemClick();
+    FiltruCautare f = model_->Filtru();
+    f.Ordine = ModelCereri::Coloana(coloana);
+    LaMargine(m_, [&] { ListaCereri(f); });
 }
 
 void frmMain::SelecteazaRand(int rand) {

@@ -72,6 +72,10 @@ struct Selectie {
     }
 };
 
+bool cuTitular(const FiltruCautare& f) {
+    return !f.CNP.isEmpty() || !f.Nume.isEmpty() || !f.Prenume.isEmpty();
+}
+
 Selectie selectie(const FiltruCautare& f) {
     Selectie s;
     if (!f.CNP.isEmpty()) {
@@ -120,42 +124,40 @@ Selectie selectie(const FiltruCautare& f) {
             s.valori << id;
         s.conditii << QStringLiteral("C.CerereID NOT IN (%1)").arg(Sql::Semne(f.Fara.size()));
     }
-    s.dupaText = !f.CNP.isEmpty() || !f.Nume.isEmpty() || !f.Prenume.isEmpty() || !f.NrCerere.isEmpty();
+    s.dupaText = cuTitular(f) || !f.NrCerere.isEmpty();
     return s;
 }
 
-bool cuTitular(const FiltruCautare& f) {
-    return !f.CNP.isEmpty() || !f.Nume.isEmpty() || !f.Prenume.isEmpty();
-}
-
 // The fields a column orders by; the key breaks ties, so that a position always names one row.
-QStringList cheiOrdine(ColoanaCereri c) {
+QStringList cheiOrdine(ListaCereri::Coloana c) {
     switch (c) {
-    case ColoanaCereri::ID:
+    case ListaCereri::ID:
         return {};
-    case ColoanaCereri::NrCerere:
+    case ListaCereri::NrCerere:
         return {QStringLiteral("C.NrCerere")};
-    case ColoanaCereri::Tip:
+    case ListaCereri::Tip:
         return {QStringLiteral("C.TipCerere")};
-    case ColoanaCereri::Stare:
+    case ListaCereri::Stare:
         return {QStringLiteral("C.Stare")};
-    case ColoanaCereri::Data:
+    case ListaCereri::Data:
         return {QStringLiteral("C.DataCerere")};
-    case ColoanaCereri::Solicitant:
+    case ListaCereri::Solicitant:
         return {QStringLiteral("M.NumeCautare"), QStringLiteral("M.PrenumeCautare")};
-    case ColoanaCereri::CNP:
+    case ListaCereri::CNP:
         return {QStringLiteral("M.CNP")};
-    case ColoanaCereri::Adresa:
+    case ListaCereri::Adresa:
         return {QStringLiteral("F.Localitate"), QStringLiteral("F.Strada"), QStringLiteral("F.Nr"),
                 QStringLiteral("F.Sc"), QStringLiteral("F.Ap")};
-    case ColoanaCereri::VenitTotal:
+    case ListaCereri::VenitTotal:
         return {QStringLiteral("C.VenitTotal")};
-    case ColoanaCereri::Cuantum:
+    case ListaCereri::Cuantum:
         return {QStringLiteral("C.Cuantum")};
-    case ColoanaCereri::NrMembrii:
+    case ListaCereri::NrMembrii:
         return {QStringLiteral("C.NrMembrii")};
-    case ColoanaCereri::NrCopii:
+    case ListaCereri::NrCopii:
         return {QStringLiteral("C.NrCopii")};
+    case ListaCereri::NrColoane:
+        break;
     }
     return {};
 }
@@ -180,9 +182,9 @@ QString tabeleSelectie(const FiltruCautare& f) {
     // typed, which it doesn't do from the outer side of a LEFT JOIN.
     if (cuTitular(f))
         t += QStringLiteral(" INNER JOIN Membrii M ON C.MembruID1 = M.MembruID");
-    else if (f.Ordine == ColoanaCereri::Solicitant || f.Ordine == ColoanaCereri::CNP)
+    else if (f.Ordine == ListaCereri::Solicitant || f.Ordine == ListaCereri::CNP)
         t += QStringLiteral(" LEFT JOIN Membrii M ON C.MembruID1 = M.MembruID");
-    if (f.Ordine == ColoanaCereri::Adresa) t += QStringLiteral(" LEFT JOIN Familii F ON F.FamilieID = C.FamilieID");
+    if (f.Ordine == ListaCereri::Adresa) t += QStringLiteral(" LEFT JOIN Familii F ON F.FamilieID = C.FamilieID");
     return t;
 }
 
@@ -190,9 +192,9 @@ QString tabeleSelectie(const FiltruCautare& f) {
 
 qint64 ListaCereri::Numara(BazaDate& db, const FiltruCautare& f) {
     const Selectie s = selectie(f);
-    QString tabele = QStringLiteral("Cereri C");
-    if (cuTitular(f)) tabele += QStringLiteral(" INNER JOIN Membrii M ON C.MembruID1 = M.MembruID");
-    Interogare q(db, QStringLiteral("SELECT COUNT(*) FROM ") + tabele + s.Where());
+    FiltruCautare faraOrdine = f;
+    faraOrdine.Ordine = ListaCereri::ID;
+    Interogare q(db, QStringLiteral("SELECT COUNT(*) FROM ") + tabeleSelectie(faraOrdine) + s.Where());
     for (const QVariant& v : s.valori)
         q.Leaga(v);
     q.Exista();

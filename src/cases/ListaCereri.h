@@ -31,8 +31,9 @@ struct RandCerere {
     bool Rosu() const { return Stare == 3 || Stare == 4 || Stare == 5; }
 };
 
+namespace ListaCereri {
 // The list's columns, in their order; a list is ordered by one of them, ties by the key.
-enum class ColoanaCereri {
+enum Coloana : int {
     ID,
     NrCerere,
     Tip,
@@ -44,8 +45,10 @@ enum class ColoanaCereri {
     VenitTotal,
     Cuantum,
     NrMembrii,
-    NrCopii
+    NrCopii,
+    NrColoane
 };
+} // namespace ListaCereri
 
 // What the search boxes hold. A blank box is no filter; text boxes match by prefix.
 struct FiltruCautare {
@@ -53,7 +56,7 @@ struct FiltruCautare {
     QList<int> Stari;
     int LoadTipCerere = 0;
     // ID: the order the requests were entered in; NrCerere: by number, as a search gives them.
-    ColoanaCereri Ordine = ColoanaCereri::ID;
+    ListaCereri::Coloana Ordine = ListaCereri::ID;
     // Requests left out of the result: the rows a clerk added below the list stand there, whatever
     // the order.
     QList<qint64> Fara;

@@ -20,7 +20,7 @@ void ModelCereri::Seteaza(const FiltruCautare& f) {
     filtru_ = f;
     filtru_.Fara.clear();
     adaugate_.clear();
-    uitaPaginile();
+    pagini_.clear();
     eroare_ = false;
     total_ = 0;
     try {
@@ -33,10 +33,6 @@ void ModelCereri::Seteaza(const FiltruCautare& f) {
     endResetModel();
 }
 
-void ModelCereri::uitaPaginile() const {
-    pagini_.clear();
-}
-
 const RandCerere* ModelCereri::Rand(int rand) const {
     if (rand < 0 || rand >= rowCount()) return nullptr;
     if (rand >= total_) return &adaugate_[size_t(rand - total_)];
@@ -45,7 +41,7 @@ const RandCerere* ModelCereri::Rand(int rand) const {
     if (it == pagini_.end()) {
         if (eroare_) return nullptr;
         // A view shows a few screens at a time: the pages kept stay few.
-        if (pagini_.size() >= 64) uitaPaginile();
+        if (pagini_.size() >= 64) pagini_.clear();
         try {
             it = pagini_
                      .emplace(pagina,
@@ -96,7 +92,7 @@ void ModelCereri::Elimina(int rand) {
     } else {
         // The request is gone from the database: the rows after it move up when read again.
         --total_;
-        uitaPaginile();
+        pagini_.clear();
     }
     endRemoveRows();
 }
@@ -166,6 +162,6 @@ QVariant ModelCereri::headerData(int sectiune, Qt::Orientation o, int rol) const
 void ModelCereri::sort(int coloana, Qt::SortOrder) {
     if (coloana < 0 || coloana >= NrColoane) return;
     FiltruCautare f = filtru_;
-    f.Ordine = ColoanaCereri(coloana);
+    f.Ordine = ListaCereri::Coloana(coloana);
     Seteaza(f);
 }

@@ -14,21 +14,8 @@ class BazaDate;
 class ModelCereri : public QAbstractTableModel {
     Q_OBJECT
 public:
-    enum Coloana {
-        ID,
-        NrCerere,
-        Tip,
-        Stare,
-        Data,
-        Solicitant,
-        CNP,
-        Adresa,
-        VenitTotal,
-        Cuantum,
-        NrMembrii,
-        NrCopii,
-        NrColoane
-    };
+    using Coloana = ListaCereri::Coloana;
+    using enum ListaCereri::Coloana;
     static constexpr int RanduriPePagina = 200;
 
     explicit ModelCereri(BazaDate& db, QObject* parinte = nullptr);
@@ -61,8 +48,6 @@ Q_SIGNALS:
     void EroareCitire(const QString& text) const;
 
 private:
-    void uitaPaginile() const;
-
     BazaDate& db_;
     FiltruCautare filtru_;
     qint64 total_ = 0; // rows of the search, without the added ones

@@ -20,7 +20,7 @@ int ComandaCauta(const QCommandLineParser& p, QTextStream& out, QTextStream&) {
     if (p.isSet(QStringLiteral("stari")))
         for (const QString& s : stari.split(QLatin1Char(',')))
             f.Stari << int(NumarIntre(s.trimmed(), 0, 255, QStringLiteral("--stari")));
-    f.Ordine = ColoanaCereri::NrCerere;
+    f.Ordine = ListaCereri::NrCerere;
     const qint64 primele = OptiuneIntre(p, QStringLiteral("primele"), 0, 1000000, 50);
 
     const LocatieBD loc = Locatie(p);

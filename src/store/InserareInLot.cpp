@@ -4,22 +4,23 @@
 #include "store/Sql.h"
 
 #include <algorithm>
-#include <optional>
+#include <bit>
+#include <tuple>
 #include <utility>
 
 namespace {
 // Both engines take at least 32,766 values in one statement (SQLite since 3.32, PostgreSQL 65,535).
 constexpr qsizetype ValoriPeInstructiune = 30000;
 constexpr qsizetype RanduriMaxime = 500;
-// Qt's SQLite driver looks each bound value up among the statement's parameters, so that a long
-// statement costs the square of its values there; a row per statement, prepared once, is as fast.
+// SQLite numbers the placeholders of a statement as it prepares it, at a cost that grows with the
+// square of their count; its statements stay short, and it has no round trip to spare anyway.
 constexpr qsizetype RanduriMaximeSQLite = 50;
 } // namespace
 
 InserareInLot::InserareInLot(BazaDate& db, const QString& tabela, const QStringList& campuri)
     : db_(db), tabela_(tabela), campuri_(campuri),
-      randuriPeInstructiune_(
-          std::clamp<qsizetype>(ValoriPeInstructiune / std::max<qsizetype>(campuri.size(), 1), 1, RanduriMaxime)) {
+      randuriPeInstructiune_(std::clamp<qsizetype>(ValoriPeInstructiune / std::max<qsizetype>(campuri.size(), 1), 1,
+                                                   db.dialect().EsteSQLite() ? RanduriMaximeSQLite : RanduriMaxime)) {
     if (campuri_.isEmpty()) throw Eroare(QStringLiteral("Inserare fara campuri in %1").arg(tabela));
 }
 
@@ -58,8 +59,10 @@ void InserareInLot::Scrie() {
     if (randuri == 0) return;
     qsizetype scrise = 0;
     while (scrise < randuri) {
-        const qsizetype n = std::min(randuriPeInstructiune_, randuri - scrise);
-        // Each size is prepared once for the run: preparing a long statement costs more than running it.
+        // What is left under a full statement goes in powers of two, so that a run prepares a handful
+        // of sizes, each once: preparing a long statement costs more than running it.
+        qsizetype n = randuriPeInstructiune_;
+        if (randuri - scrise < n) n = std::bit_floor(size_t(randuri - scrise));
         auto it = instructiuni_.find(n);
         if (it == instructiuni_.end())
             it = instructiuni_

@@ -18,8 +18,6 @@ public:
     InserareInLot& Executa();
     void Scrie();
 
-    qsizetype RanduriAsteptand() const { return valori_.size() / campuri_.size(); }
-
 private:
     QString instructiune(qsizetype randuri) const;
 

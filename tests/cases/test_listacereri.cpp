@@ -31,7 +31,7 @@ protected:
                               QString::fromUtf8(nr),
                               stari,
                               tip,
-                              ColoanaCereri::NrCerere,
+                              ListaCereri::NrCerere,
                               {}};
         QList<qint64> r;
         for (const auto& rand : ListaCereri::Pagina(Bd(), f, 0, 1000))
@@ -134,9 +134,9 @@ TEST_P(Lista, FerestreleListeiSuntPartiAleIntregii) {
     cuStare.Stari = {2, 3};
     cuStare.Fara = {14};
     for (const FiltruCautare& baza : {FiltruCautare{}, cuStare}) {
-        for (int c = 0; c <= int(ColoanaCereri::NrCopii); ++c) {
+        for (int c = 0; c <= int(ListaCereri::NrCopii); ++c) {
             FiltruCautare f = baza;
-            f.Ordine = ColoanaCereri(c);
+            f.Ordine = ListaCereri::Coloana(c);
             SCOPED_TRACE(testing::Message() << "coloana " << c << ", stari " << f.Stari.size());
             const QList<qint64> toate = ids(ListaCereri::Pagina(Bd(), f, 0, 1000));
             const qint64 total = ListaCereri::Numara(Bd(), f);
@@ -150,12 +150,12 @@ TEST_P(Lista, FerestreleListeiSuntPartiAleIntregii) {
         }
     }
     FiltruCautare f;
-    f.Ordine = ColoanaCereri::NrCerere;
+    f.Ordine = ListaCereri::NrCerere;
     f.Nume = QStringLiteral("ban");
     EXPECT_EQ(ids(ListaCereri::Pagina(Bd(), f, 0, 100)), (QList<qint64>{15, 18, 21, 12}));
     f.Nume.clear();
     f.Stari = {4};
-    f.Ordine = ColoanaCereri::Solicitant;
+    f.Ordine = ListaCereri::Solicitant;
     EXPECT_EQ(ids(ListaCereri::Pagina(Bd(), f, 1, 100, 4)), (QList<qint64>{3, 11, 19}));
     EXPECT_EQ(ids(ListaCereri::Pagina(Bd(), f, 3, 100, 4)), (QList<qint64>{19}));
 }
