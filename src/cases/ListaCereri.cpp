@@ -76,8 +76,13 @@ bool cuTitular(const FiltruCautare& f) {
     return !f.CNP.isEmpty() || !f.Nume.isEmpty() || !f.Prenume.isEmpty();
 }
 
-Selectie selectie(const FiltruCautare& f) {
+// `prefixPlus`: on SQLite, a unary "+" before the status and the kind keeps their indexes out of a
+// page's read. A status is shared by a large part of the office, and sorting all its requests to
+// show a screen costs more than walking the order's index and skipping the others; after a typed
+// search, it leaves the planner the index of what was typed. A count wants the status index.
+Selectie selectie(const FiltruCautare& f, bool prefixPlus = false) {
     Selectie s;
+    const QString plus = prefixPlus ? QStringLiteral("+") : QString();
     if (!f.CNP.isEmpty()) {
         // A code is digits: the prefix becomes a range that the index on CNP serves.
         static const QRegularExpression cifre(QStringLiteral("^[0-9]+$"));
@@ -85,25 +90,26 @@ Selectie selectie(const FiltruCautare& f) {
             QString sus = f.CNP;
             while (sus.endsWith(QLatin1Char('9')))
                 sus.chop(1);
-            s.conditii << QStringLiteral("M.CNP >= ?");
+            s.conditii << QStringLiteral("C.TitularCNP >= ?");
             s.valori << f.CNP;
             if (!sus.isEmpty()) {
                 sus[sus.size() - 1] = QChar(sus.back().unicode() + 1);
-                s.conditii << QStringLiteral("M.CNP < ?");
+                s.conditii << QStringLiteral("C.TitularCNP < ?");
                 s.valori << sus;
             }
         } else {
-            s.conditii << QStringLiteral("M.CNP LIKE ? ESCAPE '\\'");
+            s.conditii << QStringLiteral("C.TitularCNP LIKE ? ESCAPE '\\'");
             s.valori << PrefixLike(f.CNP);
         }
     }
-    // Names are searched in their stored search keys, by prefix, which their indexes serve.
+    // Names are searched in the titular's search keys that the request keeps, by prefix, which
+    // their indexes serve.
     if (!f.Nume.isEmpty()) {
-        s.conditii << QStringLiteral("M.NumeCautare LIKE ? ESCAPE '\\'");
+        s.conditii << QStringLiteral("C.TitularNume LIKE ? ESCAPE '\\'");
         s.valori << PrefixLike(CheieCautare(f.Nume));
     }
     if (!f.Prenume.isEmpty()) {
-        s.conditii << QStringLiteral("M.PrenumeCautare LIKE ? ESCAPE '\\'");
+        s.conditii << QStringLiteral("C.TitularPrenume LIKE ? ESCAPE '\\'");
         s.valori << PrefixLike(CheieCautare(f.Prenume));
     }
     if (!f.NrCerere.isEmpty()) {
@@ -113,10 +119,10 @@ Selectie selectie(const FiltruCautare& f) {
     if (!f.Stari.isEmpty()) {
         for (int st : f.Stari)
             s.valori << st;
-        s.conditii << QStringLiteral("C.Stare IN (%1)").arg(Sql::Semne(f.Stari.size()));
+        s.conditii << QStringLiteral("%1C.Stare IN (%2)").arg(plus, Sql::Semne(f.Stari.size()));
     }
     if (f.LoadTipCerere != 0) {
-        s.conditii << QStringLiteral("C.TipCerere = ?");
+        s.conditii << plus + QStringLiteral("C.TipCerere = ?");
         s.valori << f.LoadTipCerere;
     }
     if (!f.Fara.isEmpty()) {
@@ -142,12 +148,11 @@ QStringList cheiOrdine(ListaCereri::Coloana c) {
     case ListaCereri::Data:
         return {QStringLiteral("C.DataCerere")};
     case ListaCereri::Solicitant:
-        return {QStringLiteral("M.NumeCautare"), QStringLiteral("M.PrenumeCautare")};
+        return {QStringLiteral("C.TitularNume"), QStringLiteral("C.TitularPrenume")};
     case ListaCereri::CNP:
-        return {QStringLiteral("M.CNP")};
+        return {QStringLiteral("C.TitularCNP"), QStringLiteral("C.NrCerere")};
     case ListaCereri::Adresa:
-        return {QStringLiteral("F.Localitate"), QStringLiteral("F.Strada"), QStringLiteral("F.Nr"),
-                QStringLiteral("F.Sc"), QStringLiteral("F.Ap")};
+        return {QStringLiteral("C.AdresaOrdine")};
     case ListaCereri::VenitTotal:
         return {QStringLiteral("C.VenitTotal")};
     case ListaCereri::Cuantum:
@@ -175,26 +180,11 @@ QString orderBy(const FiltruCautare& f, bool invers, bool sqlite, bool dupaText)
     return QStringLiteral(" ORDER BY ") + chei.join(QStringLiteral(", "));
 }
 
-// The joins that the filter and the order need before the rows are chosen.
-QString tabeleSelectie(const FiltruCautare& f) {
-    QString t = QStringLiteral("Cereri C");
-    // A search by the titular joins it plainly: the planner then starts from the index of what was
-    // typed, which it doesn't do from the outer side of a LEFT JOIN.
-    if (cuTitular(f))
-        t += QStringLiteral(" INNER JOIN Membrii M ON C.MembruID1 = M.MembruID");
-    else if (f.Ordine == ListaCereri::Solicitant || f.Ordine == ListaCereri::CNP)
-        t += QStringLiteral(" LEFT JOIN Membrii M ON C.MembruID1 = M.MembruID");
-    if (f.Ordine == ListaCereri::Adresa) t += QStringLiteral(" LEFT JOIN Familii F ON F.FamilieID = C.FamilieID");
-    return t;
-}
-
 } // namespace
 
 qint64 ListaCereri::Numara(BazaDate& db, const FiltruCautare& f) {
     const Selectie s = selectie(f);
-    FiltruCautare faraOrdine = f;
-    faraOrdine.Ordine = ListaCereri::ID;
-    Interogare q(db, QStringLiteral("SELECT COUNT(*) FROM ") + tabeleSelectie(faraOrdine) + s.Where());
+    Interogare q(db, QStringLiteral("SELECT COUNT(*) FROM Cereri C") + s.Where());
     for (const QVariant& v : s.valori)
         q.Leaga(v);
     q.Exista();
@@ -205,8 +195,8 @@ std::vector<RandCerere> ListaCereri::Pagina(BazaDate& db, const FiltruCautare& f
                                             qint64 total) {
     std::vector<RandCerere> randuri;
     if (deLa < 0 || cate <= 0 || (total >= 0 && deLa >= total)) return randuri;
-    const Selectie s = selectie(f);
     const bool sqlite = db.dialect().EsteSQLite();
+    const Selectie s = selectie(f, sqlite);
     // The keys before a deep position are stepped over one by one, so the shorter way is taken.
     const bool invers = total >= 0 && deLa > total / 2;
     qint64 limita = cate, salt = deLa;
@@ -214,10 +204,12 @@ std::vector<RandCerere> ListaCereri::Pagina(BazaDate& db, const FiltruCautare& f
         limita = std::min(cate, total - deLa);
         salt = total - deLa - limita;
     }
-    const QString chei = QStringLiteral("SELECT C.CerereID FROM ") + tabeleSelectie(f) + s.Where() +
+    const QString chei = QStringLiteral("SELECT C.CerereID FROM Cereri C") + s.Where() +
                          orderBy(f, invers, sqlite, s.dupaText) + QStringLiteral(" LIMIT ? OFFSET ?");
-    Interogare q(db, SelectLista(QStringLiteral("(%1) P INNER JOIN Cereri C ON C.CerereID = P.CerereID").arg(chei)) +
-                         orderBy(f, false, false, false));
+    // CROSS JOIN: SQLite takes the joined tables in the order written, so the page's keys lead; with
+    // the limit bound, it would otherwise guess the page large and walk the whole table into it.
+    Interogare q(db, SelectLista(QStringLiteral("(%1) P CROSS JOIN Cereri C").arg(chei)) +
+                         QStringLiteral(" WHERE C.CerereID = P.CerereID") + orderBy(f, false, false, false));
     for (const QVariant& v : s.valori)
         q.Leaga(v);
     q.Leaga(limita).Leaga(salt).Leaga(TipDateGen::Statut);

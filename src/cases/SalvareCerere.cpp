@@ -9,6 +9,7 @@
 #include "base/Setari.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
+#include "store/CheiLista.h"
 #include "store/Schema.h"
 #include "store/Sql.h"
 
@@ -117,6 +118,7 @@ public:
         Membrii();
         pas(PasSalvare::Membrii);
         Cereri();
+        CheiListei();
         pas(PasSalvare::Cereri);
         CereriMembrii();
         pas(PasSalvare::CereriMembrii);
@@ -335,6 +337,18 @@ private:
         }
         if (Sql::Actualizeaza(db_, QStringLiteral("Cereri"), r, QStringLiteral("CerereID"), cerereID_) == 0)
             throw Eroare(TextRandNegasit);
+    }
+
+    // This request's titular and address may have changed, and so may those of the other requests of
+    // this family and of the persons saved here.
+    void CheiListei() {
+        QVariantList valori{cerereID_, familieID_};
+        for (qint64 id : iduri_)
+            valori << id;
+        CheiLista::Scrie(db_,
+                         QStringLiteral("CerereID = ? OR FamilieID = ? OR MembruID1 IN (%1)")
+                             .arg(iduri_.empty() ? QStringLiteral("NULL") : Sql::Semne(qsizetype(iduri_.size()))),
+                         valori);
     }
 
     void CereriMembrii() {

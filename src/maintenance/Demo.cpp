@@ -5,6 +5,7 @@
 #include "base/Mesaje.h"
 #include "cases/Cnp.h"
 #include "maintenance/GeneratorDemo.h"
+#include "store/CheiLista.h"
 
 #include <algorithm>
 
@@ -134,12 +135,14 @@ void Generator::citesteChei() {
 
 void Generator::Lot(int n) {
     citesteChei();
+    const qint64 primaCerere = cerereID_;
     for (int i = 0; i < n; ++i)
         cerere();
     // Parents before the rows that point to them.
     for (InserareInLot* t : {&familii_, &membrii_, &cereri_, &cereriMembrii_, &venituri_, &bifeText_, &locuinte_,
                              &adeverinte_, &dispozitii_, &anchete_})
         t->Scrie();
+    CheiLista::Scrie(db_, QStringLiteral("CerereID >= ?"), {primaCerere});
 }
 
 void Generator::cerere() {

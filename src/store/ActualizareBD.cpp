@@ -6,6 +6,7 @@
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
 #include "store/Cataloage.h"
+#include "store/CheiLista.h"
 #include "store/DateGen.h"
 #include "store/OperatiiSchema.h"
 #include "store/PasiActualizare.h"
@@ -43,6 +44,10 @@ public:
             if (p.etapa == 3) pasSchema(p);
         completeazaSchema();
         pasProtejat(QStringLiteral("Membrii"), [&] { cheiCautare(); });
+        pasProtejat(QStringLiteral("Cereri"), [&] {
+            if (const qint64 n = CheiLista::Completeaza(db_); n > 0)
+                schimbare(QStringLiteral("Cereri: chei ale listei scrise: %1").arg(n));
+        });
         pasProtejat(QStringLiteral("Adeverinte"), [&] { reparaAdeverinte(); });
         pasProtejat(QStringLiteral("Adeverinte"), [&] { marcheazaCurente(); });
         catalog([&] { return Cataloage::IncarcaListaVenituri(db_, caleBD_, m_, jurnal_); });

@@ -122,9 +122,8 @@ void OperatiiSchema::CreazaIndex(const IndexSchema& ix) {
     // SQLite's LIKE ignores ASCII case and so takes an index in NOCASE order; PostgreSQL's takes
     // one in plain character order whatever the database's collation.
     if (ix.cautarePrefix)
-        for (QString& c : campuri)
-            c +=
-                db_.dialect().EsteSQLite() ? QStringLiteral(" COLLATE NOCASE") : QStringLiteral(" varchar_pattern_ops");
+        campuri[0] +=
+            db_.dialect().EsteSQLite() ? QStringLiteral(" COLLATE NOCASE") : QStringLiteral(" varchar_pattern_ops");
     db_.Executa(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2 (%3)")
                     .arg(ix.Nume(), ix.tabela, campuri.join(QStringLiteral(", "))));
 }

@@ -108,7 +108,12 @@ std::vector<TabelaSchema> construiesteTabele() {
                   D("DataStartPolita"),
                   D("DataStopPolita"),
                   O("AcoperaRiscuri"),
-                  B("NrCamere")},
+                  B("NrCamere"),
+                  // The request list's keys, copied from the titular and the family (CheiLista).
+                  X("TitularNume", 50),
+                  X("TitularPrenume", 50),
+                  X("TitularCNP", 13),
+                  X("AdresaOrdine", 150)},
                  chei({"CerereID"}),
                  true});
     t.push_back({"CereriMembrii",
@@ -250,7 +255,9 @@ std::vector<IndexSchema> construiesteIndexuri() {
     auto ix = [](const char* t, std::initializer_list<const char*> c) {
         return IndexSchema{QString::fromLatin1(t), chei(c)};
     };
-    auto prefix = [](const char* t, const char* c) { return IndexSchema{QString::fromLatin1(t), chei({c}), true}; };
+    auto prefix = [](const char* t, std::initializer_list<const char*> c) {
+        return IndexSchema{QString::fromLatin1(t), chei(c), true};
+    };
     return {
         ix("Familii", {"NrDosar"}),
         ix("Cereri", {"FamilieID"}),
@@ -265,10 +272,16 @@ std::vector<IndexSchema> construiesteIndexuri() {
         ix("Cereri", {"Cuantum", "CerereID"}),
         ix("Cereri", {"NrMembrii", "CerereID"}),
         ix("Cereri", {"NrCopii", "CerereID"}),
+        // A search by the titular reads its rows and their order by number from one index.
+        prefix("Cereri", {"TitularNume", "NrCerere"}),
+        prefix("Cereri", {"TitularPrenume", "NrCerere"}),
+        ix("Cereri", {"TitularCNP", "NrCerere"}),
+        ix("Cereri", {"TitularNume", "TitularPrenume"}),
+        ix("Cereri", {"AdresaOrdine"}),
         ix("CereriMembrii", {"MembruID"}),
         ix("Membrii", {"CNP"}),
-        prefix("Membrii", "NumeCautare"),
-        prefix("Membrii", "PrenumeCautare"),
+        prefix("Membrii", {"NumeCautare"}),
+        prefix("Membrii", {"PrenumeCautare"}),
         ix("DateGen", {"Tip", "DataID"}),
         ix("DateGen", {"Denumire"}),
         ix("Dispozitii", {"CerereID"}),

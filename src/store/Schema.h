@@ -31,7 +31,8 @@ struct RelatieSchema {
 struct IndexSchema {
     QString tabela;
     QStringList campuri;
-    // Searched by a prefix LIKE: the index is built so that each engine serves LIKE with it.
+    // Its first field is searched by a prefix LIKE: the index is built so that each engine serves
+    // LIKE with it.
     bool cautarePrefix = false;
     QString Nume() const {
         return QStringLiteral("ix_%1_%2%3")

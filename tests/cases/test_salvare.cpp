@@ -1,5 +1,6 @@
 #include "base/BlocareFisier.h"
 #include "base/Eroare.h"
+#include "cases/ListaCereri.h"
 #include "cases/SalvareCerere.h"
 #include "support/BazaTest.h"
 #include "support/CereriTest.h"
@@ -165,6 +166,10 @@ TEST_P(Salvare, PersoanaCunoscutaEsteReutilizata) {
         EXPECT_EQ(Valoare("SELECT MembruID1 FROM Cereri WHERE CerereID = ?", r.CerereID), titular);
         EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Membrii")), persoane + persoaneNoi);
         EXPECT_EQ((*Redeschis(1).stare.MatriceMembri)[0].Nume, t.Nume) << "the first request sees the same person";
+        FiltruCautare f;
+        f.Nume = t.Nume;
+        EXPECT_EQ(ListaCereri::Numara(Bd(), f), Valoare("SELECT COUNT(*) FROM Cereri WHERE MembruID1 = ?", titular))
+            << "and the list finds each of its requests by the new name";
     }
 }
 

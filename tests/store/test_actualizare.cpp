@@ -89,6 +89,9 @@ TEST_P(Actualizare, BazaVecheAjungeLaFormaDeAzi) {
     EXPECT_EQ(Numar(T("SELECT COUNT(*) FROM ListaBife")), 85) << "the old rows are reloaded from the file";
     EXPECT_EQ(Randuri(T("SELECT NumeCautare, PrenumeCautare FROM Membrii ORDER BY MembruID")),
               T("serban|ana;serban|;ene|ticu"));
+    // The request list's keys come from the titular's, once they exist.
+    EXPECT_EQ(Randuri(T("SELECT TitularNume, TitularPrenume, TitularCNP FROM Cereri ORDER BY CerereID")),
+              T("serban|ana|2850315400123;ene|ticu|1800101400121"));
 
     // Again, after reopening as at the next start: nothing to do, nothing said.
     Redeschide();

@@ -2,6 +2,7 @@
 
 #include "base/Texte.h"
 #include "store/BazaDate.h"
+#include "store/CheiLista.h"
 #include "support/SqlTest.h"
 
 #include <QDate>
@@ -50,5 +51,6 @@ inline void AdaugaCerereTest(BazaDate& db, const CerereTest& c) {
         ExecutaCu(db, QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID) VALUES (?, ?, ?)"),
                   c.cerereID, p.membruID, p.rudenie);
     }
+    CheiLista::Scrie(db, QStringLiteral("CerereID = ?"), {c.cerereID});
     t.Confirma();
 }
