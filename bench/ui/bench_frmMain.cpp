@@ -8,7 +8,9 @@
 #include "app/frmMain.h"
 #include "store/BazaDate.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QTableView>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -25,6 +27,8 @@
 //   TiparireLuna       mnuAnexa2 on the month with most grants: the selection and one Disp.rtf of
 //                      all of them. Budget: 5 s.
 //   ferolanta_bench_ui --benchmark_filter='RandSiDispozitie|TiparireLuna'
+// And the resident memory of the process with the main window open on the list of 1,000,000
+// requests, after jumps to its end and its middle (Memorie, counter MB; budget 250 MB).
 
 namespace {
 
@@ -111,7 +115,36 @@ void TiparireLuna(benchmark::State& st) {
     st.counters["MB"] = double(QFileInfo(QDir(e.folder.path()).filePath(QStringLiteral("Disp.rtf"))).size()) / 1e6;
 }
 
+double RezidentMB() {
+    QFile f(QStringLiteral("/proc/self/status"));
+    if (!f.open(QIODevice::ReadOnly)) return -1;
+    for (const QByteArray& linie : f.readAll().split('\n'))
+        if (linie.startsWith("VmRSS:")) return linie.mid(6).trimmed().split(' ').value(0).toDouble() / 1024.0;
+    return -1;
+}
+
+void Memorie(benchmark::State& st, int cereri) {
+    auto db = BazaDate::Deschide(BazaDemoSQLite(cereri, false));
+    QTemporaryDir folder;
+    Setari setari;
+    Program program{*db, setari, folder.path()};
+    MesajeTacute m;
+    for (auto _ : st) {
+        frmMain f(program, m);
+        f.show();
+        QApplication::processEvents();
+        f.lvwCereri->scrollToBottom();
+        QApplication::processEvents();
+        f.lvwCereri->scrollTo(f.model()->index(f.model()->rowCount() / 2, 0));
+        QApplication::processEvents();
+        benchmark::DoNotOptimize(f.grab());
+        st.counters["MB"] = RezidentMB();
+        st.counters["randuri"] = f.model()->rowCount();
+    }
+}
+
 } // namespace
 
+BENCHMARK_CAPTURE(Memorie, 1000000, 1000000)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(RandSiDispozitie)->Unit(benchmark::kMillisecond);
 BENCHMARK(TiparireLuna)->Unit(benchmark::kMillisecond);

@@ -127,3 +127,7 @@ void OperatiiSchema::CreazaIndex(const IndexSchema& ix) {
     db_.Executa(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2 (%3)")
                     .arg(ix.Nume(), ix.tabela, campuri.join(QStringLiteral(", "))));
 }
+
+void OperatiiSchema::StergeIndex(const IndexSchema& ix) {
+    db_.Executa(QStringLiteral("DROP INDEX IF EXISTS %1").arg(ix.Nume()));
+}

@@ -33,6 +33,7 @@ public:
     // declares references only with the field) or the rows already break it.
     void CreazaRelatie(const RelatieSchema& r);
     void CreazaIndex(const IndexSchema& ix);
+    void StergeIndex(const IndexSchema& ix);
 
 private:
     void uita(const QString& tabela);

@@ -1,5 +1,6 @@
 #include "base/Eroare.h"
 #include "store/BazaDate.h"
+#include "store/InserareInLot.h"
 #include "support/BazaTest.h"
 #include "support/SqlTest.h"
 #include "support/Texte.h"
@@ -132,6 +133,62 @@ TEST_P(Baza, VerificaBDSpuneCandBazaNuMaiEste) {
     EXPECT_FALSE(VerificaBD(Bd(), mesaje));
     ASSERT_TRUE(QFile::rename(fisier + T(".mutat"), fisier));
     EXPECT_EQ(mesaje.mesaje.size(), 1u);
+}
+
+// Rows written in bulk read back as rows bound one by one do: no value and a null text as none, the
+// characters that a copy stream escapes, amounts, dates. A refused row fails
+// the write, and the writer goes on with the next rows.
+TEST_P(Baza, InserareaInLotScrieCaInterogarea) {
+    BazaNoua();
+    const QString text = T("tab\tlinie\nretur\r\\N 'Ștefan' \\");
+    const QVariantList randuri[] = {{text, 2000000000, QVariant::fromValue(B("210.20")), QVariant(), QDate(2024, 2, 29)},
+                                    {QString(), 0, QVariant::fromValue(B("0.01")), QVariant::fromValue(B("-3.5")), QDate()},
+                                    {T(""), -1, QVariant(), QVariant::fromValue(B("1000")), QDate(1900, 1, 1)}};
+    const QStringList campuri{T("Tip"), T("Descriere"), T("NrPers"), T("Barem"), T("Suma"), T("DataInceput")};
+    {
+        Tranzactie t(Bd());
+        InserareInLot lot(Bd(), T("Barem"), campuri);
+        Interogare unul(Bd(), T("INSERT INTO Barem (Tip, Descriere, NrPers, Barem, Suma, DataInceput) "
+                                "VALUES (?, ?, ?, ?, ?, ?)"));
+        for (int i = 0; i < 3; ++i) {
+            lot.Leaga(100 + i);
+            unul.Leaga(200 + i);
+            for (const QVariant& v : randuri[i]) {
+                lot.Leaga(v);
+                unul.Leaga(v);
+            }
+            lot.Executa();
+            unul.Executa();
+        }
+        lot.Scrie();
+        t.Confirma();
+    }
+    const auto citit = [&](int tip) {
+        Interogare q(Bd(), T("SELECT Descriere, NrPers, Barem, Suma, DataInceput FROM Barem WHERE Tip = ?"));
+        q.Leaga(tip);
+        EXPECT_TRUE(q.Exista()) << tip;
+        return QStringList{q.Valoare(0).isNull() ? T("<nul>") : q.Valoare(0).toString(),
+                           QString::number(q.Intreg(1)),
+                           q.Suma(T("Barem")).Text(),
+                           q.Valoare(3).isNull() ? T("<nul>") : q.Suma(T("Suma")).Text(),
+                           q.Data(T("DataInceput")).toString(Qt::ISODate)};
+    };
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(citit(100 + i), citit(200 + i)) << i;
+    EXPECT_EQ(citit(100).first(), text);
+    EXPECT_EQ(citit(101).first(), T("<nul>"));
+
+    InserareInLot membri(Bd(), T("Membrii"), {T("MembruID"), T("Nume")});
+    try {
+        Tranzactie t(Bd());
+        membri.Leaga(1).Leaga(T("a")).Executa().Leaga(1).Leaga(T("b")).Executa().Scrie();
+        ADD_FAILURE() << "the same key written twice";
+    } catch (const Eroare&) {
+    }
+    Tranzactie t(Bd());
+    membri.Leaga(2).Leaga(T("c")).Executa().Scrie();
+    t.Confirma();
+    EXPECT_EQ(Numar(T("SELECT COUNT(*) FROM Membrii")), 1);
 }
 
 PE_AMBELE_MOTOARE(Baza);
