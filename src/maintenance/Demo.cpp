@@ -632,4 +632,7 @@ void Demo::Genereaza(BazaDate& db, const Optiuni& o, const std::function<void(in
             if (ops.TabelaExista(ix.tabela)) ops.CreazaIndex(ix);
         t.Confirma();
     }
+    // PostgreSQL plans from its statistics, which its background worker renews only some time after
+    // a load of this size; the lists would meanwhile be planned for empty tables.
+    if (!db.dialect().EsteSQLite()) db.Executa(QStringLiteral("ANALYZE"));
 }
