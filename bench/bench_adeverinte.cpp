@@ -23,7 +23,19 @@ void ActeExpira(benchmark::State& st, int Cereri, int luni) {
     st.counters["randuri"] = double(randuri);
 }
 
+// The notice at start-up: whether any such certificate exists.
+void Notificare(benchmark::State& st, int Cereri) {
+    const QDate azi = Ceas::Azi();
+    auto db = BazaDate::Deschide(BazaDemoCuActeInLuna(Cereri, azi));
+    for (auto _ : st)
+        benchmark::DoNotOptimize(Adeverinte::ActeCareExpira(*db, azi));
+}
+
 const bool inregistrate = [] {
+    for (int cereri : {100000, 1000000})
+        benchmark::RegisterBenchmark(QStringLiteral("adeverinte/notificare/%1").arg(cereri).toStdString().c_str(),
+                                     Notificare, cereri)
+            ->Unit(benchmark::kMillisecond);
     for (int cereri : {100000, 1000000})
         for (const auto& [ce, luni] : {std::pair{"", 0}, std::pair{"_luna_viitoare", 1}})
             benchmark::RegisterBenchmark(
