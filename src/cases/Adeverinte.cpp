@@ -6,12 +6,14 @@
 #include "cases/Cnp.h"
 #include "base/Mesaje.h"
 #include "store/BazaDate.h"
+#include "store/CheiLista.h"
 #include "store/DateGen.h"
 #include "store/Sql.h"
 #include "store/Schema.h"
 
 #include <QVariant>
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -231,22 +233,44 @@ std::vector<RandIstoricAdv> Adeverinte::Istoric(const std::vector<AdeverintaMemb
 
 // ---- The certificates that expire ----
 
-std::vector<RandActExpira> Adeverinte::ListaActeExpira(BazaDate& db, const QDate& azi) {
+namespace {
+// The month's current certificates of requests in force, by the keys they keep.
+const QString ActeExpiraInLuna =
+    QStringLiteral("FROM Adeverinte WHERE AdvCurenta = 1 AND CerereInVigoare = 1 AND DataExpAdev >= ? "
+                   "AND DataExpAdev < ?");
+} // namespace
+
+qint64 Adeverinte::NumarActeExpira(BazaDate& db, const QDate& azi) {
     const QDate inceput(azi.year(), azi.month(), 1);
-    // The month's certificates drive the join (CROSS JOIN keeps SQLite from starting at the far
-    // larger set of requests in force); PostgreSQL plans it as the inner join it is. A request
-    // must have its family: the schema's relation makes that a non-null FamilieID, which spares
-    // reading a Familii row for each certificate.
+    Interogare q(db, QStringLiteral("SELECT COUNT(*) ") + ActeExpiraInLuna);
+    q.Leaga(inceput).Leaga(inceput.addMonths(1)).Exista();
+    return q.Intreg(0);
+}
+
+std::vector<RandActExpira> Adeverinte::ListaActeExpira(BazaDate& db, const QDate& azi, qint64 deLa, qint64 cate,
+                                                       qint64 total) {
+    std::vector<RandActExpira> r;
+    if (deLa < 0 || cate == 0 || (total >= 0 && deLa >= total)) return r;
+    if (cate < 0) cate = std::numeric_limits<qint64>::max() - deLa;
+    const QDate inceput(azi.year(), azi.month(), 1);
+    // The keys of a page are read from the index in name order, the shorter way to a deep page
+    // (from the end when past the middle), and only then joined to their persons and kinds.
+    const bool invers = total >= 0 && deLa > total / 2;
+    qint64 limita = cate, salt = deLa;
+    if (invers) {
+        limita = std::min(cate, total - deLa);
+        salt = total - deLa - limita;
+    }
+    const QString directie = invers ? QStringLiteral(" DESC") : QString();
+    const QString chei = QStringLiteral("SELECT AdevID ") + ActeExpiraInLuna +
+                         QStringLiteral(" ORDER BY MembruOrdine%1, DataExpAdev%1, AdevID%1 LIMIT ? OFFSET ?").arg(directie);
     Interogare q(db, QStringLiteral("SELECT A.AdevID, A.CerereID, A.MembruID, A.DataExpAdev, M.Nume, M.Prenume, "
-                                    "G.Continut FROM Adeverinte A CROSS JOIN Cereri C "
+                                    "G.Continut FROM (%1) P CROSS JOIN Adeverinte A "
                                     "LEFT JOIN Membrii M ON M.MembruID = A.MembruID "
                                     "LEFT JOIN DateGen G ON G.Tip = ? AND G.DataID = A.TipAdeverinta "
-                                    "WHERE C.CerereID = A.CerereID AND C.FamilieID IS NOT NULL "
-                                    "AND C.Stare IN (2, 6, 7, 8) AND A.DataExpAdev >= ? AND A.DataExpAdev < ? "
-                                    "AND A.AdvCurenta = 1"));
-    q.Leaga(TipDateGen::TipAct).Leaga(inceput).Leaga(inceput.addMonths(1)).Executa();
-    std::vector<RandActExpira> r;
-    std::vector<QString> chei;
+                                    "WHERE A.AdevID = P.AdevID ORDER BY A.MembruOrdine, A.DataExpAdev, A.AdevID")
+                         .arg(chei));
+    q.Leaga(inceput).Leaga(inceput.addMonths(1)).Leaga(limita).Leaga(salt).Leaga(TipDateGen::TipAct).Executa();
     while (q.Urmator()) {
         RandActExpira a;
         a.AdevID = q.Intreg(0);
@@ -255,23 +279,9 @@ std::vector<RandActExpira> Adeverinte::ListaActeExpira(BazaDate& db, const QDate
         a.DataExpAdev = dataDin(q.Valoare(3));
         a.Membru = nume(q.Valoare(4).toString(), q.Valoare(5).toString());
         a.TipAct = q.Valoare(6).toString();
-        chei.push_back(a.Membru.toCaseFolded());
         r.push_back(std::move(a));
     }
-    // Sorted here, so that both engines give the same order whatever their collation.
-    std::vector<size_t> ordine(r.size());
-    for (size_t i = 0; i < ordine.size(); ++i)
-        ordine[i] = i;
-    std::sort(ordine.begin(), ordine.end(), [&](size_t a, size_t b) {
-        if (const int c = chei[a].compare(chei[b]); c != 0) return c < 0;
-        if (r[a].DataExpAdev != r[b].DataExpAdev) return r[a].DataExpAdev < r[b].DataExpAdev;
-        return r[a].AdevID < r[b].AdevID;
-    });
-    std::vector<RandActExpira> sortate;
-    sortate.reserve(r.size());
-    for (size_t i : ordine)
-        sortate.push_back(std::move(r[i]));
-    return sortate;
+    return r;
 }
 
 QString Adeverinte::TitluActeExpira(const QDate& azi) {
@@ -422,6 +432,7 @@ qint64 Adeverinte::SalveazaAdeverintaScolara(BazaDate& db, const AdeverintaScola
     } else if (Sql::Actualizeaza(db, tabela, scrise, QStringLiteral("AdevID"), id) == 0) {
         throw Eroare(TextRandNegasit);
     }
+    CheiLista::ScrieAdeverinte(db, QStringLiteral("AdevID = ?"), {id});
     t.Confirma();
     return id;
 }
@@ -442,10 +453,7 @@ bool Adeverinte::StergeAdeverintaScolara(BazaDate& db, Mesaje& m, qint64 adevID,
 
 bool Adeverinte::ActeCareExpira(BazaDate& db, const QDate& azi) {
     const QDate inceput(azi.year(), azi.month(), 1);
-    Interogare q(db, QStringLiteral("SELECT 1 FROM Familii F INNER JOIN Cereri C ON F.FamilieID = C.FamilieID "
-                                    "INNER JOIN Adeverinte A ON C.CerereID = A.CerereID "
-                                    "WHERE C.Stare IN (2, 6, 7, 8) AND A.DataExpAdev >= ? AND A.DataExpAdev < ? "
-                                    "AND A.AdvCurenta = 1"));
+    Interogare q(db, QStringLiteral("SELECT 1 ") + ActeExpiraInLuna);
     q.Leaga(inceput).Leaga(inceput.addMonths(1));
     return q.Exista();
 }

@@ -156,9 +156,14 @@ std::vector<RandIstoricAdv> Istoric(const std::vector<AdeverintaMembru>& acte, c
 
 // ---- The certificates that expire (frmListaActeExpira) ----
 
-// The current certificates of requests with rights in force (Stare 2, 6, 7, 8) that expire in
-// the calendar month of `azi`, by name; one query.
-std::vector<RandActExpira> ListaActeExpira(BazaDate& db, const QDate& azi);
+// How many current certificates of requests with rights in force (Stare 2, 6, 7, 8) expire in the
+// calendar month of `azi`.
+qint64 NumarActeExpira(BazaDate& db, const QDate& azi);
+// Those certificates from position `deLa`, at most `cate` (all when negative), in the order of their
+// persons' names (as searched: case and marks aside), then expiry and key. Given the count
+// (`total`), a position past the middle is read from the end.
+std::vector<RandActExpira> ListaActeExpira(BazaDate& db, const QDate& azi, qint64 deLa = 0, qint64 cate = -1,
+                                           qint64 total = -1);
 // "Lista Membrilor ale caror acte expira in luna <month>"
 QString TitluActeExpira(const QDate& azi);
 // The request to open for a row of the list: the one of the row while that person still has a

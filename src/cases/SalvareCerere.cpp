@@ -123,6 +123,9 @@ public:
         CereriMembrii();
         pas(PasSalvare::CereriMembrii);
         Adeverinte();
+        // This request's certificates (its status may have changed) and those of the persons saved
+        // here, on any request (their names may have).
+        CheiLista::ScrieAdeverinte(db_, conditieCheiPersoane(), valoriCheiPersoane());
         pas(PasSalvare::Adeverinte);
         Venituri();
         pas(PasSalvare::Venituri);
@@ -345,10 +348,18 @@ private:
         QVariantList valori{cerereID_, familieID_};
         for (qint64 id : iduri_)
             valori << id;
-        CheiLista::Scrie(db_,
-                         QStringLiteral("CerereID = ? OR FamilieID = ? OR MembruID1 IN (%1)")
-                             .arg(iduri_.empty() ? QStringLiteral("NULL") : Sql::Semne(qsizetype(iduri_.size()))),
+        CheiLista::Scrie(db_, QStringLiteral("CerereID = ? OR FamilieID = ? OR MembruID1 IN (%1)").arg(semneIduri()),
                          valori);
+    }
+    QString semneIduri() const {
+        return iduri_.empty() ? QStringLiteral("NULL") : Sql::Semne(qsizetype(iduri_.size()));
+    }
+    QString conditieCheiPersoane() const { return QStringLiteral("CerereID = ? OR MembruID IN (%1)").arg(semneIduri()); }
+    QVariantList valoriCheiPersoane() const {
+        QVariantList valori{cerereID_};
+        for (qint64 id : iduri_)
+            valori << id;
+        return valori;
     }
 
     void CereriMembrii() {

@@ -3,6 +3,7 @@
 #include "cases/Adeverinte.h"
 #include "cases/DateCerere.h"
 #include "base/Ceas.h"
+#include "base/Eroare.h"
 #include "base/Texte.h"
 #include "base/Mesaje.h"
 #include "ui/UiMargine.h"
@@ -15,34 +16,66 @@
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <map>
 
+// The month's certificates read a page at a time as the view shows them: a month of a large office
+// holds more than a clerk scrolls through.
 class ModelActeExpira : public QAbstractTableModel {
 public:
-    using QAbstractTableModel::QAbstractTableModel;
+    static constexpr qint64 RanduriPePagina = 200;
 
-    void Pune(std::vector<RandActExpira> randuri) {
+    ModelActeExpira(BazaDate& db, Mesaje& m, QObject* parinte) : QAbstractTableModel(parinte), db_(db), m_(m) {}
+
+    void Seteaza(const QDate& azi, qint64 total) {
         beginResetModel();
-        randuri_ = std::move(randuri);
+        azi_ = azi;
+        total_ = total;
+        pagini_.clear();
+        eroare_ = false;
         endResetModel();
     }
-    const RandActExpira& Rand(int rand) const { return randuri_[size_t(rand)]; }
+    // The row at a position, read with its page when needed; nullptr when the read failed (said once).
+    const RandActExpira* Rand(int rand) const {
+        if (rand < 0 || rand >= total_) return nullptr;
+        const qint64 pagina = rand / RanduriPePagina;
+        auto it = pagini_.find(pagina);
+        if (it == pagini_.end()) {
+            if (eroare_) return nullptr;
+            try {
+                it = pagini_
+                         .emplace(pagina, Adeverinte::ListaActeExpira(db_, azi_, pagina * RanduriPePagina,
+                                                                      RanduriPePagina, total_))
+                         .first;
+            } catch (const Eroare& e) {
+                // Met while the view paints: told after the paint, and once.
+                eroare_ = true;
+                QMetaObject::invokeMethod(
+                    const_cast<ModelActeExpira*>(this), [this, text = e.text()] { m_.Critic(text); },
+                    Qt::QueuedConnection);
+                return nullptr;
+            }
+        }
+        const size_t i = size_t(rand - pagina * RanduriPePagina);
+        return i < it->second.size() ? &it->second[i] : nullptr;
+    }
 
-    int rowCount(const QModelIndex& p = {}) const override { return p.isValid() ? 0 : int(randuri_.size()); }
+    int rowCount(const QModelIndex& p = {}) const override { return p.isValid() ? 0 : int(total_); }
     int columnCount(const QModelIndex& p = {}) const override { return p.isValid() ? 0 : 5; }
     QVariant data(const QModelIndex& i, int rol) const override {
-        if (rol != Qt::DisplayRole || !i.isValid() || size_t(i.row()) >= randuri_.size()) return {};
-        const RandActExpira& r = randuri_[size_t(i.row())];
+        if (rol != Qt::DisplayRole || !i.isValid()) return {};
+        const RandActExpira* r = Rand(i.row());
+        if (!r) return {};
         switch (i.column()) {
         case 0:
-            return QString::number(r.MembruID);
+            return QString::number(r->MembruID);
         case 1:
             return QString::number(i.row() + 1);
         case 2:
-            return r.Membru;
+            return r->Membru;
         case 3:
-            return r.TipAct;
+            return r->TipAct;
         case 4:
-            return FormatData(r.DataExpAdev);
+            return FormatData(r->DataExpAdev);
         }
         return {};
     }
@@ -54,13 +87,18 @@ public:
     }
 
 private:
-    std::vector<RandActExpira> randuri_;
+    BazaDate& db_;
+    Mesaje& m_;
+    QDate azi_;
+    qint64 total_ = 0;
+    mutable std::map<qint64, std::vector<RandActExpira>> pagini_;
+    mutable bool eroare_ = false;
 };
 
 frmListaActeExpira::frmListaActeExpira(BazaDate& db, Mesaje& m, QWidget* parinte) : QDialog(parinte), db_(db), m_(m) {
     setObjectName(QStringLiteral("frmListaActeExpira"));
     auto* asezare = new QVBoxLayout(this);
-    model_ = new ModelActeExpira(this);
+    model_ = new ModelActeExpira(db_, m_, this);
     lvwActe = new QTreeView(this);
     lvwActe->setObjectName(QStringLiteral("lvwActe"));
     lvwActe->setModel(model_);
@@ -96,11 +134,10 @@ frmListaActeExpira::frmListaActeExpira(BazaDate& db, Mesaje& m, QWidget* parinte
 void frmListaActeExpira::AfisLista() {
     const QDate azi = Ceas::Azi();
     setWindowTitle(Adeverinte::TitluActeExpira(azi));
-    std::vector<RandActExpira> randuri;
-    if (!LaMargine(m_, [&] { randuri = Adeverinte::ListaActeExpira(db_, azi); })) return;
-    const bool gol = randuri.empty();
-    model_->Pune(std::move(randuri));
-    if (gol) {
+    qint64 total = 0;
+    if (!LaMargine(m_, [&] { total = Adeverinte::NumarActeExpira(db_, azi); })) return;
+    model_->Seteaza(azi, total);
+    if (total == 0) {
         AscundeNotificarea();
         Timer1->start();
         return;
@@ -123,10 +160,11 @@ void frmListaActeExpira::lvwActe_DblClick() {
         m_.Informatie(QStringLiteral("Selectati o cerere"));
         return;
     }
-    const RandActExpira& r = model_->Rand(selectate.first().row());
-    const qint64 membru = r.MembruID;
+    const RandActExpira* r = model_->Rand(selectate.first().row());
+    if (!r) return;
+    const qint64 membru = r->MembruID, cerereRand = r->CerereID;
     std::optional<qint64> cerere;
-    if (!LaMargine(m_, [&] { cerere = Adeverinte::CerereActExpira(db_, membru, r.CerereID, Ceas::Azi()); })) return;
+    if (!LaMargine(m_, [&] { cerere = Adeverinte::CerereActExpira(db_, membru, cerereRand, Ceas::Azi()); })) return;
     if (!cerere) {
         m_.Informatie(TextRandNegasit);
         AfisLista();

@@ -137,7 +137,7 @@ void Generator::citesteChei() {
 
 void Generator::Lot(int n) {
     citesteChei();
-    const qint64 primaCerere = cerereID_;
+    const qint64 primaCerere = cerereID_, primulAct = adevID_;
     for (int i = 0; i < n; ++i)
         cerere();
     // Parents before the rows that point to them.
@@ -145,6 +145,7 @@ void Generator::Lot(int n) {
                              &adeverinte_, &dispozitii_, &anchete_})
         t->Scrie();
     CheiLista::Scrie(db_, QStringLiteral("CerereID >= ?"), {primaCerere});
+    CheiLista::ScrieAdeverinte(db_, QStringLiteral("AdevID >= ?"), {primulAct});
 }
 
 void Generator::cerere() {

@@ -46,7 +46,7 @@ public:
         pasProtejat(QStringLiteral("Membrii"), [&] { cheiCautare(); });
         pasProtejat(QStringLiteral("Cereri"), [&] {
             if (const qint64 n = CheiLista::Completeaza(db_); n > 0)
-                schimbare(QStringLiteral("Cereri: chei ale listei scrise: %1").arg(n));
+                schimbare(QStringLiteral("Cereri si Adeverinte: chei ale listelor scrise: %1").arg(n));
         });
         pasProtejat(QStringLiteral("Adeverinte"), [&] { reparaAdeverinte(); });
         pasProtejat(QStringLiteral("Adeverinte"), [&] { marcheazaCurente(); });

@@ -24,12 +24,31 @@ void CheiLista::Scrie(BazaDate& db, const QString& conditie, const QVariantList&
     q.Executa();
 }
 
+void CheiLista::ScrieAdeverinte(BazaDate& db, const QString& conditie, const QVariantList& valori) {
+    static const QString sql = QStringLiteral(
+        "UPDATE Adeverinte SET MembruOrdine = (SELECT COALESCE(M.NumeCautare, '') || ' ' || "
+        "COALESCE(M.PrenumeCautare, '') FROM Membrii M WHERE M.MembruID = Adeverinte.MembruID), "
+        "CerereInVigoare = COALESCE((SELECT CASE WHEN C.Stare IN (2, 6, 7, 8) AND C.FamilieID IS NOT NULL "
+        "THEN 1 ELSE 0 END FROM Cereri C WHERE C.CerereID = Adeverinte.CerereID), 0) WHERE ");
+    Interogare q(db, sql + conditie);
+    for (const QVariant& v : valori)
+        q.Leaga(v);
+    q.Executa();
+}
+
 qint64 CheiLista::Completeaza(BazaDate& db) {
-    // A written CNP key is never missing, empty for a titular without a code or a request without one.
-    static const QString conditie = QStringLiteral("TitularCNP IS NULL");
-    Interogare n(db, QStringLiteral("SELECT COUNT(*) FROM Cereri WHERE ") + conditie);
-    n.Exista();
-    const qint64 lipsa = n.Intreg(0);
-    if (lipsa > 0) Scrie(db, conditie);
-    return lipsa;
+    qint64 scrise = 0;
+    // A written key is never missing: the CNP key is empty for a titular without a code or a request
+    // without one, the flag of a certificate 0 for a request gone.
+    const auto completeaza = [&](const QString& tabela, const QString& conditie, auto scrie) {
+        Interogare n(db, QStringLiteral("SELECT COUNT(*) FROM %1 WHERE %2").arg(tabela, conditie));
+        n.Exista();
+        const qint64 lipsa = n.Intreg(0);
+        n.query().finish();
+        if (lipsa > 0) scrie(db, conditie, QVariantList{});
+        scrise += lipsa;
+    };
+    completeaza(QStringLiteral("Cereri"), QStringLiteral("TitularCNP IS NULL"), &CheiLista::Scrie);
+    completeaza(QStringLiteral("Adeverinte"), QStringLiteral("CerereInVigoare IS NULL"), &CheiLista::ScrieAdeverinte);
+    return scrise;
 }

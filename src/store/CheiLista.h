@@ -14,8 +14,13 @@ namespace CheiLista {
 // Writes the keys of the requests that match `conditie` (a condition on Cereri with its values).
 void Scrie(BazaDate& db, const QString& conditie, const QVariantList& valori = {});
 
-// The requests whose keys were never written, by a database of before them or by an older program:
-// written now. Returns how many.
+// The same for the list of the month's expiring certificates: each certificate keeps its person's
+// name as one search key and whether its request is in force (statuses 2, 6, 7, 8, with a family).
+// Whatever writes a certificate, a person's name or a request's status writes them again here.
+void ScrieAdeverinte(BazaDate& db, const QString& conditie, const QVariantList& valori = {});
+
+// The requests and certificates whose keys were never written, by a database of before them or by
+// an older program: written now. Returns how many rows.
 qint64 Completeaza(BazaDate& db);
 
 } // namespace CheiLista

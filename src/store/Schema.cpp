@@ -213,7 +213,10 @@ std::vector<TabelaSchema> construiesteTabele() {
     t.push_back({"ListaVenituri", {B("CodVenit"), M("Denumire")}, chei({"CodVenit"}), false});
     t.push_back({"Adeverinte",
                  {K("AdevID"), K("CerereID"), K("MembruID"), B("TipAdeverinta"), X("NrAdev", 15), D("DataAdeverinta"),
-                  D("DataExpAdev"), D("DataDepunerii"), B("AdvCurenta")},
+                  D("DataExpAdev"), D("DataDepunerii"), B("AdvCurenta"),
+                  // The list of the month's expiring certificates, copied from the person and the
+                  // request (CheiLista).
+                  X("MembruOrdine", 101), I("CerereInVigoare")},
                  chei({"AdevID"}),
                  false});
     t.push_back(
@@ -296,8 +299,10 @@ std::vector<IndexSchema> construiesteIndexuri() {
         ix("Locuinte", {"CerereID"}),
         ix("Adeverinte", {"CerereID"}),
         ix("Adeverinte", {"MembruID"}),
-        // Covers the month's expiry list, which then reads no certificate row.
-        ix("Adeverinte", {"DataExpAdev", "AdvCurenta", "CerereID", "MembruID", "TipAdeverinta"}),
+        // The month's expiring certificates: counted from the first, read a page at a time in the
+        // order of their persons' names from the second.
+        ix("Adeverinte", {"DataExpAdev", "AdvCurenta", "CerereInVigoare"}),
+        ix("Adeverinte", {"AdvCurenta", "CerereInVigoare", "MembruOrdine", "DataExpAdev"}),
         ix("IstoricCereri", {"CerereID"}),
         ix("BifeText", {"CerereID"}),
         ix("Politii", {"LocalitateID"}),

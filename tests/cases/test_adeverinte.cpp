@@ -196,6 +196,7 @@ protected:
                                  "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
                   id, cerere, membru, tip, T(nr), QDate(2024, 9, 1), QDate(2024, 9, 3),
                   expira.isValid() ? QVariant(expira) : QVariant(), curenta);
+        CheiLista::ScrieAdeverinte(Bd(), T("AdevID = ?"), {id});
     }
     static QList<CerereTest::Persoana> IonSiAna() {
         return {{1, T("Popescu"), T("Ion"), T("1800101400123"), 1}, {2, T("Popescu"), T("Ana"), T("6120304400111"), 3}};
@@ -232,6 +233,17 @@ TEST_P(AdeverinteBD, ListaActelorCareExpiraInLunaCalendaristica) {
     EXPECT_EQ(randuri, (QStringList{T("5|4|4|Barbu Ion|AJOFM (somaj)"), T("6|5|5|ionescu Ion|Finante"),
                                     T("7|6|6|Matei Ion|Pensie"), T("2|1|2|Popescu Ana|de la scoala (pt elevi)"),
                                     T("1|1|1|Popescu Ion|venit net")}));
+    // Pages are parts of the whole, a deep one read from the end.
+    ASSERT_EQ(NumarActeExpira(Bd(), azi), 5);
+    for (const auto& [deLa, cate] : {std::pair{1, 2}, std::pair{3, 2}, std::pair{4, 9}}) {
+        QStringList pagina;
+        for (const RandActExpira& a : ListaActeExpira(Bd(), azi, deLa, cate, 5))
+            pagina << QString::number(a.AdevID);
+        QStringList asteptate;
+        for (const QString& rand : randuri.mid(deLa, cate))
+            asteptate << rand.section(u'|', 0, 0);
+        EXPECT_EQ(pagina, asteptate) << deLa;
+    }
     EXPECT_EQ(ListaActeExpira(Bd(), QDate(2026, 3, 1)).size(), 1u);
     EXPECT_TRUE(ListaActeExpira(Bd(), QDate(2027, 1, 1)).empty());
 }

@@ -29,6 +29,7 @@ TEST_P(Paneluri, ActeCareExpiraDoarCurenteSiInPlataInLunaCalendaristica) {
                   QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataExpAdev, "
                                  "AdvCurenta) VALUES (1, ?, ?, 3, ?, ?)"),
                   cerere, cerere, expira, curenta);
+        CheiLista::ScrieAdeverinte(Bd(), QStringLiteral("AdevID = 1"));
         EXPECT_EQ(Adeverinte::ActeCareExpira(Bd(), azi), gasit) << expira.toString(Qt::ISODate).toStdString();
     }
 }

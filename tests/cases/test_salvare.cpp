@@ -106,6 +106,21 @@ TEST_P(Salvare, DosarulSalvatSeCitesteInapoiCamp_cuCamp) {
     EXPECT_EQ(Valoare("SELECT COUNT(*) FROM Adeverinte WHERE MembruID = ?", elena.MembruID), 1)
         << "the certificates of a person who left stay";
     EXPECT_EQ(Valoare("SELECT COUNT(*) FROM BifeText WHERE CerereID = ?", 1), 2);
+
+    // The expiring-certificates list sees the new name, and the request's status as it is saved.
+    const qint64 titular = m[0].MembruID;
+    EXPECT_EQ(Valoare("SELECT COUNT(*) FROM Adeverinte WHERE MembruID = ? AND MembruOrdine LIKE 'popescu-radu %'",
+                      titular),
+              Valoare("SELECT COUNT(*) FROM Adeverinte WHERE MembruID = ?", titular));
+    const qint64 acte = Valoare("SELECT COUNT(*) FROM Adeverinte WHERE CerereID = ?", 1);
+    ASSERT_GT(acte, 0);
+    for (const auto& [stare, inVigoare] : {std::pair{2, acte}, std::pair{4, qint64(0)}}) {
+        Dosar d = Redeschis(1);
+        d.date.cboCerere[ElemCerere::cboStare].id = stare;
+        ASSERT_EQ(Salveaza(d).stare, RezultatSalvare::Stare::Salvata);
+        EXPECT_EQ(Valoare("SELECT COUNT(*) FROM Adeverinte WHERE CerereID = ? AND CerereInVigoare = 1", 1), inVigoare)
+            << stare;
+    }
 }
 
 // New names go once into the reference lists, whatever their case and diacritics; blanks add nothing.
