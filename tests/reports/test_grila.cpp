@@ -1,0 +1,127 @@
+#include "base/Bani.h"
+#include "base/Eroare.h"
+#include "reports/Grila.h"
+#include "reports/export/Cel.h"
+#include "reports/export/Csv.h"
+#include "support/Texte.h"
+
+#include <QDate>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <set>
+#include <tuple>
+
+using namespace Raport;
+
+namespace {
+
+// The sides that carry a line, as (row, column, side) with the sides left 0, right 1, top 2, bottom
+// 3 and the diagonals 4, 5.
+std::set<std::tuple<int, int, int>> Linii(const Grila& g) {
+    std::set<std::tuple<int, int, int>> r;
+    for (int rand = 0; rand < g.Randuri(); ++rand)
+        for (int col = 0; col < g.Coloane(); ++col)
+            for (int latura = 0; latura < 6; ++latura)
+                if (g.La(rand, col).linii[size_t(latura)] != Linie::Nimic) r.insert({rand, col, latura});
+    return r;
+}
+
+// Each edge code of the templates on the rectangle of rows 1-2 and columns 1-3 (upside down, as a
+// template may give it) draws on those sides only.
+TEST(Grila, MarginileDupaCodLaLaturileLor) {
+    using L = std::set<std::tuple<int, int, int>>;
+    const std::pair<Margine, L> cazuri[] = {
+        {Margine::Stanga, {{1, 1, 0}, {2, 1, 0}}},
+        {Margine::Dreapta, {{1, 3, 1}, {2, 3, 1}}},
+        {Margine::Sus, {{1, 1, 2}, {1, 2, 2}, {1, 3, 2}}},
+        {Margine::Jos, {{2, 1, 3}, {2, 2, 3}, {2, 3, 3}}},
+        {Margine::InteriorVertical, {{1, 1, 1}, {1, 2, 1}, {2, 1, 1}, {2, 2, 1}}},
+        {Margine::InteriorOrizontal, {{1, 1, 3}, {1, 2, 3}, {1, 3, 3}}},
+        {Margine::DiagonalaSus, {{1, 1, 4}, {1, 2, 4}, {1, 3, 4}, {2, 1, 4}, {2, 2, 4}, {2, 3, 4}}},
+        {Margine::DiagonalaJos, {{1, 1, 5}, {1, 2, 5}, {1, 3, 5}, {2, 1, 5}, {2, 2, 5}, {2, 3, 5}}},
+    };
+    for (const auto& [margine, asteptate] : cazuri) {
+        Grila g(5, 5);
+        g.Bordura({2, 3, 1, 1}, margine, Linie::Groasa);
+        EXPECT_EQ(Linii(g), asteptate) << int(margine);
+        g.Bordura({1, 1, 2, 3}, margine, Linie::Nimic);
+        EXPECT_TRUE(Linii(g).empty()) << int(margine);
+    }
+    Grila g(3, 3);
+    EXPECT_THROW(g.Bordura({1, 1, 3, 1}, Margine::Sus, Linie::Subtire), Eroare);
+}
+
+// A merge laid over others replaces them, a single cell is no merge; clearing and shrinking drop
+// what they cover; a tab-separated row fills from the fixed column.
+TEST(Grila, UniriRanduriSiGolire) {
+    Grila g(4, 4);
+    g.Uneste({1, 1, 1, 3});
+    g.Uneste({2, 2, 3, 3});
+    g.Uneste({1, 3, 2, 3}); // over both
+    EXPECT_EQ(g.Uniri(), (std::vector<Dreptunghi>{{1, 3, 2, 3}}));
+    EXPECT_EQ(g.UnireLa(2, 3), (Dreptunghi{1, 3, 2, 3}));
+    EXPECT_FALSE(g.UnireLa(1, 1));
+    g.Uneste({3, 1, 3, 1});
+    EXPECT_EQ(g.Uniri().size(), 1u);
+
+    g.AdaugaRand(T("\tA\tB\tC\tD"));
+    ASSERT_EQ(g.Randuri(), 5);
+    EXPECT_EQ(QStringList({g.Text(4, 0), g.Text(4, 1), g.Text(4, 2), g.Text(4, 3)}), QStringList({"", "A", "B", "C"}));
+
+    g.Scrie(2, 1, T("x"), QVariant::fromValue(B("12.5")));
+    g.Incadreaza({2, 1, 2, 1}, true);
+    g.Goleste({2, 1, 2, 3});
+    EXPECT_EQ(g.La(2, 1), Celula{});
+    EXPECT_TRUE(g.Uniri().empty());
+
+    g.Uneste({3, 2, 4, 3});
+    g.SeteazaRanduri(4);
+    EXPECT_TRUE(g.Uniri().empty());
+    EXPECT_THROW(g.La(4, 0), Eroare);
+    EXPECT_THROW(Grila(0, 3), Eroare);
+}
+
+Grila GrilaBogata() {
+    Grila g(5, 4);
+    g.inaltimeImplicita = 30;
+    g.fontImplicit = {T("Arial"), 9, true};
+    g.pagina = {Hartie::A3, false, {1.4, 0.5, 0.5, 1.0}};
+    g.Scrie(1, 1, T("LISTA; \"copii\"\nluna Noiembrie"));
+    g.Uneste({1, 1, 1, 3});
+    g.Scrie(2, 1, T("Ștefan"));
+    g.Scrie(2, 2, T("12.5"), QVariant::fromValue(B("12.5")));
+    g.Scrie(2, 3, T("01.11.2026"), QDate(2026, 11, 1));
+    g.Scrie(3, 1, T("7"), qint64(7));
+    g.Aliniaza({2, 2, 3, 3}, {Orizontal::Dreapta, Vertical::Jos});
+    g.SeteazaFont({1, 1, 1, 1}, {T("Times New Roman"), 14, true});
+    g.Incadreaza({2, 1, 2, 1}, true);
+    g.Bordura({2, 1, 3, 3}, Margine::Jos, Linie::Groasa);
+    g.SeteazaInaltimeRand(1, 36);
+    g.SeteazaLatimeColoana(2, 120);
+    g.SeteazaAliniereColoana(3, {Orizontal::Centru, Vertical::Sus});
+    return g;
+}
+
+// The csv of the agency's tools: content rows and columns only, a merge's text once, RFC 4180 quotes.
+TEST(Grila, CsvDoarContinutulCuGhilimele) {
+    EXPECT_EQ(Csv(GrilaBogata()), QByteArray("\"LISTA; \"\"copii\"\"\nluna Noiembrie\";;\r\n"
+                                             "\xC8\x98tefan;12.5;01.11.2026\r\n"
+                                             "7;;\r\n"
+                                             ";;\r\n"));
+}
+
+// A grid saved and loaded again is the same grid, typed values included; a foreign file is refused.
+TEST(Grila, FisierulCelPastreazaTotul) {
+    const Grila g = GrilaBogata();
+    EXPECT_EQ(GrilaDinCel(Cel(g)), g);
+    QTemporaryDir dir;
+    const QString fisier = dir.filePath(T("Lista copii.cel"));
+    SalveazaCel(g, fisier);
+    EXPECT_EQ(IncarcaCel(fisier), g);
+    EXPECT_THROW(GrilaDinCel("{\"format\": \"altceva\"}"), Eroare);
+    EXPECT_THROW(GrilaDinCel("nu e json"), Eroare);
+    EXPECT_THROW(IncarcaCel(dir.filePath(T("lipsa.cel"))), Eroare);
+}
+
+} // namespace
