@@ -3,12 +3,14 @@
 #include "reports/Grila.h"
 #include "reports/export/Cel.h"
 #include "reports/export/Csv.h"
+#include "reports/export/Xlsx.h"
 #include "support/Texte.h"
 
 #include <QDate>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <zip.h>
 #include <set>
 #include <tuple>
 
@@ -122,6 +124,42 @@ TEST(Grila, FisierulCelPastreazaTotul) {
     EXPECT_THROW(GrilaDinCel("{\"format\": \"altceva\"}"), Eroare);
     EXPECT_THROW(GrilaDinCel("nu e json"), Eroare);
     EXPECT_THROW(IncarcaCel(dir.filePath(T("lipsa.cel"))), Eroare);
+}
+
+// An entry of a zip archive (an xlsx), as text; empty when missing.
+QString DinArhiva(const QString& arhiva, const char* intrare) {
+    int eroare = 0;
+    zip_t* z = zip_open(QFile::encodeName(arhiva).constData(), ZIP_RDONLY, &eroare);
+    if (!z) return {};
+    QByteArray r;
+    zip_stat_t st;
+    if (zip_stat(z, intrare, 0, &st) == 0)
+        if (zip_file_t* f = zip_fopen(z, intrare, 0)) {
+            r.resize(qsizetype(st.size));
+            r.resize(qsizetype(std::max<zip_int64_t>(0, zip_fread(f, r.data(), st.size))));
+            zip_fclose(f);
+        }
+    zip_close(z);
+    return QString::fromUtf8(r);
+}
+
+// The spreadsheet holds the content with the sheet's own types: amounts and whole numbers as numbers,
+// dates as day numbers, the merge, the paper and the orientation; texts in the shared strings.
+TEST(Grila, XlsxCuNumereDateSiUniri) {
+    QTemporaryDir dir;
+    const QString fisier = dir.filePath(T("Lista copii.xlsx"));
+    ScrieXlsx(GrilaBogata(), fisier);
+    const QString foaie = DinArhiva(fisier, "xl/worksheets/sheet1.xml");
+    ASSERT_FALSE(foaie.isEmpty());
+    const int ziua = int(QDate(1899, 12, 30).daysTo(QDate(2026, 11, 1)));
+    for (const QString& parte : {T("<mergeCell ref=\"A1:C1\"/>"), T("<v>12.5</v>"), QStringLiteral("<v>%1</v>").arg(ziua),
+                                 T("r=\"A3\""), T("<v>7</v>"), T("paperSize=\"8\""), T("orientation=\"landscape\"")})
+        EXPECT_TRUE(foaie.contains(parte)) << S(parte);
+    EXPECT_TRUE(DinArhiva(fisier, "xl/sharedStrings.xml").contains(T("Ștefan")));
+    EXPECT_TRUE(DinArhiva(fisier, "xl/styles.xml").contains(T("formatCode=\"0.00\"")));
+
+    EXPECT_THROW(ScrieXlsx(GrilaBogata(), dir.filePath(T("lipsa/foaie.xlsx"))), Eroare);
+    EXPECT_FALSE(QFile::exists(dir.filePath(T("lipsa/foaie.xlsx"))));
 }
 
 } // namespace

@@ -1,0 +1,188 @@
+#include "reports/export/Xlsx.h"
+
+#include "base/Bani.h"
+#include "base/Eroare.h"
+#include "reports/Grila.h"
+#include "reports/export/Fisier.h"
+
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <map>
+#include <xlsxwriter.h>
+
+namespace Raport {
+
+namespace {
+
+enum class Fel { Text, Suma, Data, Intreg };
+
+Fel felul(const QVariant& v) {
+    if (v.metaType() == QMetaType::fromType<Bani>()) return Fel::Suma;
+    if (v.typeId() == QMetaType::QDate && v.toDate().isValid()) return Fel::Data;
+    if (v.typeId() == QMetaType::LongLong || v.typeId() == QMetaType::Int) return Fel::Intreg;
+    return Fel::Text;
+}
+
+uint8_t bordura(Linie l) {
+    switch (l) {
+    case Linie::Subtire:
+        return LXW_BORDER_THIN;
+    case Linie::Groasa:
+        return LXW_BORDER_MEDIUM;
+    case Linie::Nimic:
+        break;
+    }
+    return LXW_BORDER_NONE;
+}
+
+// One format per look, shared by the cells that have it: a workbook holds a limited number.
+class Formate {
+public:
+    Formate(lxw_workbook* wb, const Grila& g) : wb_(wb), g_(g) {}
+
+    lxw_format* Al(int rand, int col) {
+        const Celula& c = g_.La(rand, col);
+        const Aliniere a = g_.AliniereCelula(rand, col);
+        const Font f{c.font.nume.isEmpty() ? g_.fontImplicit.nume : c.font.nume,
+                     c.font.marime > 0 ? c.font.marime : g_.fontImplicit.marime, c.font.bold || g_.fontImplicit.bold};
+        const Fel fel = felul(c.valoare);
+        QString cheie = QStringLiteral("%1|%2|%3|%4|%5|%6|%7")
+                            .arg(f.nume)
+                            .arg(f.marime)
+                            .arg(int(f.bold))
+                            .arg(int(a.orizontal))
+                            .arg(int(a.vertical))
+                            .arg(int(c.incadrare))
+                            .arg(int(fel));
+        for (Linie l : c.linii)
+            cheie += QString::number(int(l));
+        auto it = formate_.find(cheie);
+        if (it != formate_.end()) return it->second;
+
+        lxw_format* x = workbook_add_format(wb_);
+        const QByteArray nume = f.nume.toUtf8();
+        if (!nume.isEmpty()) format_set_font_name(x, nume.constData());
+        if (f.marime > 0) format_set_font_size(x, f.marime);
+        if (f.bold) format_set_bold(x);
+        format_set_align(x, a.orizontal == Orizontal::Stanga  ? LXW_ALIGN_LEFT
+                            : a.orizontal == Orizontal::Centru ? LXW_ALIGN_CENTER
+                                                               : LXW_ALIGN_RIGHT);
+        format_set_align(x, a.vertical == Vertical::Sus      ? LXW_ALIGN_VERTICAL_TOP
+                            : a.vertical == Vertical::Centru ? LXW_ALIGN_VERTICAL_CENTER
+                                                             : LXW_ALIGN_VERTICAL_BOTTOM);
+        if (c.incadrare) format_set_text_wrap(x);
+        format_set_left(x, bordura(c.linii[0]));
+        format_set_right(x, bordura(c.linii[1]));
+        format_set_top(x, bordura(c.linii[2]));
+        format_set_bottom(x, bordura(c.linii[3]));
+        const bool sus = c.linii[4] != Linie::Nimic, jos = c.linii[5] != Linie::Nimic;
+        if (sus || jos) {
+            format_set_diag_type(x, sus && jos ? LXW_DIAGONAL_BORDER_UP_DOWN
+                                    : sus      ? LXW_DIAGONAL_BORDER_UP
+                                               : LXW_DIAGONAL_BORDER_DOWN);
+            format_set_diag_border(x, bordura(sus ? c.linii[4] : c.linii[5]));
+        }
+        if (fel == Fel::Suma) format_set_num_format(x, "0.00");
+        if (fel == Fel::Data) format_set_num_format(x, "dd.mm.yyyy");
+        if (fel == Fel::Intreg) format_set_num_format(x, "0");
+        formate_.emplace(cheie, x);
+        return x;
+    }
+
+private:
+    lxw_workbook* wb_;
+    const Grila& g_;
+    std::map<QString, lxw_format*> formate_;
+};
+
+void verifica(lxw_error e, const QString& ce) {
+    if (e != LXW_NO_ERROR)
+        throw Eroare(QStringLiteral("Foaia de calcul nu poate fi scrisa (%1): %2")
+                         .arg(ce, QString::fromUtf8(lxw_strerror(e))));
+}
+
+void scrieCelula(lxw_worksheet* ws, lxw_row_t r, lxw_col_t c, const Celula& x, lxw_format* f) {
+    switch (felul(x.valoare)) {
+    case Fel::Suma:
+        verifica(worksheet_write_number(ws, r, c, x.valoare.value<Bani>().ToDouble(), f), x.text);
+        return;
+    case Fel::Data: {
+        const QDate d = x.valoare.toDate();
+        lxw_datetime dt{d.year(), d.month(), d.day(), 0, 0, 0};
+        verifica(worksheet_write_datetime(ws, r, c, &dt, f), x.text);
+        return;
+    }
+    case Fel::Intreg:
+        verifica(worksheet_write_number(ws, r, c, double(x.valoare.toLongLong()), f), x.text);
+        return;
+    case Fel::Text:
+        break;
+    }
+    if (x.text.isEmpty())
+        verifica(worksheet_write_blank(ws, r, c, f), x.text);
+    else
+        verifica(worksheet_write_string(ws, r, c, x.text.toUtf8().constData(), f), x.text);
+}
+
+} // namespace
+
+void ScrieXlsx(const Grila& g, const QString& fisier) {
+    // The library writes to a name of its own; the file is put in place once whole.
+    QTemporaryDir lucru;
+    if (!lucru.isValid()) throw Eroare(QStringLiteral("Nu se poate crea un folder temporar: %1").arg(lucru.errorString()));
+    const QByteArray temporar = QFile::encodeName(lucru.filePath(QStringLiteral("foaie.xlsx")));
+    lxw_workbook_options optiuni{};
+    const QByteArray folderLucru = QFile::encodeName(lucru.path());
+    optiuni.tmpdir = const_cast<char*>(folderLucru.constData());
+    lxw_workbook* wb = workbook_new_opt(temporar.constData(), &optiuni);
+    if (!wb) throw Eroare(QStringLiteral("Foaia de calcul nu poate fi creata."));
+    lxw_worksheet* ws = workbook_add_worksheet(wb, nullptr);
+    try {
+        worksheet_set_paper(ws, g.pagina.hartie == Hartie::A3 ? 8 : g.pagina.hartie == Hartie::A4 ? 9 : 11);
+        if (!g.pagina.portret) worksheet_set_landscape(ws);
+        constexpr double CmPeInch = 2.54;
+        worksheet_set_margins(ws, g.pagina.margini[0] / CmPeInch, g.pagina.margini[2] / CmPeInch,
+                              g.pagina.margini[1] / CmPeInch, g.pagina.margini[3] / CmPeInch);
+        Formate formate(wb, g);
+        for (int c = 1; c < g.Coloane(); ++c)
+            verifica(worksheet_set_column_pixels(ws, lxw_col_t(c - 1), lxw_col_t(c - 1), uint32_t(g.LatimeColoana(c)),
+                                                 nullptr),
+                     QStringLiteral("coloana %1").arg(c));
+        for (int r = 1; r < g.Randuri(); ++r) {
+            verifica(worksheet_set_row_pixels(ws, lxw_row_t(r - 1), uint32_t(g.InaltimeRand(r)), nullptr),
+                     QStringLiteral("randul %1").arg(r));
+            for (int c = 1; c < g.Coloane(); ++c) {
+                const Celula& x = g.La(r, c);
+                if (x == Celula{} && !g.UnireLa(r, c)) continue;
+                scrieCelula(ws, lxw_row_t(r - 1), lxw_col_t(c - 1), x, formate.Al(r, c));
+            }
+        }
+        for (const Dreptunghi& u : g.Uniri()) {
+            if (u.rand1 < 1 || u.col1 < 1) continue; // the fixed row and column stay out of the sheet
+            const Celula& x = g.La(u.rand1, u.col1);
+            verifica(worksheet_merge_range(ws, lxw_row_t(u.rand1 - 1), lxw_col_t(u.col1 - 1), lxw_row_t(u.rand2 - 1),
+                                           lxw_col_t(u.col2 - 1), "", formate.Al(u.rand1, u.col1)),
+                     x.text);
+            // The merge writes its first cell's look everywhere; each cell then gets its own back,
+            // so that the rectangle's edges are drawn where the grid draws them.
+            for (int r = u.rand1; r <= u.rand2; ++r)
+                for (int c = u.col1; c <= u.col2; ++c)
+                    if (r != u.rand1 || c != u.col1)
+                        verifica(worksheet_write_blank(ws, lxw_row_t(r - 1), lxw_col_t(c - 1), formate.Al(r, c)), x.text);
+            scrieCelula(ws, lxw_row_t(u.rand1 - 1), lxw_col_t(u.col1 - 1), x, formate.Al(u.rand1, u.col1));
+        }
+    } catch (...) {
+        workbook_close(wb);
+        throw;
+    }
+    verifica(workbook_close(wb), QFileInfo(fisier).fileName());
+    QFile scris(QFile::decodeName(temporar));
+    if (!scris.open(QIODevice::ReadOnly))
+        throw Eroare(QStringLiteral("Foaia de calcul scrisa nu poate fi citita: %1").arg(scris.errorString()));
+    ScrieIntreg(fisier, scris.readAll());
+}
+
+} // namespace Raport
