@@ -1,6 +1,9 @@
 #include "reports/Grila.h"
 
+#include "base/Bani.h"
 #include "base/Eroare.h"
+
+#include <QDate>
 
 #include <algorithm>
 #include <utility>
@@ -12,6 +15,13 @@ bool seSuprapun(const Dreptunghi& a, const Dreptunghi& b) {
     return a.rand1 <= b.rand2 && b.rand1 <= a.rand2 && a.col1 <= b.col2 && b.col1 <= a.col2;
 }
 } // namespace
+
+FelValoare Felul(const QVariant& v) {
+    if (v.metaType() == QMetaType::fromType<Bani>()) return FelValoare::Suma;
+    if (v.typeId() == QMetaType::QDate && v.toDate().isValid()) return FelValoare::Data;
+    if (v.typeId() == QMetaType::LongLong || v.typeId() == QMetaType::Int) return FelValoare::Intreg;
+    return FelValoare::Text;
+}
 
 Grila::Grila(int randuri, int coloane) {
     redimensioneaza(randuri, coloane);

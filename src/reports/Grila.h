@@ -44,6 +44,10 @@ enum class Margine {
     DiagonalaJos = 7
 };
 
+// What a cell's typed value is, as the spreadsheets write it: none is text.
+enum class FelValoare { Text, Suma, Data, Intreg };
+FelValoare Felul(const QVariant& valoare);
+
 struct Celula {
     QString text;
     QVariant valoare; // Bani, QDate or qint64 when the text stands for one; none otherwise

@@ -3,12 +3,14 @@
 #include "reports/Grila.h"
 #include "reports/export/Cel.h"
 #include "reports/export/Csv.h"
+#include "reports/export/Ods.h"
 #include "reports/export/Xlsx.h"
 #include "support/Texte.h"
 
 #include <QDate>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 #include <gtest/gtest.h>
 #include <zip.h>
 #include <set>
@@ -160,6 +162,42 @@ TEST(Grila, XlsxCuNumereDateSiUniri) {
 
     EXPECT_THROW(ScrieXlsx(GrilaBogata(), dir.filePath(T("lipsa/foaie.xlsx"))), Eroare);
     EXPECT_FALSE(QFile::exists(dir.filePath(T("lipsa/foaie.xlsx"))));
+}
+
+bool BineFormat(const QString& xml) {
+    QXmlStreamReader r(xml);
+    while (!r.atEnd())
+        r.readNext();
+    return !r.hasError() && !xml.isEmpty();
+}
+
+// The OpenDocument file: its media type stored first, well-formed parts, merges spanned and covered,
+// typed values, the page.
+TEST(Grila, OdsCuTipuriUniriSiPagina) {
+    QTemporaryDir dir;
+    const QString fisier = dir.filePath(T("Lista copii.ods"));
+    ScrieOds(GrilaBogata(), fisier);
+    int cod = 0;
+    zip_t* z = zip_open(QFile::encodeName(fisier).constData(), ZIP_RDONLY, &cod);
+    ASSERT_TRUE(z);
+    zip_stat_t st;
+    ASSERT_EQ(zip_stat_index(z, 0, 0, &st), 0);
+    EXPECT_STREQ(st.name, "mimetype");
+    EXPECT_EQ(st.comp_method, ZIP_CM_STORE);
+    zip_close(z);
+    EXPECT_EQ(DinArhiva(fisier, "mimetype"), T("application/vnd.oasis.opendocument.spreadsheet"));
+
+    const QString continut = DinArhiva(fisier, "content.xml"), stiluri = DinArhiva(fisier, "styles.xml");
+    EXPECT_TRUE(BineFormat(continut));
+    EXPECT_TRUE(BineFormat(stiluri));
+    EXPECT_TRUE(BineFormat(DinArhiva(fisier, "META-INF/manifest.xml")));
+    for (const QString& parte :
+         {T("table:number-columns-spanned=\"3\""), T("<table:covered-table-cell"), T("office:value=\"12.5000\""),
+          T("office:date-value=\"2026-11-01\""), T("office:value=\"7\""), T("<text:p>Ștefan</text:p>"),
+          T("<text:p>luna Noiembrie</text:p>")})
+        EXPECT_TRUE(continut.contains(parte)) << S(parte);
+    EXPECT_TRUE(stiluri.contains(T("style:print-orientation=\"landscape\"")));
+    EXPECT_TRUE(stiluri.contains(T("fo:page-width=\"42.000cm\"")));
 }
 
 } // namespace

@@ -17,14 +17,6 @@ namespace Raport {
 
 namespace {
 
-enum class Fel { Text, Suma, Data, Intreg };
-
-Fel felul(const QVariant& v) {
-    if (v.metaType() == QMetaType::fromType<Bani>()) return Fel::Suma;
-    if (v.typeId() == QMetaType::QDate && v.toDate().isValid()) return Fel::Data;
-    if (v.typeId() == QMetaType::LongLong || v.typeId() == QMetaType::Int) return Fel::Intreg;
-    return Fel::Text;
-}
 
 uint8_t bordura(Linie l) {
     switch (l) {
@@ -48,7 +40,7 @@ public:
         const Aliniere a = g_.AliniereCelula(rand, col);
         const Font f{c.font.nume.isEmpty() ? g_.fontImplicit.nume : c.font.nume,
                      c.font.marime > 0 ? c.font.marime : g_.fontImplicit.marime, c.font.bold || g_.fontImplicit.bold};
-        const Fel fel = felul(c.valoare);
+        const FelValoare fel = Felul(c.valoare);
         QString cheie = QStringLiteral("%1|%2|%3|%4|%5|%6|%7")
                             .arg(f.nume)
                             .arg(f.marime)
@@ -85,9 +77,9 @@ public:
                                                : LXW_DIAGONAL_BORDER_DOWN);
             format_set_diag_border(x, bordura(sus ? c.linii[4] : c.linii[5]));
         }
-        if (fel == Fel::Suma) format_set_num_format(x, "0.00");
-        if (fel == Fel::Data) format_set_num_format(x, "dd.mm.yyyy");
-        if (fel == Fel::Intreg) format_set_num_format(x, "0");
+        if (fel == FelValoare::Suma) format_set_num_format(x, "0.00");
+        if (fel == FelValoare::Data) format_set_num_format(x, "dd.mm.yyyy");
+        if (fel == FelValoare::Intreg) format_set_num_format(x, "0");
         formate_.emplace(cheie, x);
         return x;
     }
@@ -105,20 +97,20 @@ void verifica(lxw_error e, const QString& ce) {
 }
 
 void scrieCelula(lxw_worksheet* ws, lxw_row_t r, lxw_col_t c, const Celula& x, lxw_format* f) {
-    switch (felul(x.valoare)) {
-    case Fel::Suma:
+    switch (Felul(x.valoare)) {
+    case FelValoare::Suma:
         verifica(worksheet_write_number(ws, r, c, x.valoare.value<Bani>().ToDouble(), f), x.text);
         return;
-    case Fel::Data: {
+    case FelValoare::Data: {
         const QDate d = x.valoare.toDate();
         lxw_datetime dt{d.year(), d.month(), d.day(), 0, 0, 0};
         verifica(worksheet_write_datetime(ws, r, c, &dt, f), x.text);
         return;
     }
-    case Fel::Intreg:
+    case FelValoare::Intreg:
         verifica(worksheet_write_number(ws, r, c, double(x.valoare.toLongLong()), f), x.text);
         return;
-    case Fel::Text:
+    case FelValoare::Text:
         break;
     }
     if (x.text.isEmpty())
