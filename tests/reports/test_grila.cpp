@@ -1,5 +1,6 @@
 #include "base/Bani.h"
 #include "base/Eroare.h"
+#include "reports/Desen.h"
 #include "reports/Grila.h"
 #include "reports/export/Cel.h"
 #include "reports/export/Csv.h"
@@ -198,6 +199,28 @@ TEST(Grila, OdsCuTipuriUniriSiPagina) {
         EXPECT_TRUE(continut.contains(parte)) << S(parte);
     EXPECT_TRUE(stiluri.contains(T("style:print-orientation=\"landscape\"")));
     EXPECT_TRUE(stiluri.contains(T("fo:page-width=\"42.000cm\"")));
+}
+
+// Rows fill a page and the next row that does not fit starts another; a row taller than a page
+// stands alone.
+TEST(Grila, RandurileSeImpartPePagini) {
+    using P = std::vector<std::pair<int, int>>;
+    const struct {
+        std::vector<int> inaltimi;
+        double pagina;
+        P asteptate;
+    } cazuri[] = {
+        {{36, 36, 36}, 80, {{1, 2}, {3, 3}}},
+        {{36, 36, 36}, 108, {{1, 3}}},
+        {{20, 200, 20}, 80, {{1, 1}, {2, 2}, {3, 3}}},
+        {{}, 80, P{}},
+    };
+    for (const auto& [inaltimi, pagina, asteptate] : cazuri) {
+        Grila g(int(inaltimi.size()) + 1, 2);
+        for (size_t i = 0; i < inaltimi.size(); ++i)
+            g.SeteazaInaltimeRand(int(i) + 1, inaltimi[i]);
+        EXPECT_EQ(Pagini(g, pagina), asteptate) << pagina;
+    }
 }
 
 } // namespace

@@ -1,0 +1,127 @@
+#include "reports/Desen.h"
+
+#include "base/Eroare.h"
+#include "reports/Grila.h"
+#include "reports/export/Fisier.h"
+
+#include <QBuffer>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+
+namespace Raport {
+
+namespace {
+constexpr double PxPeInch = 96.0;
+constexpr int Spatiu = 2; // between a cell's edge and its text, in grid pixels
+} // namespace
+
+QPageLayout AsezarePagina(const Pagina& p) {
+    const QPageSize::PageSizeId id = p.hartie == Hartie::A3   ? QPageSize::A3
+                                     : p.hartie == Hartie::A4 ? QPageSize::A4
+                                                              : QPageSize::A5;
+    return QPageLayout(QPageSize(id), p.portret ? QPageLayout::Portrait : QPageLayout::Landscape,
+                       QMarginsF(p.margini[0] * 10, p.margini[1] * 10, p.margini[2] * 10, p.margini[3] * 10),
+                       QPageLayout::Millimeter);
+}
+
+std::vector<std::pair<int, int>> Pagini(const Grila& g, double inaltimeUtila) {
+    std::vector<std::pair<int, int>> pagini;
+    double ocupat = 0;
+    for (int r = 1; r < g.Randuri(); ++r) {
+        const double h = g.InaltimeRand(r);
+        if (pagini.empty() || ocupat + h > inaltimeUtila) {
+            pagini.push_back({r, r});
+            ocupat = h;
+        } else {
+            pagini.back().second = r;
+            ocupat += h;
+        }
+    }
+    return pagini;
+}
+
+void DeseneazaPagina(QPainter& p, const Grila& g, int primul, int ultimul, double scara) {
+    p.save();
+    p.scale(scara, scara);
+    std::vector<double> x(size_t(g.Coloane()) + 1, 0), y;
+    for (int c = 1; c < g.Coloane(); ++c)
+        x[size_t(c) + 1] = x[size_t(c)] + g.LatimeColoana(c);
+    y.push_back(0);
+    for (int r = primul; r <= ultimul; ++r)
+        y.push_back(y.back() + g.InaltimeRand(r));
+    const auto sus = [&](int r) { return y[size_t(r - primul)]; };
+
+    for (int r = primul; r <= ultimul; ++r)
+        for (int c = 1; c < g.Coloane(); ++c) {
+            const std::optional<Dreptunghi> u = g.UnireLa(r, c);
+            // A merge is drawn once, from its first cell, down to the page's last row.
+            if (u && (u->rand1 != r || u->col1 != c) && !(u->rand1 < primul && r == primul && c == u->col1)) continue;
+            const int r2 = u ? std::min(u->rand2, ultimul) : r;
+            const int c2 = u ? u->col2 : c;
+            const QRectF zona(x[size_t(c)], sus(r), x[size_t(c2) + 1] - x[size_t(c)], sus(r2) + g.InaltimeRand(r2) - sus(r));
+            const Celula& celula = g.La(u ? u->rand1 : r, u ? u->col1 : c);
+            if (!celula.text.isEmpty()) {
+                QFont f(celula.font.nume.isEmpty() ? g.fontImplicit.nume : celula.font.nume);
+                f.setPointSizeF(celula.font.marime > 0 ? celula.font.marime : std::max(g.fontImplicit.marime, 1.0));
+                f.setBold(celula.font.bold || g.fontImplicit.bold);
+                p.setFont(f);
+                const Aliniere a = g.AliniereCelula(u ? u->rand1 : r, u ? u->col1 : c);
+                int fanioane = (a.orizontal == Orizontal::Stanga   ? Qt::AlignLeft
+                                : a.orizontal == Orizontal::Centru ? Qt::AlignHCenter
+                                                                   : Qt::AlignRight) |
+                               (a.vertical == Vertical::Sus      ? Qt::AlignTop
+                                : a.vertical == Vertical::Centru ? Qt::AlignVCenter
+                                                                 : Qt::AlignBottom);
+                if (celula.incadrare) fanioane |= Qt::TextWordWrap;
+                p.drawText(zona.adjusted(Spatiu, Spatiu, -Spatiu, -Spatiu), fanioane, celula.text);
+            }
+        }
+
+    // The lines each cell carries on its sides and across it.
+    for (int r = primul; r <= ultimul; ++r)
+        for (int c = 1; c < g.Coloane(); ++c) {
+            const Celula& celula = g.La(r, c);
+            const QRectF zona(x[size_t(c)], sus(r), g.LatimeColoana(c), g.InaltimeRand(r));
+            const QLineF laturi[] = {{zona.topLeft(), zona.bottomLeft()},  {zona.topRight(), zona.bottomRight()},
+                                     {zona.topLeft(), zona.topRight()},    {zona.bottomLeft(), zona.bottomRight()},
+                                     {zona.bottomLeft(), zona.topRight()}, {zona.topLeft(), zona.bottomRight()}};
+            for (size_t i = 0; i < celula.linii.size(); ++i) {
+                if (celula.linii[i] == Linie::Nimic) continue;
+                p.setPen(QPen(Qt::black, celula.linii[i] == Linie::Groasa ? 2.0 : 1.0));
+                p.drawLine(laturi[i]);
+            }
+        }
+    p.restore();
+}
+
+int Deseneaza(QPagedPaintDevice& d, const Grila& g, std::optional<int> doar) {
+    d.setPageLayout(AsezarePagina(g.pagina));
+    QPainter p;
+    if (!p.begin(&d)) throw Eroare(QStringLiteral("Pagina nu poate fi desenata."));
+    const double scara = d.logicalDpiY() / PxPeInch;
+    const auto pagini = Pagini(g, d.height() / scara);
+    bool prima = true;
+    for (size_t i = 0; i < pagini.size(); ++i) {
+        if (doar && *doar != int(i) + 1) continue;
+        if (!prima) d.newPage();
+        prima = false;
+        DeseneazaPagina(p, g, pagini[i].first, pagini[i].second, scara);
+    }
+    p.end();
+    return int(pagini.size());
+}
+
+void ScriePdf(const Grila& g, const QString& fisier) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter pdf(&buffer);
+        pdf.setResolution(300);
+        pdf.setCreator(QStringLiteral("Ferolanta"));
+        Deseneaza(pdf, g);
+    }
+    ScrieIntreg(fisier, buffer.data());
+}
+
+} // namespace Raport

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QPageLayout>
+#include <QString>
+#include <optional>
+#include <utility>
+#include <vector>
+
+class QPagedPaintDevice;
+class QPainter;
+
+// One painter draws the grid onto pages for the preview, the printer and the pdf alike: the paper,
+// the orientation and the margins of the grid's page set-up; the content rows in order, a row that
+// does not fit moving to the next page; merged cells, borders, fonts, alignment and wrap.
+namespace Raport {
+class Grila;
+struct Pagina;
+
+QPageLayout AsezarePagina(const Pagina& p);
+
+// The first and last content row of each page, for a printable height in the grid's pixels. A row
+// taller than a page stands alone on its page.
+std::vector<std::pair<int, int>> Pagini(const Grila& g, double inaltimeUtila);
+
+// Draws rows `primul` to `ultimul` from the painter's origin; `scara` device pixels per grid pixel.
+void DeseneazaPagina(QPainter& p, const Grila& g, int primul, int ultimul, double scara);
+
+// Every page (or only page `doar`, from 1) onto a printer or a pdf, laid out by the grid's page
+// set-up. Returns the number of pages of the grid.
+int Deseneaza(QPagedPaintDevice& d, const Grila& g, std::optional<int> doar = std::nullopt);
+
+// The grid as a pdf. Written whole or not at all.
+void ScriePdf(const Grila& g, const QString& fisier);
+
+} // namespace Raport
