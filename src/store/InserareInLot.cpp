@@ -10,12 +10,13 @@
 
 namespace {
 
-// The engine's own connection under the SQL module's, by the name the driver gives its type.
-template <typename T> T* conexiuneMotor(BazaDate& db, const char* tip) {
+// The engine's own connection under the SQL module's, by the name the driver gives its type (the
+// PostgreSQL driver has named it by the library's struct and by its typedef).
+template <typename T> T* conexiuneMotor(BazaDate& db, std::initializer_list<const char*> tipuri) {
     const QVariant h = db.conexiune().driver()->handle();
-    if (!h.isValid() || qstrcmp(h.typeName(), tip) != 0)
-        throw Eroare(QStringLiteral("Driverul bazei de date nu ofera conexiunea %1").arg(QLatin1String(tip)));
-    return *static_cast<T* const*>(h.constData());
+    for (const char* tip : tipuri)
+        if (h.isValid() && qstrcmp(h.typeName(), tip) == 0) return *static_cast<T* const*>(h.constData());
+    throw Eroare(QStringLiteral("Driverul bazei de date nu ofera conexiunea %1").arg(QLatin1String(*tipuri.begin())));
 }
 
 // None, as the SQL module binds it: a null text is no value either.
@@ -106,7 +107,7 @@ void InserareInLot::Scrie() {
 }
 
 void InserareInLot::scrieSQLite(const std::vector<QVariant>& valori) {
-    sqlite3* s = conexiuneMotor<sqlite3>(db_, "sqlite3*");
+    sqlite3* s = conexiuneMotor<sqlite3>(db_, {"sqlite3*"});
     const auto esec = [&] {
         return Eroare(QStringLiteral("Eroare la scrierea in %1: %2").arg(tabela_, QString::fromUtf8(sqlite3_errmsg(s))));
     };
@@ -155,7 +156,7 @@ void InserareInLot::scrieSQLite(const std::vector<QVariant>& valori) {
 }
 
 void InserareInLot::scriePostgreSQL(const std::vector<QVariant>& valori) {
-    PGconn* c = conexiuneMotor<PGconn>(db_, "pg_conn*");
+    PGconn* c = conexiuneMotor<PGconn>(db_, {"PGconn*", "pg_conn*"});
     const auto esec = [&](const char* text) {
         return Eroare(QStringLiteral("Eroare la scrierea in %1: %2").arg(tabela_, QString::fromUtf8(text).trimmed()));
     };
