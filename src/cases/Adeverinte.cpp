@@ -2,6 +2,7 @@
 
 #include "cases/DateCerere.h"
 #include "base/Eroare.h"
+#include "base/PaginiCitite.h"
 #include "base/Texte.h"
 #include "cases/Cnp.h"
 #include "base/Mesaje.h"
@@ -255,12 +256,7 @@ std::vector<RandActExpira> Adeverinte::ListaActeExpira(BazaDate& db, const QDate
     const QDate inceput(azi.year(), azi.month(), 1);
     // The keys of a page are read from the index in name order, the shorter way to a deep page
     // (from the end when past the middle), and only then joined to their persons and kinds.
-    const bool invers = total >= 0 && deLa > total / 2;
-    qint64 limita = cate, salt = deLa;
-    if (invers) {
-        limita = std::min(cate, total - deLa);
-        salt = total - deLa - limita;
-    }
+    const auto [invers, limita, salt] = Drum(deLa, cate, total);
     const QString directie = invers ? QStringLiteral(" DESC") : QString();
     const QString chei = QStringLiteral("SELECT AdevID ") + ActeExpiraInLuna +
                          QStringLiteral(" ORDER BY MembruOrdine%1, DataExpAdev%1, AdevID%1 LIMIT ? OFFSET ?").arg(directie);

@@ -1,5 +1,6 @@
 #include "cases/ListaCereri.h"
 
+#include "base/PaginiCitite.h"
 #include "base/Texte.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
@@ -197,13 +198,7 @@ std::vector<RandCerere> ListaCereri::Pagina(BazaDate& db, const FiltruCautare& f
     if (deLa < 0 || cate <= 0 || (total >= 0 && deLa >= total)) return randuri;
     const bool sqlite = db.dialect().EsteSQLite();
     const Selectie s = selectie(f, sqlite);
-    // The keys before a deep position are stepped over one by one, so the shorter way is taken.
-    const bool invers = total >= 0 && deLa > total / 2;
-    qint64 limita = cate, salt = deLa;
-    if (invers) {
-        limita = std::min(cate, total - deLa);
-        salt = total - deLa - limita;
-    }
+    const auto [invers, limita, salt] = Drum(deLa, cate, total);
     const QString chei = QStringLiteral("SELECT C.CerereID FROM Cereri C") + s.Where() +
                          orderBy(f, invers, sqlite, s.dupaText) + QStringLiteral(" LIMIT ? OFFSET ?");
     // CROSS JOIN: SQLite takes the joined tables in the order written, so the page's keys lead; with

@@ -20,8 +20,7 @@ void ModelCereri::Seteaza(const FiltruCautare& f) {
     filtru_ = f;
     filtru_.Fara.clear();
     adaugate_.clear();
-    pagini_.clear();
-    eroare_ = false;
+    pagini_.Goleste();
     total_ = 0;
     try {
         total_ = ListaCereri::Numara(db_, filtru_);
@@ -36,32 +35,14 @@ void ModelCereri::Seteaza(const FiltruCautare& f) {
 const RandCerere* ModelCereri::Rand(int rand) const {
     if (rand < 0 || rand >= rowCount()) return nullptr;
     if (rand >= total_) return &adaugate_[size_t(rand - total_)];
-    const qint64 pagina = rand / RanduriPePagina;
-    auto it = pagini_.find(pagina);
-    if (it == pagini_.end()) {
-        if (eroare_) return nullptr;
-        // A view shows a few screens at a time: the pages kept stay few.
-        if (pagini_.size() >= 64) pagini_.clear();
-        try {
-            it = pagini_
-                     .emplace(pagina,
-                              ListaCereri::Pagina(db_, filtru_, pagina * RanduriPePagina, RanduriPePagina, total_))
-                     .first;
-        } catch (const Eroare& e) {
-            eroare_ = true;
-            Q_EMIT EroareCitire(e.text());
-            return nullptr;
-        }
-    }
-    const qint64 i = rand - pagina * RanduriPePagina;
-    // Fewer rows than counted: another computer deleted some since the search.
-    return i < qint64(it->second.size()) ? &it->second[size_t(i)] : nullptr;
+    return pagini_.La(
+        rand, [this](qint64 deLa, qint64 cate) { return ListaCereri::Pagina(db_, filtru_, deLa, cate, total_); },
+        [this](const QString& text) { Q_EMIT EroareCitire(text); });
 }
 
 int ModelCereri::RandulCererii(qint64 cerereID) const {
-    for (const auto& [pagina, randuri] : pagini_)
-        for (size_t i = 0; i < randuri.size(); ++i)
-            if (randuri[i].CerereID == cerereID) return int(pagina * RanduriPePagina + qint64(i));
+    if (const qint64 i = pagini_.Cauta([&](const RandCerere& r) { return r.CerereID == cerereID; }); i >= 0)
+        return int(i);
     for (size_t i = 0; i < adaugate_.size(); ++i)
         if (adaugate_[i].CerereID == cerereID) return int(total_ + qint64(i));
     return -1;
@@ -71,8 +52,8 @@ void ModelCereri::Inlocuieste(int rand, const RandCerere& r) {
     if (!Rand(rand)) return;
     if (rand >= total_)
         adaugate_[size_t(rand - total_)] = r;
-    else
-        pagini_[rand / RanduriPePagina][size_t(rand % RanduriPePagina)] = r;
+    else if (RandCerere* citit = pagini_.Citit(rand))
+        *citit = r;
     Q_EMIT dataChanged(index(rand, 0), index(rand, NrColoane - 1));
 }
 
@@ -92,7 +73,7 @@ void ModelCereri::Elimina(int rand) {
     } else {
         // The request is gone from the database: the rows after it move up when read again.
         --total_;
-        pagini_.clear();
+        pagini_.Goleste();
     }
     endRemoveRows();
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/PaginiCitite.h"
 #include "cases/ListaCereri.h"
 
 #include <QAbstractTableModel>
-#include <map>
 #include <vector>
 
 class BazaDate;
@@ -16,7 +16,6 @@ class ModelCereri : public QAbstractTableModel {
 public:
     using Coloana = ListaCereri::Coloana;
     using enum ListaCereri::Coloana;
-    static constexpr int RanduriPePagina = 200;
 
     explicit ModelCereri(BazaDate& db, QObject* parinte = nullptr);
 
@@ -52,6 +51,5 @@ private:
     FiltruCautare filtru_;
     qint64 total_ = 0; // rows of the search, without the added ones
     std::vector<RandCerere> adaugate_;
-    mutable std::map<qint64, std::vector<RandCerere>> pagini_;
-    mutable bool eroare_ = false;
+    PaginiCitite<RandCerere> pagini_;
 };

@@ -3,7 +3,7 @@
 #include "cases/Adeverinte.h"
 #include "cases/DateCerere.h"
 #include "base/Ceas.h"
-#include "base/Eroare.h"
+#include "base/PaginiCitite.h"
 #include "base/Texte.h"
 #include "base/Mesaje.h"
 #include "ui/UiMargine.h"
@@ -16,47 +16,31 @@
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
-#include <map>
 
 // The month's certificates read a page at a time as the view shows them: a month of a large office
 // holds more than a clerk scrolls through.
 class ModelActeExpira : public QAbstractTableModel {
 public:
-    static constexpr qint64 RanduriPePagina = 200;
-
     ModelActeExpira(BazaDate& db, Mesaje& m, QObject* parinte) : QAbstractTableModel(parinte), db_(db), m_(m) {}
 
     void Seteaza(const QDate& azi, qint64 total) {
         beginResetModel();
         azi_ = azi;
         total_ = total;
-        pagini_.clear();
-        eroare_ = false;
+        pagini_.Goleste();
         endResetModel();
     }
     // The row at a position, read with its page when needed; nullptr when the read failed (said once).
     const RandActExpira* Rand(int rand) const {
         if (rand < 0 || rand >= total_) return nullptr;
-        const qint64 pagina = rand / RanduriPePagina;
-        auto it = pagini_.find(pagina);
-        if (it == pagini_.end()) {
-            if (eroare_) return nullptr;
-            try {
-                it = pagini_
-                         .emplace(pagina, Adeverinte::ListaActeExpira(db_, azi_, pagina * RanduriPePagina,
-                                                                      RanduriPePagina, total_))
-                         .first;
-            } catch (const Eroare& e) {
-                // Met while the view paints: told after the paint, and once.
-                eroare_ = true;
+        return pagini_.La(
+            rand,
+            [this](qint64 deLa, qint64 cate) { return Adeverinte::ListaActeExpira(db_, azi_, deLa, cate, total_); },
+            // Met while the view paints: told after the paint.
+            [this](const QString& text) {
                 QMetaObject::invokeMethod(
-                    const_cast<ModelActeExpira*>(this), [this, text = e.text()] { m_.Critic(text); },
-                    Qt::QueuedConnection);
-                return nullptr;
-            }
-        }
-        const size_t i = size_t(rand - pagina * RanduriPePagina);
-        return i < it->second.size() ? &it->second[i] : nullptr;
+                    const_cast<ModelActeExpira*>(this), [this, text] { m_.Critic(text); }, Qt::QueuedConnection);
+            });
     }
 
     int rowCount(const QModelIndex& p = {}) const override { return p.isValid() ? 0 : int(total_); }
@@ -91,8 +75,7 @@ private:
     Mesaje& m_;
     QDate azi_;
     qint64 total_ = 0;
-    mutable std::map<qint64, std::vector<RandActExpira>> pagini_;
-    mutable bool eroare_ = false;
+    PaginiCitite<RandActExpira> pagini_;
 };
 
 frmListaActeExpira::frmListaActeExpira(BazaDate& db, Mesaje& m, QWidget* parinte) : QDialog(parinte), db_(db), m_(m) {

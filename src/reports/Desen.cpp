@@ -25,6 +25,35 @@ QPageLayout AsezarePagina(const Pagina& p) {
                        QPageLayout::Millimeter);
 }
 
+int AliniereQt(const Aliniere& a) {
+    return int((a.orizontal == Orizontal::Stanga   ? Qt::AlignLeft
+                : a.orizontal == Orizontal::Centru ? Qt::AlignHCenter
+                                                   : Qt::AlignRight) |
+               (a.vertical == Vertical::Sus      ? Qt::AlignTop
+                : a.vertical == Vertical::Centru ? Qt::AlignVCenter
+                                                 : Qt::AlignBottom));
+}
+
+QFont FontQt(const Font& f) {
+    QFont q(f.nume);
+    q.setPointSizeF(std::max(f.marime, 1.0));
+    q.setBold(f.bold);
+    return q;
+}
+
+void DeseneazaLinii(QPainter& p, const Celula& c, const QRectF& z) {
+    const QLineF laturi[] = {{z.topLeft(), z.bottomLeft()},  {z.topRight(), z.bottomRight()},
+                             {z.topLeft(), z.topRight()},    {z.bottomLeft(), z.bottomRight()},
+                             {z.bottomLeft(), z.topRight()}, {z.topLeft(), z.bottomRight()}};
+    p.save();
+    for (size_t i = 0; i < c.linii.size(); ++i)
+        if (c.linii[i] != Linie::Nimic) {
+            p.setPen(QPen(Qt::black, c.linii[i] == Linie::Groasa ? 2.0 : 1.0));
+            p.drawLine(laturi[i]);
+        }
+    p.restore();
+}
+
 std::vector<std::pair<int, int>> Pagini(const Grila& g, double inaltimeUtila) {
     std::vector<std::pair<int, int>> pagini;
     double ocupat = 0;
@@ -60,38 +89,19 @@ void DeseneazaPagina(QPainter& p, const Grila& g, int primul, int ultimul, doubl
             const int r2 = u ? std::min(u->rand2, ultimul) : r;
             const int c2 = u ? u->col2 : c;
             const QRectF zona(x[size_t(c)], sus(r), x[size_t(c2) + 1] - x[size_t(c)], sus(r2) + g.InaltimeRand(r2) - sus(r));
-            const Celula& celula = g.La(u ? u->rand1 : r, u ? u->col1 : c);
+            const int rc = u ? u->rand1 : r, cc = u ? u->col1 : c;
+            const Celula& celula = g.La(rc, cc);
             if (!celula.text.isEmpty()) {
-                QFont f(celula.font.nume.isEmpty() ? g.fontImplicit.nume : celula.font.nume);
-                f.setPointSizeF(celula.font.marime > 0 ? celula.font.marime : std::max(g.fontImplicit.marime, 1.0));
-                f.setBold(celula.font.bold || g.fontImplicit.bold);
-                p.setFont(f);
-                const Aliniere a = g.AliniereCelula(u ? u->rand1 : r, u ? u->col1 : c);
-                int fanioane = (a.orizontal == Orizontal::Stanga   ? Qt::AlignLeft
-                                : a.orizontal == Orizontal::Centru ? Qt::AlignHCenter
-                                                                   : Qt::AlignRight) |
-                               (a.vertical == Vertical::Sus      ? Qt::AlignTop
-                                : a.vertical == Vertical::Centru ? Qt::AlignVCenter
-                                                                 : Qt::AlignBottom);
+                p.setFont(FontQt(g.FontCelula(rc, cc)));
+                int fanioane = AliniereQt(g.AliniereCelula(rc, cc));
                 if (celula.incadrare) fanioane |= Qt::TextWordWrap;
                 p.drawText(zona.adjusted(Spatiu, Spatiu, -Spatiu, -Spatiu), fanioane, celula.text);
             }
         }
 
-    // The lines each cell carries on its sides and across it.
     for (int r = primul; r <= ultimul; ++r)
-        for (int c = 1; c < g.Coloane(); ++c) {
-            const Celula& celula = g.La(r, c);
-            const QRectF zona(x[size_t(c)], sus(r), g.LatimeColoana(c), g.InaltimeRand(r));
-            const QLineF laturi[] = {{zona.topLeft(), zona.bottomLeft()},  {zona.topRight(), zona.bottomRight()},
-                                     {zona.topLeft(), zona.topRight()},    {zona.bottomLeft(), zona.bottomRight()},
-                                     {zona.bottomLeft(), zona.topRight()}, {zona.topLeft(), zona.bottomRight()}};
-            for (size_t i = 0; i < celula.linii.size(); ++i) {
-                if (celula.linii[i] == Linie::Nimic) continue;
-                p.setPen(QPen(Qt::black, celula.linii[i] == Linie::Groasa ? 2.0 : 1.0));
-                p.drawLine(laturi[i]);
-            }
-        }
+        for (int c = 1; c < g.Coloane(); ++c)
+            DeseneazaLinii(p, g.La(r, c), QRectF(x[size_t(c)], sus(r), g.LatimeColoana(c), g.InaltimeRand(r)));
     p.restore();
 }
 

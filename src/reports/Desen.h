@@ -6,8 +6,10 @@
 #include <utility>
 #include <vector>
 
+class QFont;
 class QPagedPaintDevice;
 class QPainter;
+class QRectF;
 
 // One painter draws the grid onto pages for the preview, the printer and the pdf alike: the paper,
 // the orientation and the margins of the grid's page set-up; the content rows in order, a row that
@@ -16,7 +18,17 @@ namespace Raport {
 class Grila;
 struct Pagina;
 
+struct Aliniere;
+struct Celula;
+struct Font;
+
 QPageLayout AsezarePagina(const Pagina& p);
+
+// The grid's alignment and font as Qt draws them, for the pages and the view alike.
+int AliniereQt(const Aliniere& a);
+QFont FontQt(const Font& f);
+// The lines a cell carries on its sides and across it, over its rectangle.
+void DeseneazaLinii(QPainter& p, const Celula& c, const QRectF& zona);
 
 // The first and last content row of each page, for a printable height in the grid's pixels. A row
 // taller than a page stands alone on its page.

@@ -214,3 +214,30 @@ Aliniere Grila::AliniereCelula(int rand, int col) const {
 }
 
 } // namespace Raport
+
+namespace Raport {
+
+Font Grila::FontCelula(int rand, int col) const {
+    const Font& f = La(rand, col).font;
+    return {f.nume.isEmpty() ? fontImplicit.nume : f.nume, f.marime > 0 ? f.marime : fontImplicit.marime,
+            f.bold || fontImplicit.bold};
+}
+
+QString Grila::CheieAspect(int rand, int col) const {
+    const Celula& c = La(rand, col);
+    const Font f = FontCelula(rand, col);
+    const Aliniere a = AliniereCelula(rand, col);
+    QString cheie = QStringLiteral("%1|%2|%3|%4|%5|%6|%7|")
+                        .arg(f.nume)
+                        .arg(f.marime)
+                        .arg(int(f.bold))
+                        .arg(int(a.orizontal))
+                        .arg(int(a.vertical))
+                        .arg(int(c.incadrare))
+                        .arg(int(Felul(c.valoare)));
+    for (Linie l : c.linii)
+        cheie += QString::number(int(l));
+    return cheie;
+}
+
+} // namespace Raport

@@ -124,6 +124,11 @@ public:
     std::optional<Aliniere> AliniereProprieColoana(int col) const;
     // A cell's alignment: its own, else its column's.
     Aliniere AliniereCelula(int rand, int col) const;
+    // A cell's font with the grid's default where it has none of its own.
+    Font FontCelula(int rand, int col) const;
+    // The same text for cells that look alike (font, alignment, wrap, lines, kind of value), which
+    // the spreadsheets give one shared style.
+    QString CheieAspect(int rand, int col) const;
 
     int inaltimeImplicita = 36;
     int latimeImplicita = 64;

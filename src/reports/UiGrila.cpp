@@ -1,5 +1,7 @@
 #include "reports/UiGrila.h"
 
+#include "reports/Desen.h"
+
 #include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QPainter>
@@ -29,21 +31,10 @@ public:
         switch (rol) {
         case Qt::DisplayRole:
             return x.text;
-        case Qt::FontRole: {
-            QFont f(x.font.nume.isEmpty() ? g_.fontImplicit.nume : x.font.nume);
-            f.setPointSizeF(x.font.marime > 0 ? x.font.marime : std::max(g_.fontImplicit.marime, 1.0));
-            f.setBold(x.font.bold || g_.fontImplicit.bold);
-            return f;
-        }
-        case Qt::TextAlignmentRole: {
-            const Aliniere a = g_.AliniereCelula(r, c);
-            return int((a.orizontal == Orizontal::Stanga   ? Qt::AlignLeft
-                        : a.orizontal == Orizontal::Centru ? Qt::AlignHCenter
-                                                           : Qt::AlignRight) |
-                       (a.vertical == Vertical::Sus      ? Qt::AlignTop
-                        : a.vertical == Vertical::Centru ? Qt::AlignVCenter
-                                                         : Qt::AlignBottom));
-        }
+        case Qt::FontRole:
+            return FontQt(g_.FontCelula(r, c));
+        case Qt::TextAlignmentRole:
+            return AliniereQt(g_.AliniereCelula(r, c));
         }
         return {};
     }
@@ -72,18 +63,7 @@ public:
 
     void paint(QPainter* p, const QStyleOptionViewItem& o, const QModelIndex& i) const override {
         QStyledItemDelegate::paint(p, o, i);
-        const Celula& x = g_.La(i.row() + 1, i.column() + 1);
-        const QRectF z = QRectF(o.rect).adjusted(0, 0, -1, -1);
-        const QLineF laturi[] = {{z.topLeft(), z.bottomLeft()},  {z.topRight(), z.bottomRight()},
-                                 {z.topLeft(), z.topRight()},    {z.bottomLeft(), z.bottomRight()},
-                                 {z.bottomLeft(), z.topRight()}, {z.topLeft(), z.bottomRight()}};
-        p->save();
-        for (size_t k = 0; k < x.linii.size(); ++k)
-            if (x.linii[k] != Linie::Nimic) {
-                p->setPen(QPen(Qt::black, x.linii[k] == Linie::Groasa ? 2.0 : 1.0));
-                p->drawLine(laturi[k]);
-            }
-        p->restore();
+        DeseneazaLinii(*p, g_.La(i.row() + 1, i.column() + 1), QRectF(o.rect).adjusted(0, 0, -1, -1));
     }
 
 private:

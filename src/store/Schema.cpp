@@ -302,7 +302,8 @@ std::vector<IndexSchema> construiesteIndexuri() {
         // The month's expiring certificates: counted from the first, read a page at a time in the
         // order of their persons' names from the second.
         ix("Adeverinte", {"DataExpAdev", "AdvCurenta", "CerereInVigoare"}),
-        ix("Adeverinte", {"AdvCurenta", "CerereInVigoare", "MembruOrdine", "DataExpAdev"}),
+        // Led by the flag, it also finds the certificates whose keys were never written.
+        ix("Adeverinte", {"CerereInVigoare", "AdvCurenta", "MembruOrdine", "DataExpAdev"}),
         ix("IstoricCereri", {"CerereID"}),
         ix("BifeText", {"CerereID"}),
         ix("Politii", {"LocalitateID"}),

@@ -7,7 +7,6 @@
 
 #include <QDate>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QXmlStreamWriter>
 #include <map>
 #include <zip.h>
@@ -62,18 +61,7 @@ public:
     explicit Stiluri(const Grila& g) : g_(g) {}
 
     QString Al(int rand, int col) {
-        const Celula& c = g_.La(rand, col);
-        const Aliniere a = g_.AliniereCelula(rand, col);
-        QString cheie = QStringLiteral("%1|%2|%3|%4|%5|%6|%7")
-                            .arg(c.font.nume)
-                            .arg(c.font.marime)
-                            .arg(int(c.font.bold))
-                            .arg(int(a.orizontal))
-                            .arg(int(a.vertical))
-                            .arg(int(c.incadrare))
-                            .arg(int(Felul(c.valoare)));
-        for (Linie l : c.linii)
-            cheie += QString::number(int(l));
+        const QString cheie = g_.CheieAspect(rand, col);
         auto it = nume_.find(cheie);
         if (it == nume_.end()) {
             it = nume_.emplace(cheie, QStringLiteral("ce%1").arg(nume_.size() + 1)).first;
@@ -129,11 +117,10 @@ public:
                              : a.orizontal == Orizontal::Centru ? QStringLiteral("center")
                                                                 : QStringLiteral("end"));
             x.writeEmptyElement(NsStyle, QStringLiteral("text-properties"));
-            const QString font = c.font.nume.isEmpty() ? g_.fontImplicit.nume : c.font.nume;
-            const double marime = c.font.marime > 0 ? c.font.marime : g_.fontImplicit.marime;
-            if (!font.isEmpty()) x.writeAttribute(NsFo, QStringLiteral("font-family"), font);
-            if (marime > 0) x.writeAttribute(NsFo, QStringLiteral("font-size"), QString::number(marime) + QStringLiteral("pt"));
-            if (c.font.bold || g_.fontImplicit.bold) x.writeAttribute(NsFo, QStringLiteral("font-weight"), QStringLiteral("bold"));
+            const Font f = g_.FontCelula(rand, col);
+            if (!f.nume.isEmpty()) x.writeAttribute(NsFo, QStringLiteral("font-family"), f.nume);
+            if (f.marime > 0) x.writeAttribute(NsFo, QStringLiteral("font-size"), QString::number(f.marime) + QStringLiteral("pt"));
+            if (f.bold) x.writeAttribute(NsFo, QStringLiteral("font-weight"), QStringLiteral("bold"));
             x.writeEndElement();
         }
     }
@@ -293,38 +280,32 @@ QByteArray manifest() {
 } // namespace
 
 void ScrieOds(const Grila& g, const QString& fisier) {
-    QTemporaryDir lucru;
-    if (!lucru.isValid()) throw Eroare(QStringLiteral("Nu se poate crea un folder temporar: %1").arg(lucru.errorString()));
-    const QString temporar = lucru.filePath(QStringLiteral("foaie.ods"));
     // The archive's entries, in order: the media type first and stored, as the format asks.
     const std::pair<const char*, QByteArray> intrari[] = {{"mimetype", TipMime},
                                                           {"META-INF/manifest.xml", manifest()},
                                                           {"styles.xml", stiluriPagina(g)},
                                                           {"content.xml", continut(g)}};
-    int cod = 0;
-    zip_t* z = zip_open(QFile::encodeName(temporar).constData(), ZIP_CREATE | ZIP_TRUNCATE, &cod);
-    if (!z) throw Eroare(QStringLiteral("Foaia de calcul nu poate fi creata (zip %1).").arg(cod));
-    for (const auto& [nume, date] : intrari) {
-        zip_source_t* s = zip_source_buffer(z, date.constData(), zip_uint64_t(date.size()), 0);
-        const zip_int64_t i = s ? zip_file_add(z, nume, s, ZIP_FL_ENC_UTF_8) : -1;
-        if (i < 0) {
-            if (s) zip_source_free(s);
+    ScrieIntregPrin(fisier, [&](const QString& temporar) {
+        int cod = 0;
+        zip_t* z = zip_open(QFile::encodeName(temporar).constData(), ZIP_CREATE | ZIP_TRUNCATE, &cod);
+        if (!z) throw Eroare(QStringLiteral("Foaia de calcul nu poate fi creata (zip %1).").arg(cod));
+        const auto esec = [&] {
             const QString motiv = QString::fromUtf8(zip_strerror(z));
             zip_discard(z);
-            throw Eroare(QStringLiteral("Foaia de calcul nu poate fi scrisa: %1").arg(motiv));
+            return Eroare(QStringLiteral("Foaia de calcul nu poate fi scrisa: %1").arg(motiv));
+        };
+        for (const auto& [nume, date] : intrari) {
+            zip_source_t* s = zip_source_buffer(z, date.constData(), zip_uint64_t(date.size()), 0);
+            const zip_int64_t i = s ? zip_file_add(z, nume, s, ZIP_FL_ENC_UTF_8) : -1;
+            if (i < 0) {
+                if (s) zip_source_free(s);
+                throw esec();
+            }
+            if (qstrcmp(nume, "mimetype") == 0) zip_set_file_compression(z, zip_uint64_t(i), ZIP_CM_STORE, 0);
         }
-        if (qstrcmp(nume, "mimetype") == 0) zip_set_file_compression(z, zip_uint64_t(i), ZIP_CM_STORE, 0);
-    }
-    // The buffers above live until the archive is closed, which is when it reads them.
-    if (zip_close(z) != 0) {
-        const QString motiv = QString::fromUtf8(zip_strerror(z));
-        zip_discard(z);
-        throw Eroare(QStringLiteral("Foaia de calcul nu poate fi scrisa: %1").arg(motiv));
-    }
-    QFile scris(temporar);
-    if (!scris.open(QIODevice::ReadOnly))
-        throw Eroare(QStringLiteral("Foaia de calcul scrisa nu poate fi citita: %1").arg(scris.errorString()));
-    ScrieIntreg(fisier, scris.readAll());
+        // The buffers above live until the archive is closed, which is when it reads them.
+        if (zip_close(z) != 0) throw esec();
+    });
 }
 
 } // namespace Raport

@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <map>
 #include <xlsxwriter.h>
 
@@ -36,23 +35,13 @@ public:
     Formate(lxw_workbook* wb, const Grila& g) : wb_(wb), g_(g) {}
 
     lxw_format* Al(int rand, int col) {
-        const Celula& c = g_.La(rand, col);
-        const Aliniere a = g_.AliniereCelula(rand, col);
-        const Font f{c.font.nume.isEmpty() ? g_.fontImplicit.nume : c.font.nume,
-                     c.font.marime > 0 ? c.font.marime : g_.fontImplicit.marime, c.font.bold || g_.fontImplicit.bold};
-        const FelValoare fel = Felul(c.valoare);
-        QString cheie = QStringLiteral("%1|%2|%3|%4|%5|%6|%7")
-                            .arg(f.nume)
-                            .arg(f.marime)
-                            .arg(int(f.bold))
-                            .arg(int(a.orizontal))
-                            .arg(int(a.vertical))
-                            .arg(int(c.incadrare))
-                            .arg(int(fel));
-        for (Linie l : c.linii)
-            cheie += QString::number(int(l));
+        const QString cheie = g_.CheieAspect(rand, col);
         auto it = formate_.find(cheie);
         if (it != formate_.end()) return it->second;
+        const Celula& c = g_.La(rand, col);
+        const Aliniere a = g_.AliniereCelula(rand, col);
+        const Font f = g_.FontCelula(rand, col);
+        const FelValoare fel = Felul(c.valoare);
 
         lxw_format* x = workbook_add_format(wb_);
         const QByteArray nume = f.nume.toUtf8();
@@ -119,17 +108,13 @@ void scrieCelula(lxw_worksheet* ws, lxw_row_t r, lxw_col_t c, const Celula& x, l
         verifica(worksheet_write_string(ws, r, c, x.text.toUtf8().constData(), f), x.text);
 }
 
-} // namespace
-
-void ScrieXlsx(const Grila& g, const QString& fisier) {
-    // The library writes to a name of its own; the file is put in place once whole.
-    QTemporaryDir lucru;
-    if (!lucru.isValid()) throw Eroare(QStringLiteral("Nu se poate crea un folder temporar: %1").arg(lucru.errorString()));
-    const QByteArray temporar = QFile::encodeName(lucru.filePath(QStringLiteral("foaie.xlsx")));
+void scrieFoaia(const Grila& g, const QString& cale) {
+    // The library's own temporary files go beside the sheet, in the writer's folder.
+    const QByteArray fisier = QFile::encodeName(cale);
+    const QByteArray folder = QFile::encodeName(QFileInfo(cale).path());
     lxw_workbook_options optiuni{};
-    const QByteArray folderLucru = QFile::encodeName(lucru.path());
-    optiuni.tmpdir = const_cast<char*>(folderLucru.constData());
-    lxw_workbook* wb = workbook_new_opt(temporar.constData(), &optiuni);
+    optiuni.tmpdir = const_cast<char*>(folder.constData());
+    lxw_workbook* wb = workbook_new_opt(fisier.constData(), &optiuni);
     if (!wb) throw Eroare(QStringLiteral("Foaia de calcul nu poate fi creata."));
     lxw_worksheet* ws = workbook_add_worksheet(wb, nullptr);
     try {
@@ -170,11 +155,13 @@ void ScrieXlsx(const Grila& g, const QString& fisier) {
         workbook_close(wb);
         throw;
     }
-    verifica(workbook_close(wb), QFileInfo(fisier).fileName());
-    QFile scris(QFile::decodeName(temporar));
-    if (!scris.open(QIODevice::ReadOnly))
-        throw Eroare(QStringLiteral("Foaia de calcul scrisa nu poate fi citita: %1").arg(scris.errorString()));
-    ScrieIntreg(fisier, scris.readAll());
+    verifica(workbook_close(wb), QFileInfo(cale).fileName());
+}
+
+} // namespace
+
+void ScrieXlsx(const Grila& g, const QString& fisier) {
+    ScrieIntregPrin(fisier, [&](const QString& temporar) { scrieFoaia(g, temporar); });
 }
 
 } // namespace Raport
