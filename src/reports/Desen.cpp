@@ -37,7 +37,9 @@ int AliniereQt(const Aliniere& a) {
 QFont FontQt(const Font& f) {
     QFont q(f.nume);
     q.setPointSizeF(std::max(f.marime, 1.0));
-    q.setBold(f.bold);
+    q.setBold(f.Bold());
+    q.setItalic(f.Italic());
+    q.setUnderline(f.Subliniat());
     return q;
 }
 

@@ -220,21 +220,24 @@ namespace Raport {
 Font Grila::FontCelula(int rand, int col) const {
     const Font& f = La(rand, col).font;
     return {f.nume.isEmpty() ? fontImplicit.nume : f.nume, f.marime > 0 ? f.marime : fontImplicit.marime,
-            f.bold || fontImplicit.bold};
+            f.bold ? f.bold : fontImplicit.bold, f.italic ? f.italic : fontImplicit.italic,
+            f.subliniat ? f.subliniat : fontImplicit.subliniat};
 }
 
 QString Grila::CheieAspect(int rand, int col) const {
     const Celula& c = La(rand, col);
     const Font f = FontCelula(rand, col);
     const Aliniere a = AliniereCelula(rand, col);
-    QString cheie = QStringLiteral("%1|%2|%3|%4|%5|%6|%7|")
+    QString cheie = QStringLiteral("%1|%2|%3%8%9|%4|%5|%6|%7|")
                         .arg(f.nume)
                         .arg(f.marime)
-                        .arg(int(f.bold))
+                        .arg(int(f.Bold()))
                         .arg(int(a.orizontal))
                         .arg(int(a.vertical))
                         .arg(int(c.incadrare))
-                        .arg(int(Felul(c.valoare)));
+                        .arg(int(Felul(c.valoare)))
+                        .arg(int(f.Italic()))
+                        .arg(int(f.Subliniat()));
     for (Linie l : c.linii)
         cheie += QString::number(int(l));
     return cheie;

@@ -21,11 +21,14 @@ struct Aliniere {
     bool operator==(const Aliniere&) const = default;
 };
 
-// A font; an empty name or a size of 0 takes the grid's default.
+// A font; on a cell, an empty name, a size of 0 or a style left unset takes the grid's default.
 struct Font {
     QString nume;
     double marime = 0;
-    bool bold = false;
+    std::optional<bool> bold, italic, subliniat;
+    bool Bold() const { return bold.value_or(false); }
+    bool Italic() const { return italic.value_or(false); }
+    bool Subliniat() const { return subliniat.value_or(false); }
     bool operator==(const Font&) const = default;
 };
 
@@ -132,7 +135,7 @@ public:
 
     int inaltimeImplicita = 36;
     int latimeImplicita = 64;
-    Font fontImplicit{QStringLiteral("Arial"), 10, false};
+    Font fontImplicit{QStringLiteral("Arial"), 10, false, false, false};
     Pagina pagina;
 
     bool operator==(const Grila&) const = default;

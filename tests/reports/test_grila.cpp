@@ -90,7 +90,7 @@ TEST(Grila, UniriRanduriSiGolire) {
 Grila GrilaBogata() {
     Grila g(5, 4);
     g.inaltimeImplicita = 30;
-    g.fontImplicit = {T("Arial"), 9, true};
+    g.fontImplicit = {T("Arial"), 9, true, false, false};
     g.pagina = {Hartie::A3, false, {1.4, 0.5, 0.5, 1.0}};
     g.Scrie(1, 1, T("LISTA; \"copii\"\nluna Noiembrie"));
     g.Uneste({1, 1, 1, 3});
@@ -99,7 +99,7 @@ Grila GrilaBogata() {
     g.Scrie(2, 3, T("01.11.2026"), QDate(2026, 11, 1));
     g.Scrie(3, 1, T("7"), qint64(7));
     g.Aliniaza({2, 2, 3, 3}, {Orizontal::Dreapta, Vertical::Jos});
-    g.SeteazaFont({1, 1, 1, 1}, {T("Times New Roman"), 14, true});
+    g.SeteazaFont({1, 1, 1, 1}, {T("Times New Roman"), 14, true, true, {}});
     g.Incadreaza({2, 1, 2, 1}, true);
     g.Bordura({2, 1, 3, 3}, Margine::Jos, Linie::Groasa);
     g.SeteazaInaltimeRand(1, 36);

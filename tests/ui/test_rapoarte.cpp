@@ -35,7 +35,7 @@ TEST(Grila, VedereaArataModelul) {
     Grila g(4, 4);
     g.Scrie(1, 1, T("LISTA"));
     g.Uneste({1, 1, 1, 3});
-    g.SeteazaFont({1, 1, 1, 1}, {T(""), 14, true});
+    g.SeteazaFont({1, 1, 1, 1}, {T(""), 14, true, {}, {}});
     g.Scrie(2, 2, T("12.50"));
     g.Aliniaza({2, 2, 2, 2}, {Orizontal::Dreapta, Vertical::Jos});
     g.SeteazaLatimeColoana(2, 150);

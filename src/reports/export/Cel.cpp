@@ -19,12 +19,22 @@ namespace {
 const QString Format = QStringLiteral("ferolanta-grila");
 constexpr int Versiune = 1;
 
+// A style left unset is left out, so that it stays the grid's default when loaded.
 QJsonObject dinFont(const Font& f) {
-    return {{QStringLiteral("nume"), f.nume}, {QStringLiteral("marime"), f.marime}, {QStringLiteral("bold"), f.bold}};
+    QJsonObject o{{QStringLiteral("nume"), f.nume}, {QStringLiteral("marime"), f.marime}};
+    const std::pair<const char*, const std::optional<bool>&> stiluri[] = {
+        {"bold", f.bold}, {"italic", f.italic}, {"subliniat", f.subliniat}};
+    for (const auto& [cheie, v] : stiluri)
+        if (v) o.insert(QLatin1String(cheie), *v);
+    return o;
 }
 Font inFont(const QJsonObject& o) {
-    return {o.value(QStringLiteral("nume")).toString(), o.value(QStringLiteral("marime")).toDouble(),
-            o.value(QStringLiteral("bold")).toBool()};
+    Font f{o.value(QStringLiteral("nume")).toString(), o.value(QStringLiteral("marime")).toDouble(), {}, {}, {}};
+    const std::pair<const char*, std::optional<bool>&> stiluri[] = {
+        {"bold", f.bold}, {"italic", f.italic}, {"subliniat", f.subliniat}};
+    for (const auto& [cheie, v] : stiluri)
+        if (o.contains(QLatin1String(cheie))) v = o.value(QLatin1String(cheie)).toBool();
+    return f;
 }
 QJsonObject dinAliniere(const Aliniere& a) {
     return {{QStringLiteral("h"), int(a.orizontal)}, {QStringLiteral("v"), int(a.vertical)}};

@@ -120,7 +120,13 @@ public:
             const Font f = g_.FontCelula(rand, col);
             if (!f.nume.isEmpty()) x.writeAttribute(NsFo, QStringLiteral("font-family"), f.nume);
             if (f.marime > 0) x.writeAttribute(NsFo, QStringLiteral("font-size"), QString::number(f.marime) + QStringLiteral("pt"));
-            if (f.bold) x.writeAttribute(NsFo, QStringLiteral("font-weight"), QStringLiteral("bold"));
+            if (f.Bold()) x.writeAttribute(NsFo, QStringLiteral("font-weight"), QStringLiteral("bold"));
+            if (f.Italic()) x.writeAttribute(NsFo, QStringLiteral("font-style"), QStringLiteral("italic"));
+            if (f.Subliniat()) {
+                x.writeAttribute(NsStyle, QStringLiteral("text-underline-style"), QStringLiteral("solid"));
+                x.writeAttribute(NsStyle, QStringLiteral("text-underline-width"), QStringLiteral("auto"));
+                x.writeAttribute(NsStyle, QStringLiteral("text-underline-color"), QStringLiteral("font-color"));
+            }
             x.writeEndElement();
         }
     }

@@ -47,7 +47,9 @@ public:
         const QByteArray nume = f.nume.toUtf8();
         if (!nume.isEmpty()) format_set_font_name(x, nume.constData());
         if (f.marime > 0) format_set_font_size(x, f.marime);
-        if (f.bold) format_set_bold(x);
+        if (f.Bold()) format_set_bold(x);
+        if (f.Italic()) format_set_italic(x);
+        if (f.Subliniat()) format_set_underline(x, LXW_UNDERLINE_SINGLE);
         format_set_align(x, a.orizontal == Orizontal::Stanga  ? LXW_ALIGN_LEFT
                             : a.orizontal == Orizontal::Centru ? LXW_ALIGN_CENTER
                                                                : LXW_ALIGN_RIGHT);
