@@ -7,6 +7,8 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
 #include <QFontDialog>
 #include <QFontInfo>
 #include <QFormLayout>
@@ -138,6 +140,19 @@ void frmOptiuni::AsazaControale() {
     fRapoarte->addRow(QStringLiteral("Fisierul exportului Anexa 3:"), txtAnexa3);
     fRapoarte->addRow(QStringLiteral("Fisierul exportului Anexa 4:"), txtAnexa4);
     fRapoarte->addRow(QStringLiteral("Fisierul exportului stat de plata:"), txtStatPlata);
+    auto* hExport = new QHBoxLayout;
+    txtFolderExport = Control(new QLineEdit(rapoarte), "txtFolderExport");
+    txtFolderExport->setPlaceholderText(QStringLiteral("Desktop"));
+    cmdFolderExport = Control(new QPushButton(QStringLiteral("..."), rapoarte), "cmdFolderExport");
+    cmdFolderExport->setMaximumWidth(32);
+    hExport->addWidget(txtFolderExport);
+    hExport->addWidget(cmdFolderExport);
+    fRapoarte->addRow(QStringLiteral("Folderul rapoartelor exportate:"), hExport);
+    connect(cmdFolderExport, &QPushButton::clicked, this, [this] {
+        const QString ales = QFileDialog::getExistingDirectory(this, QStringLiteral("Folderul rapoartelor exportate"),
+                                                               txtFolderExport->text());
+        if (!ales.isEmpty()) txtFolderExport->setText(QDir::toNativeSeparators(ales));
+    });
     vRapoarte->addLayout(fRapoarte);
     chkSerieStatPlata = Bifa(rapoarte, "chkSerieStatPlata", QStringLiteral("Afiseaza seria in statul de plata"));
     vRapoarte->addWidget(chkSerieStatPlata);
@@ -183,6 +198,7 @@ void frmOptiuni::ArataValori(const ValoriOptiuni& v) {
     chkNrCerere->setChecked(v.NrCerereTiparita);
     txtServerCerere->setText(v.ServerCerere);
     culoareVenit_ = v.CuloareVenit;
+    txtFolderExport->setText(v.FolderExport);
     ArataCuloare();
 }
 
@@ -218,6 +234,7 @@ ValoriOptiuni frmOptiuni::CitesteValori() const {
     v.NrCerereTiparita = chkNrCerere->isChecked();
     v.ServerCerere = txtServerCerere->text();
     v.CuloareVenit = culoareVenit_;
+    v.FolderExport = txtFolderExport->text();
     return v;
 }
 

@@ -74,6 +74,8 @@ private:
     QCheckBox* chkNrCerereInAncheta = nullptr;
     QCheckBox* chkNrCerere = nullptr;
     QLineEdit* txtServerCerere = nullptr;
+    QLineEdit* txtFolderExport = nullptr;
+    QPushButton* cmdFolderExport = nullptr;
     QCheckBox* chk_update_off = nullptr;
     QLabel* lblFont = nullptr;
     QPushButton* cmdFont = nullptr;

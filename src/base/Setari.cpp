@@ -3,6 +3,7 @@
 #include "base/ServiciuFisiere.h"
 #include "base/Val.h"
 
+#include <QStandardPaths>
 #include <cmath>
 #include <limits>
 
@@ -124,6 +125,7 @@ Setari IncarcaSetari(const QString& fisierIni, bool scrieImplicite) {
     s.OpresteActualizareAutomata = c.Flag(Generale, QStringLiteral("OpresteActualizareAutomata"));
     // Read so that the options dialog shows the stored colour and its OK does not erase it.
     s.CuloareVenit = c.Text(Generale, QStringLiteral("CuloareVenit"));
+    s.FolderExport = c.Text(Cale, QStringLiteral("FolderExport")).trimmed();
     return s;
 }
 
@@ -164,6 +166,7 @@ void ScrieOptiuni(const QString& f, const Setari& s) {
                 s.ServerCerere == ServerCerereImplicit ? QString() : s.ServerCerere);
     ScrieSetare(f, Generale, QStringLiteral("CuloareVenit"), s.CuloareVenit);
     ScrieSetare(f, Cale, QStringLiteral("CaleWord"), s.CaleWord);
+    ScrieSetare(f, Cale, QStringLiteral("FolderExport"), s.FolderExport);
 }
 
 ValoriOptiuni ValoriDinSetari(const Setari& s) {
@@ -197,6 +200,7 @@ ValoriOptiuni ValoriDinSetari(const Setari& s) {
     v.NrCerereTiparita = s.NrCerereTiparita;
     v.ServerCerere = s.ServerCerere;
     v.CuloareVenit = s.CuloareVenit;
+    v.FolderExport = s.FolderExport;
     return v;
 }
 
@@ -242,6 +246,7 @@ Setari AplicaOptiuni(Setari s, const ValoriOptiuni& v) {
     const QString server = v.ServerCerere.trimmed();
     s.ServerCerere = server.isEmpty() ? ServerCerereImplicit : server;
     s.CuloareVenit = v.CuloareVenit;
+    s.FolderExport = v.FolderExport.trimmed();
     return s;
 }
 
@@ -298,4 +303,10 @@ const std::vector<ElementCombo>& ListaDataCerere() {
     static const std::vector<ElementCombo> l{
         {0, QStringLiteral("Nimic")}, {1, QStringLiteral("Data Cerere")}, {2, QStringLiteral("Data Calculator")}};
     return l;
+}
+
+QString FolderExportEfectiv(const Setari& s) {
+    if (!s.FolderExport.isEmpty()) return s.FolderExport;
+    const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+    return desktop.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::HomeLocation) : desktop;
 }

@@ -65,6 +65,8 @@ struct Setari {
     QString CuloareVenit;
     // [Cale]
     QString CaleWord;
+    // Where the reports' files go; blank: the desktop.
+    QString FolderExport;
 
     friend bool operator==(const Setari&, const Setari&) = default;
 };
@@ -122,6 +124,7 @@ struct ValoriOptiuni {
     bool NrCerereTiparita = false;
     QString ServerCerere;
     QString CuloareVenit;
+    QString FolderExport;
 };
 
 // The controls as the settings show them when the dialog opens.
@@ -135,6 +138,9 @@ std::optional<QString> VerificaOptiuni(const ValoriOptiuni& v);
 // The settings after the dialog's OK. Typed numbers follow the leading-number rule; a number outside
 // its key's range gives the key's default. A blank server address gives the default one.
 Setari AplicaOptiuni(Setari s, const ValoriOptiuni& v);
+
+// The folder the reports' files are written to: the chosen one, else the desktop.
+QString FolderExportEfectiv(const Setari& s);
 
 // The sample of the report font: name, size, and ", B", ", I", ", U" for the styles set.
 QString TextMostraFont(const QString& nume, int marime, bool b, bool i, bool u);

@@ -136,6 +136,7 @@ Setari SetariSchimbate() {
     s.DataCerereTiparita = 2;
     s.ServerCerere = T("https://asf.primarie.ro/cereri/");
     s.CuloareVenit = T("197121");
+    s.FolderExport = T("/srv/rapoarte asf");
     return s;
 }
 
