@@ -374,6 +374,7 @@ private:
             if (nr < 0) Esec(QStringLiteral("%1: numarul setului de date \"%2\" este negativ.").arg(Element(), a));
             // Numbers rise from child to child: a lower one drops the sets above it.
             seturi_.resize(size_t(nr) + 1);
+            // A relative settings file stands beside the template, wherever the program was started from.
             const QString setari = fisierSetari_.isEmpty() ? QString() : QFileInfo(cale_).dir().filePath(fisierSetari_);
             sqlPrecedent_ = InlocuiesteParametri(n->Text(), setari, sqlPrecedent_);
             seturi_[size_t(nr)] = Deschide(sqlPrecedent_, nr, *n, s);
