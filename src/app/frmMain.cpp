@@ -17,6 +17,7 @@
 #include "reference/frmChLunaAn.h"
 #include "reference/frmMotive.h"
 #include "reference/frmSate.h"
+#include "reports/frmRapoarte.h"
 #include "store/BazaDate.h"
 #include "store/Program.h"
 #include "ui/UiButoane.h"
@@ -361,7 +362,10 @@ void frmMain::construiesteMeniurile() {
     connect(meniu(rapoarte, "mnuFisa", QStringLiteral("Fisa de calcul ..."), true), &QAction::triggered, this,
             &frmMain::cmdFisaCalcul_Click);
     meniu(rapoarte, "mnuBorderou", QStringLiteral("Borderou..."), false);
-    meniu(rapoarte, "mnuRap", QStringLiteral("Rapoarte ..."), false);
+    connect(meniu(rapoarte, "mnuRap", QStringLiteral("Rapoarte ..."), true), &QAction::triggered, this, [this] {
+        frmRapoarte f(p_, m_, this);
+        ArataModal(f);
+    });
     meniu(rapoarte, "mnuRap2", QStringLiteral("Rapoarte2 ..."), false);
 
     QMenu* intretinere = meniuPrincipal("mnuIntretinere", QStringLiteral("Intretinere"));

@@ -58,6 +58,7 @@ int ComandaCauta(const QCommandLineParser& p, QTextStream& out, QTextStream& err
 int ComandaCuantum(const QCommandLineParser& p, const QString& idText, QTextStream& out, QTextStream& err);
 int ComandaDocument(const QCommandLineParser& p, const QString& fel, const QString& idText, QTextStream& out,
                     QTextStream& err);
+int ComandaRaport(const QCommandLineParser& p, const QString& ce, QTextStream& out);
 int ComandaWeb(const QCommandLineParser& p, const QString& document, const QString& idText, QTextStream& out,
                QTextStream& err);
 

@@ -11,7 +11,10 @@ const QString Utilizare =
     QStringLiteral("utilizare: ferolanta-cli {init|upgrade|demo --cereri N [--seed S]|cuantum ID [--luna L --an A]|"
                    "document {dispozitie|fisa|declaratie} ID [--sablon FISIER] [--out FISIER] [--data ZZ.LL.AAAA]|"
                    "web {cerere|cerere_1a|ancheta} ID [--out DIR]|"
-                   "cauta [--cnp P] [--nume P] [--prenume P] [--nr-cerere N] [--stari ID,ID,...] [--primele N]} "
+                   "cauta [--cnp P] [--nume P] [--prenume P] [--nr-cerere N] [--stari ID,ID,...] [--primele N]|"
+                   "raport {lista|N --out FISIER [--foaie] [--luna L --an A] [--azi ZZ.LL.AAAA] [--ord1 I] [--ord2 I] "
+                   "[--tip-cerere 0|1|2] [--membri] [--nr-luni TEXT] [--stari ID,ID,...] [--nr-bord TEXT] "
+                   "[--data-bord ZZ.LL.AAAA]}} "
                    "[--dir DIR] "
                    "[--db postgresql://...]");
 
@@ -34,8 +37,17 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
     p.addOption({QStringLiteral("nr-cerere"), QStringLiteral("numarul cererii"), QStringLiteral("N")});
     p.addOption({QStringLiteral("stari"), QStringLiteral("starile cererilor"), QStringLiteral("ID,ID")});
     p.addOption({QStringLiteral("primele"), QStringLiteral("cate randuri se scriu"), QStringLiteral("N")});
+    p.addOption({QStringLiteral("foaie"), QStringLiteral("raportul ca la export")});
+    p.addOption({QStringLiteral("azi"), QStringLiteral("data de azi a raportului"), QStringLiteral("ZZ.LL.AAAA")});
+    p.addOption({QStringLiteral("ord1"), QStringLiteral("prima ordonare"), QStringLiteral("I")});
+    p.addOption({QStringLiteral("ord2"), QStringLiteral("a doua ordonare"), QStringLiteral("I")});
+    p.addOption({QStringLiteral("tip-cerere"), QStringLiteral("felul cererilor"), QStringLiteral("0|1|2")});
+    p.addOption({QStringLiteral("membri"), QStringLiteral("titular + membrii")});
+    p.addOption({QStringLiteral("nr-luni"), QStringLiteral("numarul de luni"), QStringLiteral("TEXT")});
+    p.addOption({QStringLiteral("nr-bord"), QStringLiteral("numarul borderoului"), QStringLiteral("TEXT")});
+    p.addOption({QStringLiteral("data-bord"), QStringLiteral("data borderoului"), QStringLiteral("ZZ.LL.AAAA")});
     p.addPositionalArgument(QStringLiteral("comanda"),
-                            QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta"));
+                            QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta, raport"));
     try {
         if (!p.parse(argumente)) throw EroareArgumente{p.errorText()};
         const QStringList poz = p.positionalArguments();
@@ -44,26 +56,35 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         const bool cuCerere = comanda == QLatin1String("cuantum");
         const bool cuDocument = comanda == QLatin1String("document");
         const bool cuWeb = comanda == QLatin1String("web");
+        const bool cuRaport = comanda == QLatin1String("raport");
+        if (cuRaport && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste raportul: lista sau indexul")};
         if (cuCerere && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
         if (cuDocument && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste felul documentului")};
         if (cuDocument && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul documentului")};
         if (cuWeb && poz.size() == 1)
             throw EroareArgumente{QStringLiteral("lipseste documentul: cerere, cerere_1a sau ancheta")};
         if (cuWeb && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
-        if (poz.size() != (cuDocument || cuWeb ? 3 : cuCerere ? 2 : 1))
+        if (poz.size() != (cuDocument || cuWeb ? 3 : cuCerere || cuRaport ? 2 : 1))
             throw EroareArgumente{QStringLiteral("prea multe argumente")};
         if (!cuDocument && (p.isSet(QStringLiteral("sablon")) || p.isSet(QStringLiteral("data"))))
             throw EroareArgumente{QStringLiteral("--sablon si --data sunt doar pentru document")};
-        if (!cuDocument && !cuWeb && p.isSet(QStringLiteral("out")))
-            throw EroareArgumente{QStringLiteral("--out este doar pentru document si web")};
+        if (!cuDocument && !cuWeb && !cuRaport && p.isSet(QStringLiteral("out")))
+            throw EroareArgumente{QStringLiteral("--out este doar pentru document, web si raport")};
         if (comanda != QLatin1String("demo") && (p.isSet(QStringLiteral("cereri")) || p.isSet(QStringLiteral("seed"))))
             throw EroareArgumente{QStringLiteral("--cereri si --seed sunt doar pentru demo")};
-        if (!cuCerere && (p.isSet(QStringLiteral("luna")) || p.isSet(QStringLiteral("an"))))
-            throw EroareArgumente{QStringLiteral("--luna si --an sunt doar pentru cuantum")};
+        if (!cuCerere && !cuRaport && (p.isSet(QStringLiteral("luna")) || p.isSet(QStringLiteral("an"))))
+            throw EroareArgumente{QStringLiteral("--luna si --an sunt doar pentru cuantum si raport")};
         if (comanda != QLatin1String("cauta"))
-            for (const char* o : {"cnp", "nume", "prenume", "nr-cerere", "stari", "primele"})
+            for (const char* o : {"cnp", "nume", "prenume", "nr-cerere", "primele"})
                 if (p.isSet(QLatin1String(o)))
                     throw EroareArgumente{QStringLiteral("--%1 este doar pentru cauta").arg(QLatin1String(o))};
+        if (comanda != QLatin1String("cauta") && !cuRaport && p.isSet(QStringLiteral("stari")))
+            throw EroareArgumente{QStringLiteral("--stari este doar pentru cauta si raport")};
+        if (!cuRaport)
+            for (const char* o :
+                 {"foaie", "azi", "ord1", "ord2", "tip-cerere", "membri", "nr-luni", "nr-bord", "data-bord"})
+                if (p.isSet(QLatin1String(o)))
+                    throw EroareArgumente{QStringLiteral("--%1 este doar pentru raport").arg(QLatin1String(o))};
         if (comanda == QLatin1String("init")) return ComandaInit(p, out, err);
         if (comanda == QLatin1String("cauta")) return ComandaCauta(p, out, err);
         if (comanda == QLatin1String("upgrade")) return ComandaUpgrade(p, out, err);
@@ -71,6 +92,7 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (cuCerere) return ComandaCuantum(p, poz[1], out, err);
         if (cuDocument) return ComandaDocument(p, poz[1], poz[2], out, err);
         if (cuWeb) return ComandaWeb(p, poz[1], poz[2], out, err);
+        if (cuRaport) return ComandaRaport(p, poz[1], out);
         throw EroareArgumente{QStringLiteral("comanda necunoscuta: %1").arg(comanda)};
     } catch (const EroareArgumente& e) {
         err << e.text << ". " << Utilizare << Qt::endl;

@@ -124,6 +124,10 @@ int Deseneaza(QPagedPaintDevice& d, const Grila& g, std::optional<int> doar) {
     return int(pagini.size());
 }
 
+int NumarPagini(const Grila& g) {
+    return int(Pagini(g, AsezarePagina(g.pagina).paintRect(QPageLayout::Inch).height() * PxPeInch).size());
+}
+
 void ScriePdf(const Grila& g, const QString& fisier) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);

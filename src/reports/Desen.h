@@ -41,6 +41,9 @@ void DeseneazaPagina(QPainter& p, const Grila& g, int primul, int ultimul, doubl
 // set-up. Returns the number of pages of the grid.
 int Deseneaza(QPagedPaintDevice& d, const Grila& g, std::optional<int> doar = std::nullopt);
 
+// How many pages the grid takes on its paper.
+int NumarPagini(const Grila& g);
+
 // The grid as a pdf. Written whole or not at all.
 void ScriePdf(const Grila& g, const QString& fisier);
 

@@ -148,6 +148,20 @@ TEST_P(Cli, WebScrieDateleLangaPagina) {
     EXPECT_FALSE(QFileInfo::exists(In("nou")));
 }
 
+// The list of reports, and a report the version cannot build yet: its message where the clerk's
+// messages go, code 1, no file.
+TEST_P(Cli, RaportListaSiMesaje) {
+    const IesireCli lista = Ruleaza(T("raport lista"));
+    EXPECT_EQ(lista.cod, 0);
+    const QStringList linii = lista.out.split(u'\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(linii.size(), 22);
+    EXPECT_TRUE(linii[21].startsWith(T("21\t")));
+    const IesireCli r = Ruleaza(T("raport 12 --out ") + In("anexa.csv"));
+    EXPECT_EQ(r.cod, 1);
+    EXPECT_TRUE(r.out.contains(T("Anexa 4 - Modificari/Incetari"))) << r.out.toStdString();
+    EXPECT_FALSE(QFile::exists(In("anexa.csv")));
+}
+
 PE_AMBELE_MOTOARE(Cli);
 
 // Each wrong command line gives code 2, one line of usage on the error stream, nothing on the
@@ -163,7 +177,9 @@ TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
         "document anexa 3", "document fisa x", "document fisa 3 4", "document dispozitie 3 --data 01.01.2025",
         "document fisa 3 --data 31.02.2025", "web", "web cerere", "web dispozitie 3", "web cerere -1",
         "web cerere 3 --sablon a.rtf", "cauta x", "cauta --stari 2,x", "cauta --primele -1",
-        "cauta --nr-cerere 12a", "upgrade --nume Pop"};
+        "cauta --nr-cerere 12a", "upgrade --nume Pop", "raport", "raport 22 --out x.csv", "raport 0", "raport lista 3",
+        "raport 0 --out x.doc", "raport 0 --out x.csv --ord1 4", "raport 0 --out x.csv --tip-cerere 3",
+        "raport 0 --out x.csv --azi 31.02.2026", "raport 0 --out x.csv --luna 3", "cauta --foaie"};
     // clang-format on
     QTemporaryDir dir;
     for (const char* linie : linii) {

@@ -5,17 +5,19 @@
 #include "reports/export/Cel.h"
 #include "reports/export/Csv.h"
 #include "reports/export/Ods.h"
+#include "reports/export/SablonOds.h"
 #include "reports/export/Xlsx.h"
 #include "support/Texte.h"
 
 #include <QDate>
+#include <QDomDocument>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 #include <gtest/gtest.h>
-#include <zip.h>
 #include <set>
 #include <tuple>
+#include <zip.h>
 
 using namespace Raport;
 
@@ -155,8 +157,9 @@ TEST(Grila, XlsxCuNumereDateSiUniri) {
     const QString foaie = DinArhiva(fisier, "xl/worksheets/sheet1.xml");
     ASSERT_FALSE(foaie.isEmpty());
     const int ziua = int(QDate(1899, 12, 30).daysTo(QDate(2026, 11, 1)));
-    for (const QString& parte : {T("<mergeCell ref=\"A1:C1\"/>"), T("<v>12.5</v>"), QStringLiteral("<v>%1</v>").arg(ziua),
-                                 T("r=\"A3\""), T("<v>7</v>"), T("paperSize=\"8\""), T("orientation=\"landscape\"")})
+    for (const QString& parte :
+         {T("<mergeCell ref=\"A1:C1\"/>"), T("<v>12.5</v>"), QStringLiteral("<v>%1</v>").arg(ziua), T("r=\"A3\""),
+          T("<v>7</v>"), T("paperSize=\"8\""), T("orientation=\"landscape\"")})
         EXPECT_TRUE(foaie.contains(parte)) << S(parte);
     EXPECT_TRUE(DinArhiva(fisier, "xl/sharedStrings.xml").contains(T("Ștefan")));
     EXPECT_TRUE(DinArhiva(fisier, "xl/styles.xml").contains(T("formatCode=\"0.00\"")));
@@ -224,3 +227,69 @@ TEST(Grila, RandurileSeImpartPePagini) {
 }
 
 } // namespace
+
+namespace {
+
+// The first sheet's texts, a row of texts per row, the repeated rows and cells spelt out (up to 20).
+std::vector<QStringList> TextePrimaFoaie(const QString& fisier) {
+    QDomDocument doc;
+    doc.setContent(DinArhiva(fisier, "content.xml").toUtf8(), true);
+    const QString ns = T("urn:oasis:names:tc:opendocument:xmlns:table:1.0");
+    std::vector<QStringList> r;
+    const QDomNodeList randuri = doc.elementsByTagNameNS(ns, T("table-row"));
+    for (int i = 0; i < randuri.size(); ++i) {
+        QStringList rand;
+        for (QDomElement c = randuri.at(i).firstChildElement(); !c.isNull(); c = c.nextSiblingElement())
+            for (int k = std::min(20, c.attributeNS(ns, T("number-columns-repeated"), T("1")).toInt()); k > 0; --k)
+                rand << c.text();
+        for (int k = std::min(20, randuri.at(i).toElement().attributeNS(ns, T("number-rows-repeated"), T("1")).toInt());
+             k > 0; --k)
+            r.push_back(rand);
+    }
+    return r;
+}
+
+} // namespace
+
+// A delivered template keeps what it holds; the texts land in the cells asked for even inside
+// repeated rows and cells or past the end; a removed column shifts the ones after it and narrows a
+// merge over it.
+TEST(Grila, SablonOdsCompletatSiColoaneSterse) {
+    QTemporaryDir dir;
+    const QString sablon = dir.filePath(T("ANEXA3.ods")), fisier = dir.filePath(T("Asf_Anexa3_Noi.ods"));
+    const QByteArray continut =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"
+        "<office:document-content xmlns:office=\"urn:oasis:names:tc:opendocument:xmlns:office:1.0\" "
+        "xmlns:table=\"urn:oasis:names:tc:opendocument:xmlns:table:1.0\" "
+        "xmlns:text=\"urn:oasis:names:tc:opendocument:xmlns:text:1.0\" office:version=\"1.2\">"
+        "<office:body><office:spreadsheet><table:table table:name=\"Foaie1\">"
+        "<table:table-column table:number-columns-repeated=\"4\"/>"
+        "<table:table-row><table:table-cell table:number-columns-spanned=\"3\" office:value-type=\"string\">"
+        "<text:p>BORDEROU</text:p></table:table-cell><table:covered-table-cell table:number-columns-repeated=\"2\"/>"
+        "<table:table-cell office:value-type=\"string\"><text:p>Anexa</text:p></table:table-cell></table:table-row>"
+        "<table:table-row table:number-rows-repeated=\"3\"><table:table-cell table:number-columns-repeated=\"4\"/>"
+        "</table:table-row></table:table></office:spreadsheet></office:body></office:document-content>";
+    int cod = 0;
+    zip_t* z = zip_open(QFile::encodeName(sablon).constData(), ZIP_CREATE | ZIP_TRUNCATE, &cod);
+    ASSERT_TRUE(z);
+    const QByteArray tip("application/vnd.oasis.opendocument.spreadsheet");
+    zip_file_add(z, "mimetype", zip_source_buffer(z, tip.constData(), zip_uint64_t(tip.size()), 0), 0);
+    zip_file_add(z, "content.xml", zip_source_buffer(z, continut.constData(), zip_uint64_t(continut.size()), 0), 0);
+    ASSERT_EQ(zip_close(z), 0);
+
+    CompleteazaSablonOds(sablon, fisier, {{2, 1, T("Ștefan"), true}, {2, 3, T("X")}, {5, 0, T("ultimul")}}, {1});
+    // Rows past the end are made to reach the one written.
+    const std::vector<QStringList> asteptat{{T("BORDEROU"), T(""), T("Anexa")},
+                                            {T(""), T(""), T("")},
+                                            {T(""), T(""), T("X")},
+                                            {T(""), T(""), T("")},
+                                            {T("")},
+                                            {T("ultimul")}};
+    EXPECT_EQ(TextePrimaFoaie(fisier), asteptat);
+    const QString xml = DinArhiva(fisier, "content.xml");
+    EXPECT_TRUE(xml.contains(T("table:number-columns-spanned=\"2\""))) << "the merge lost the removed column";
+    EXPECT_EQ(DinArhiva(fisier, "mimetype"), QString::fromLatin1(tip));
+    EXPECT_TRUE(xml.contains(T("fo:border=\"0.5pt solid #000000\"")));
+    EXPECT_THROW(CompleteazaSablonOds(dir.filePath(T("lipsa.ods")), dir.filePath(T("x.ods")), {}), Eroare);
+    EXPECT_FALSE(QFile::exists(dir.filePath(T("x.ods"))));
+}

@@ -26,7 +26,10 @@ public:
     }
     QString Intrare(const QString& text, const QString& = {}, const QString& implicit = {}) override {
         mesaje.push_back({Fel::Intrare, text});
-        return implicit;
+        if (intrari.empty()) return implicit;
+        const QString r = intrari.front();
+        intrari.pop_front();
+        return r;
     }
 
     QStringList Texte() const {
@@ -44,4 +47,5 @@ public:
 
     std::vector<Mesaj> mesaje;
     std::deque<bool> raspunsuri;
+    std::deque<QString> intrari; // what the input boxes are answered, in order
 };

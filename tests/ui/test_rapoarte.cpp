@@ -1,12 +1,26 @@
+#include "cases/ListaCereri.h"
+#include "reference/DateReferinta.h"
 #include "reports/Desen.h"
 #include "reports/Grila.h"
 #include "reports/UiGrila.h"
+#include "reports/export/Cel.h"
+#include "reports/frmRapoarte.h"
+#include "store/Program.h"
 #include "support/Texte.h"
+#include "ui/FormaDosar.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QFont>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPrintPreviewDialog>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QUrl>
 #include <gtest/gtest.h>
 
 // The painter needs the fonts of a running application, which this binary has.
@@ -58,5 +72,81 @@ TEST(Grila, VedereaArataModelul) {
     EXPECT_EQ(v.columnSpan(0, 0), 1);
     EXPECT_EQ(v.model()->columnCount(), 1);
 }
+
+} // namespace
+
+namespace {
+
+using FereastraRapoarte = FormaPeDosar;
+
+// The report window: the town hall's data asked for, the filters of the chosen entry, the checks of
+// OK and of the page to print, the grid saved into the export folder, the preview opened.
+TEST_P(FereastraRapoarte, ControaleSiActiuni) {
+    QTemporaryDir exporturi;
+    setari.FolderExport = exporturi.path();
+    Program program{Bd(), setari, Locatie().caleBD};
+    {
+        frmRapoarte fara(program, mesaje);
+        EXPECT_EQ(mesaje.Texte().size(), 1) << "the town hall's data are asked for";
+    }
+    DateReferinta::DatePrimarie p;
+    for (auto& t : p.text)
+        t = T("1");
+    p.TipLocalitate = 1;
+    ASSERT_FALSE(DateReferinta::SalveazaDatePrimarie(Bd(), p));
+    mesaje.mesaje.clear();
+
+    frmRapoarte f(program, mesaje);
+    f.show();
+    EXPECT_TRUE(mesaje.mesaje.empty());
+    EXPECT_FALSE(f.cmdBAS[0]->isVisible());
+    EXPECT_EQ(f.lstStare->count(), int(ListaCereri::Stari(Bd()).size()));
+    int tiparite = 0;
+    f.Tipareste = [&](QPrinter&) { ++tiparite; };
+    QStringList deschise;
+    f.DeschideFisier = [&](const QUrl& u) {
+        deschise << u.toLocalFile();
+        return true;
+    };
+
+    f.cmdOK->click();
+    f.cmdExport->click();
+    EXPECT_EQ(mesaje.Texte().size(), 2) << "nothing chosen, for OK and for the export";
+    f.cboTipRaport->setCurrentIndex(1);
+    EXPECT_TRUE(f.chkMembrii->isEnabled());
+    EXPECT_TRUE(f.cboTipCerere->isVisible());
+    f.cboTipRaport->setCurrentIndex(15);
+    EXPECT_FALSE(f.chkMembrii->isEnabled());
+    EXPECT_FALSE(f.cboTipCerere->isVisible());
+    EXPECT_TRUE(f.txtNrLuni->isVisible());
+
+    // A report without an export does nothing; the grid goes to the export folder under its name.
+    f.cboTipRaport->setCurrentIndex(5);
+    mesaje.mesaje.clear();
+    f.cmdExport->click();
+    EXPECT_TRUE(mesaje.mesaje.empty());
+    EXPECT_TRUE(deschise.isEmpty());
+    f.cboTipRaport->setCurrentIndex(12);
+    f.cmdExportGrid->click();
+    EXPECT_EQ(IncarcaCel(QDir(exporturi.path()).filePath(T("Anexa 4 - Modificari_Incetari.cel"))), f.GrilaAfisata());
+
+    // Printing: all pages after a Yes, one page only for a number of a page that exists.
+    mesaje.raspunsuri = {false, true};
+    f.cmdPrint->click();
+    f.cmdPrint->click();
+    EXPECT_EQ(tiparite, 1);
+    mesaje.intrari = {T("abc"), T("2"), T("1")};
+    for (int i = 0; i < 3; ++i)
+        f.cmdPrintPage->click();
+    EXPECT_EQ(tiparite, 2);
+
+    f.cmdPreview->click();
+    auto* preview = f.findChild<QPrintPreviewDialog*>();
+    ASSERT_NE(preview, nullptr);
+    EXPECT_TRUE(preview->isVisible());
+    preview->close();
+}
+
+PE_AMBELE_MOTOARE(FereastraRapoarte);
 
 } // namespace

@@ -30,12 +30,15 @@
 #include "reference/frmDatePrimarie2.h"
 #include "reference/frmMotive.h"
 #include "reference/frmSate.h"
+#include "reports/UiGrila.h"
+#include "reports/frmRapoarte.h"
 #include "store/BazaDate.h"
 #include "store/DateLivrate.h"
 #include "store/Program.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <cstdio>
 
@@ -189,6 +192,37 @@ int main(int argc, char** argv) {
     {
         frmOptiuni f(setari, QDir(dir.path()).filePath(Foldere::FisierSetari), m);
         captura(f, "frmOptiuni");
+        if (auto* t = f.findChild<QTabWidget*>(QStringLiteral("tabOptiuni"))) t->setCurrentIndex(2);
+        captura(f, "frmOptiuni_Rapoarte");
+    }
+    {
+        frmRapoarte f(program, m);
+        f.resize(1280, 800);
+        // A list grid as the builders make it: head, title, header row, rows with their lines.
+        Raport::Grila g = Raport::GrilaNoua(setari);
+        g.SeteazaRanduri(16);
+        g.SeteazaColoane(8);
+        const int latimi[] = {30, 60, 130, 200, 110, 60, 250};
+        const char* titluri[] = {"Nr. Crt.", "Nr dosar", "Nr/Data cerere", "Nume si Prenume",
+                                 "CNP",      "Nr copii", "Adresa"};
+        for (int c = 1; c <= 7; ++c) {
+            g.SeteazaLatimeColoana(c, latimi[c - 1]);
+            g.Scrie(5, c, QString::fromUtf8(titluri[c - 1]));
+        }
+        g.Scrie(1, 1, QStringLiteral("ROMANIA"));
+        g.Scrie(3, 2, QStringLiteral("LISTA persoanelor"));
+        g.Uneste({3, 2, 3, 7});
+        g.Aliniaza({3, 2, 3, 7}, {Raport::Orizontal::Centru, Raport::Vertical::Centru});
+        g.SeteazaFont({3, 2, 3, 7}, {QString(), 14, true, {}, {}});
+        g.Incadreaza({5, 1, 5, 7}, true);
+        g.Bordura({5, 1, 5, 7}, Raport::Margine::Jos, Raport::Linie::Groasa);
+        for (int r = 6; r < 16; ++r) {
+            g.Scrie(r, 1, QString::number(r - 5));
+            g.Scrie(r, 4, QStringLiteral("POPESCU ION %1").arg(r));
+            g.Bordura({r, 1, r, 7}, Raport::Margine::Jos, r == 15 ? Raport::Linie::Groasa : Raport::Linie::Subtire);
+        }
+        f.Grid->Arata(g);
+        captura(f, "frmRapoarte");
     }
     {
         frmSate f(*db, m);

@@ -4,6 +4,7 @@
 #include "base/Eroare.h"
 #include "reports/Grila.h"
 #include "reports/export/Fisier.h"
+#include "reports/export/SpatiiOdf.h"
 
 #include <QDate>
 #include <QFile>
@@ -12,15 +13,10 @@
 #include <zip.h>
 
 namespace Raport {
+using namespace Odf;
 
 namespace {
 
-const QString NsOffice = QStringLiteral("urn:oasis:names:tc:opendocument:xmlns:office:1.0");
-const QString NsStyle = QStringLiteral("urn:oasis:names:tc:opendocument:xmlns:style:1.0");
-const QString NsText = QStringLiteral("urn:oasis:names:tc:opendocument:xmlns:text:1.0");
-const QString NsTable = QStringLiteral("urn:oasis:names:tc:opendocument:xmlns:table:1.0");
-const QString NsFo = QStringLiteral("urn:oasis:names:tc:opendocument:xmlns:xsl-fo-compatible:1.0");
-const QString NsNumber = QStringLiteral("urn:oasis:names:tc:opendocument:xmlns:datastyle:1.0");
 
 QString cm(double valoare) {
     return QString::number(valoare, 'f', 3) + QStringLiteral("cm");
