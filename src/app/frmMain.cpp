@@ -18,6 +18,7 @@
 #include "reference/frmMotive.h"
 #include "reference/frmSate.h"
 #include "reports/frmRapoarte.h"
+#include "reports/frmRapoarte2.h"
 #include "store/BazaDate.h"
 #include "store/Program.h"
 #include "ui/UiButoane.h"
@@ -366,7 +367,10 @@ void frmMain::construiesteMeniurile() {
         frmRapoarte f(p_, m_, this);
         ArataModal(f);
     });
-    meniu(rapoarte, "mnuRap2", QStringLiteral("Rapoarte2 ..."), false);
+    connect(meniu(rapoarte, "mnuRap2", QStringLiteral("Rapoarte2 ..."), true), &QAction::triggered, this, [this] {
+        frmRapoarte2 f(p_, m_, this);
+        ArataModal(f);
+    });
 
     QMenu* intretinere = meniuPrincipal("mnuIntretinere", QStringLiteral("Intretinere"));
     connect(meniu(intretinere, "mnuPassword", QStringLiteral("Parola..."), true), &QAction::triggered, this, [this] {

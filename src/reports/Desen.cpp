@@ -56,6 +56,13 @@ void DeseneazaLinii(QPainter& p, const Celula& c, const QRectF& z) {
     p.restore();
 }
 
+double Micsorare(const Grila& g, double latimeUtila) {
+    double latime = 0;
+    for (int c = 1; c < g.Coloane(); ++c)
+        latime += g.LatimeColoana(c);
+    return latime > latimeUtila && latime > 0 ? latimeUtila / latime : 1.0;
+}
+
 std::vector<std::pair<int, int>> Pagini(const Grila& g, double inaltimeUtila) {
     std::vector<std::pair<int, int>> pagini;
     double ocupat = 0;
@@ -90,11 +97,15 @@ void DeseneazaPagina(QPainter& p, const Grila& g, int primul, int ultimul, doubl
             if (u && (u->rand1 != r || u->col1 != c) && !(u->rand1 < primul && r == primul && c == u->col1)) continue;
             const int r2 = u ? std::min(u->rand2, ultimul) : r;
             const int c2 = u ? u->col2 : c;
-            const QRectF zona(x[size_t(c)], sus(r), x[size_t(c2) + 1] - x[size_t(c)], sus(r2) + g.InaltimeRand(r2) - sus(r));
+            const QRectF zona(x[size_t(c)], sus(r), x[size_t(c2) + 1] - x[size_t(c)],
+                              sus(r2) + g.InaltimeRand(r2) - sus(r));
             const int rc = u ? u->rand1 : r, cc = u ? u->col1 : c;
             const Celula& celula = g.La(rc, cc);
             if (!celula.text.isEmpty()) {
-                p.setFont(FontQt(g.FontCelula(rc, cc)));
+                // The painter is scaled to the grid's pixels, which a font in points must not take twice.
+                QFont font = FontQt(g.FontCelula(rc, cc));
+                font.setPointSizeF(font.pointSizeF() / scara);
+                p.setFont(font);
                 int fanioane = AliniereQt(g.AliniereCelula(rc, cc));
                 if (celula.incadrare) fanioane |= Qt::TextWordWrap;
                 p.drawText(zona.adjusted(Spatiu, Spatiu, -Spatiu, -Spatiu), fanioane, celula.text);
@@ -111,7 +122,7 @@ int Deseneaza(QPagedPaintDevice& d, const Grila& g, std::optional<int> doar) {
     d.setPageLayout(AsezarePagina(g.pagina));
     QPainter p;
     if (!p.begin(&d)) throw Eroare(QStringLiteral("Pagina nu poate fi desenata."));
-    const double scara = d.logicalDpiY() / PxPeInch;
+    const double scara = d.logicalDpiY() / PxPeInch * Micsorare(g, d.width() / (d.logicalDpiX() / PxPeInch));
     const auto pagini = Pagini(g, d.height() / scara);
     bool prima = true;
     for (size_t i = 0; i < pagini.size(); ++i) {
@@ -125,7 +136,8 @@ int Deseneaza(QPagedPaintDevice& d, const Grila& g, std::optional<int> doar) {
 }
 
 int NumarPagini(const Grila& g) {
-    return int(Pagini(g, AsezarePagina(g.pagina).paintRect(QPageLayout::Inch).height() * PxPeInch).size());
+    const QRectF util = AsezarePagina(g.pagina).paintRect(QPageLayout::Inch);
+    return int(Pagini(g, util.height() * PxPeInch / Micsorare(g, util.width() * PxPeInch)).size());
 }
 
 void ScriePdf(const Grila& g, const QString& fisier) {

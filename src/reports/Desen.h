@@ -30,6 +30,10 @@ QFont FontQt(const Font& f);
 // The lines a cell carries on its sides and across it, over its rectangle.
 void DeseneazaLinii(QPainter& p, const Celula& c, const QRectF& zona);
 
+// A grid wider than the page's printable width (in the grid's pixels) is drawn smaller, so that
+// every column stays on the page: the factor, 1 when it fits.
+double Micsorare(const Grila& g, double latimeUtila);
+
 // The first and last content row of each page, for a printable height in the grid's pixels. A row
 // taller than a page stands alone on its page.
 std::vector<std::pair<int, int>> Pagini(const Grila& g, double inaltimeUtila);

@@ -29,9 +29,8 @@ Grila::Grila(int randuri, int coloane) {
 
 void Grila::redimensioneaza(int randuri, int coloane) {
     if (randuri < 1 || coloane < 1)
-        throw Eroare(QStringLiteral("Grila are cel putin un rand si o coloana fixe (%1 x %2 cerute)")
-                         .arg(randuri)
-                         .arg(coloane));
+        throw Eroare(
+            QStringLiteral("Grila are cel putin un rand si o coloana fixe (%1 x %2 cerute)").arg(randuri).arg(coloane));
     std::vector<Celula> noi(size_t(randuri) * size_t(coloane));
     for (int r = 0; r < std::min(randuri, randuri_); ++r)
         for (int c = 0; c < std::min(coloane, coloane_); ++c)

@@ -53,7 +53,7 @@ FelValoare Felul(const QVariant& valoare);
 
 struct Celula {
     QString text;
-    QVariant valoare; // Bani, QDate or qint64 when the text stands for one; none otherwise
+    QVariant valoare;                 // Bani, QDate or qint64 when the text stands for one; none otherwise
     std::optional<Aliniere> aliniere; // none: the column's
     Font font;
     bool incadrare = false; // wrap

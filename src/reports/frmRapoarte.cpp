@@ -3,7 +3,6 @@
 #include "base/Ceas.h"
 #include "base/Setari.h"
 #include "cases/ListaCereri.h"
-#include "reports/Desen.h"
 #include "reports/Rapoarte.h"
 #include "reports/UiGrila.h"
 #include "reports/export/Cel.h"
@@ -15,7 +14,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -24,10 +22,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPrintPreviewDialog>
-#include <QPrintPreviewWidget>
-#include <QPrinter>
-#include <QPrinterInfo>
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QTimer>
@@ -42,56 +36,23 @@ template <class W> W* Numit(W* w, const QString& nume) {
     return w;
 }
 
-QPushButton* Buton(QWidget* parinte, const char* nume, const QString& text) {
-    auto* b = Numit(new QPushButton(text, parinte), QString::fromLatin1(nume));
-    b->setAutoDefault(false);
-    return b;
-}
-
 // The entry of the report that builds slowly: its message paints before the work starts.
 constexpr int IndexActeExpira = 16;
 
 } // namespace
 
-frmRapoarte::frmRapoarte(Program& p, Mesaje& m, QWidget* parinte) : QDialog(parinte), p_(p), m_(m) {
+frmRapoarte::frmRapoarte(Program& p, Mesaje& m, QWidget* parinte) : UiFereastraRaport(p, m, parinte) {
     setObjectName(QStringLiteral("frmRapoarte"));
     setWindowTitle(QStringLiteral("Rapoarte ..."));
-    setWindowFlag(Qt::WindowMaximizeButtonHint);
-    DeschideFisier = [](const QUrl& u) { return QDesktopServices::openUrl(u); };
 
     auto* asezare = new QVBoxLayout(this);
     picSus = Numit(new QWidget(this), QStringLiteral("picSus"));
-    auto* sus = new QGridLayout(picSus);
-    sus->setContentsMargins(0, 0, 0, 0);
-
-    cboTipRaport = Numit(new QComboBox(picSus), QStringLiteral("cboTipRaport"));
-    cboTipRaport->addItems(TexteCatalog());
-    cboTipRaport->setCurrentIndex(-1);
-    cboTipRaport->setMinimumWidth(300);
-    sus->addWidget(new QLabel(QStringLiteral("Tip raport:"), picSus), 0, 0);
-    sus->addWidget(cboTipRaport, 0, 1, 1, 3);
-    const std::array<QString, 2> eticheteOrd{QStringLiteral("Ordonare 1 dupa:"), QStringLiteral("Ordonare 2 dupa:")};
-    for (int i = 0; i < 2; ++i) {
-        cboOrd[size_t(i)] = Numit(new QComboBox(picSus), QStringLiteral("cboOrd_%1").arg(i));
-        cboOrd[size_t(i)]->addItems(ListaOrdonare(i == 1));
-        cboOrd[size_t(i)]->setCurrentIndex(-1);
-        sus->addWidget(new QLabel(eticheteOrd[size_t(i)], picSus), 1 + i, 0);
-        sus->addWidget(cboOrd[size_t(i)], 1 + i, 1);
-    }
-    cboTipCerere = Numit(new QComboBox(picSus), QStringLiteral("cboTipCerere"));
-    cboTipCerere->addItems({QStringLiteral("Toate"), QStringLiteral("Complementare"), QStringLiteral("Monoparentale")});
-    cboTipCerere->setCurrentIndex(0);
+    auto* susPanou = new QVBoxLayout(picSus);
+    susPanou->setContentsMargins(0, 0, 0, 0);
+    QGridLayout* sus = ControaleAlegeri(picSus, int(Catalog().size()));
+    susPanou->addLayout(sus);
     chkMembrii = Numit(new QCheckBox(QStringLiteral("Titular + membrii"), picSus), QStringLiteral("chkMembrii"));
-    lblNrLuni = Numit(new QLabel(QStringLiteral("Nr luni"), picSus), QStringLiteral("lblNrLuni"));
-    txtNrLuni = Numit(new QLineEdit(QStringLiteral("6"), picSus), QStringLiteral("txtNrLuni"));
-    txtNrLuni->setMaximumWidth(50);
-    sus->addWidget(cboTipCerere, 1, 2);
     sus->addWidget(chkMembrii, 2, 2);
-    auto* luni = new QHBoxLayout;
-    luni->addWidget(lblNrLuni);
-    luni->addWidget(txtNrLuni);
-    luni->addStretch();
-    sus->addLayout(luni, 1, 3);
 
     // The Borderou's filters.
     dataNrFrame = Numit(new QGroupBox(QStringLiteral("Borderou beneficiari"), picSus), QStringLiteral("dataNrFrame"));
@@ -113,33 +74,10 @@ frmRapoarte::frmRapoarte(Program& p, Mesaje& m, QWidget* parinte) : QDialog(pari
     bord->addWidget(chkTipBenefic, 2, 1, 1, 2);
     sus->addWidget(dataNrFrame, 0, 4, 4, 1);
 
-    // The page and the printer.
-    cboFormatPagina = Numit(new QComboBox(picSus), QStringLiteral("cboFormatPagina"));
-    cboFormatPagina->addItems({QStringLiteral("A3"), QStringLiteral("A4"), QStringLiteral("A5")});
-    cboFormatPagina->setCurrentIndex(-1);
-    cboFormatPagina->setMinimumWidth(60);
-    chkPortret = Numit(new QCheckBox(QStringLiteral("Portret"), picSus), QStringLiteral("chkPortret"));
-    cboPrinter = Numit(new QComboBox(picSus), QStringLiteral("cboPrinter"));
-    cboPrinter->addItems(QPrinterInfo::availablePrinterNames());
-    cboPrinter->setCurrentText(QPrinterInfo::defaultPrinterName());
-    auto* pagina = new QHBoxLayout;
-    pagina->addWidget(new QLabel(QStringLiteral("Format pagina:"), picSus));
-    pagina->addWidget(cboFormatPagina);
-    pagina->addWidget(chkPortret);
-    pagina->addWidget(new QLabel(QStringLiteral("Imprimanta:"), picSus));
-    pagina->addWidget(cboPrinter, 1);
-    sus->addLayout(pagina, 3, 0, 1, 4);
-
     auto* butoane = new QHBoxLayout;
-    cmdOK = Buton(picSus, "cmdOK", QStringLiteral("OK"));
-    cmdPreview = Buton(picSus, "cmdPreview", QStringLiteral("Previzualizare"));
-    cmdPrint = Buton(picSus, "cmdPrint", QStringLiteral("Tipareste"));
-    cmdPrintPage = Buton(picSus, "cmdPrintPage", QStringLiteral("Tipareste pagina"));
-    cmdExport = Buton(picSus, "cmdExport", QStringLiteral("Export"));
     cmdExportGrid = Buton(picSus, "cmdExportGrid", QStringLiteral("Salveaza grila"));
     cmdBAS = {Buton(picSus, "cmdBAS_0", QStringLiteral("A23 BAS")),
               Buton(picSus, "cmdBAS_1", QStringLiteral("A25 BAS"))};
-    cmdClose = Buton(picSus, "cmdClose", QStringLiteral("Inchide"));
     for (QPushButton* b :
          {cmdOK, cmdPreview, cmdPrint, cmdPrintPage, cmdExport, cmdExportGrid, cmdBAS[0], cmdBAS[1], cmdClose})
         butoane->addWidget(b);
@@ -151,20 +89,14 @@ frmRapoarte::frmRapoarte(Program& p, Mesaje& m, QWidget* parinte) : QDialog(pari
     sus->addWidget(lblMesaj, 5, 0, 1, 5);
     asezare->addWidget(picSus);
 
-    Grid = Numit(new UiGrila(this), QStringLiteral("Grid"));
     asezare->addWidget(Grid, 1);
     Timer1 = Numit(new QTimer(this), QStringLiteral("Timer1"));
     Timer1->setInterval(50);
     Timer1->setSingleShot(true);
 
-    connect(cboTipRaport, &QComboBox::currentIndexChanged, this, &frmRapoarte::cboTipRaport_Click);
     connect(cmdOK, &QPushButton::clicked, this, &frmRapoarte::cmdOK_Click);
-    connect(cmdPreview, &QPushButton::clicked, this, &frmRapoarte::cmdPreview_Click);
-    connect(cmdPrint, &QPushButton::clicked, this, &frmRapoarte::cmdPrint_Click);
-    connect(cmdPrintPage, &QPushButton::clicked, this, &frmRapoarte::cmdPrintPage_Click);
     connect(cmdExport, &QPushButton::clicked, this, &frmRapoarte::cmdExport_Click);
     connect(cmdExportGrid, &QPushButton::clicked, this, &frmRapoarte::cmdExportGrid_Click);
-    connect(cmdClose, &QPushButton::clicked, this, &QDialog::reject);
     connect(Timer1, &QTimer::timeout, this, &frmRapoarte::Timer1_Timer);
     for (QPushButton* b : cmdBAS)
         connect(b, &QPushButton::clicked, this, [this, b] {
@@ -183,7 +115,6 @@ frmRapoarte::frmRapoarte(Program& p, Mesaje& m, QWidget* parinte) : QDialog(pari
             b->setVisible(bas);
     });
     cboTipRaport_Click();
-    Grid->Arata(GrilaNoua(p_.setari));
     resize(1100, 700);
 }
 
@@ -193,40 +124,18 @@ void frmRapoarte::resizeEvent(QResizeEvent* e) {
 }
 
 void frmRapoarte::cboTipRaport_Click() {
-    const FiltreRaport f = Filtre(cboTipRaport->currentIndex());
-    chkMembrii->setEnabled(f.membri);
-    cboTipCerere->setVisible(f.tipCerere);
-    txtNrLuni->setVisible(f.nrLuni);
-    lblNrLuni->setVisible(f.nrLuni);
+    UiFereastraRaport::cboTipRaport_Click();
+    chkMembrii->setEnabled(Filtre(cboTipRaport->currentIndex()).membri);
 }
 
 Alegeri frmRapoarte::Alegerile() const {
-    Alegeri a;
-    a.luna = p_.setari.LunaSetata;
-    a.an = p_.setari.AnSetat;
-    a.azi = Ceas::Azi();
-    a.ord1 = cboOrd[0]->currentIndex();
-    a.ord2 = cboOrd[1]->currentIndex();
-    a.tipCerere = cboTipCerere->currentIndex();
+    Alegeri a = UiFereastraRaport::Alegerile();
     a.membri = chkMembrii->isEnabled() && chkMembrii->isChecked();
-    a.nrLuni = txtNrLuni->text();
     for (const QListWidgetItem* i : lstStare->selectedItems())
         a.stari << i->data(Qt::UserRole).toLongLong();
     a.nrBord = txtNrBord->text();
     a.dataBord = dtpBorderou->date();
-    if (cboFormatPagina->currentIndex() >= 0) a.hartie = Hartie(cboFormatPagina->currentIndex());
-    a.portret = chkPortret->isChecked();
     return a;
-}
-
-MediuRaport frmRapoarte::Mediul() const {
-    MediuRaport r{p_.setari, p_.applicationPath, {}};
-    if (!p_.bd.locatie().EstePostgreSQL()) r.folderBD = QFileInfo(p_.bd.locatie().FisierSQLite()).absolutePath();
-    return r;
-}
-
-const Grila& frmRapoarte::GrilaAfisata() const {
-    return Grid->Grila();
 }
 
 void frmRapoarte::cmdOK_Click() {
@@ -259,55 +168,6 @@ void frmRapoarte::Construieste() {
     QApplication::restoreOverrideCursor();
 }
 
-void frmRapoarte::AsazaImprimanta(QPrinter& pr) const {
-    if (cboPrinter->currentIndex() >= 0) pr.setPrinterName(cboPrinter->currentText());
-    Grila g = Grid->Grila();
-    AsazaPagina(g, Alegerile());
-    pr.setPageLayout(AsezarePagina(g.pagina));
-}
-
-void frmRapoarte::cmdPreview_Click() {
-    auto* pr = new QPrinter(QPrinter::HighResolution);
-    AsazaImprimanta(*pr);
-    auto* d = new QPrintPreviewDialog(pr, this);
-    d->setObjectName(QStringLiteral("frmPreview"));
-    d->setAttribute(Qt::WA_DeleteOnClose);
-    connect(d, &QObject::destroyed, [pr] { delete pr; });
-    Grila g = Grid->Grila();
-    AsazaPagina(g, Alegerile());
-    connect(d, &QPrintPreviewDialog::paintRequested, d, [g](QPrinter* p) { Deseneaza(*p, g); });
-    if (auto* w = d->findChild<QPrintPreviewWidget*>()) {
-        w->setZoomMode(QPrintPreviewWidget::CustomZoom);
-        w->setZoomFactor(1.0);
-    }
-    d->resize(size());
-    d->open();
-}
-
-void frmRapoarte::cmdPrint_Click() {
-    if (!m_.Intrebare(QStringLiteral("Doriti sa tipariti toate paginile?"))) return;
-    QPrinter pr(QPrinter::HighResolution);
-    AsazaImprimanta(pr);
-    Grila g = Grid->Grila();
-    AsazaPagina(g, Alegerile());
-    if (Tipareste) return Tipareste(pr);
-    LaMargine(m_, [&] { Deseneaza(pr, g); });
-}
-
-void frmRapoarte::cmdPrintPage_Click() {
-    Grila g = Grid->Grila();
-    AsazaPagina(g, Alegerile());
-    const auto pagina = PaginaDeTiparit(
-        m_.Intrare(QStringLiteral("Introduceti nr paginii pe care doriti sa o tipariti"), QStringLiteral("?")),
-        NumarPagini(g));
-    if (!pagina) return;
-    QPrinter pr(QPrinter::HighResolution);
-    AsazaImprimanta(pr);
-    pr.setFromTo(*pagina, *pagina);
-    if (Tipareste) return Tipareste(pr);
-    LaMargine(m_, [&] { Deseneaza(pr, g, *pagina); });
-}
-
 void frmRapoarte::cmdExport_Click() {
     if (cboTipRaport->currentIndex() < 0) {
         m_.Informatie(QStringLiteral("Selectati din lista un tip de raport!"));
@@ -320,8 +180,7 @@ void frmRapoarte::cmdExport_Click() {
                          [this](const Grila& g) { Grid->Arata(g); });
     });
     QApplication::restoreOverrideCursor();
-    if (fisier && !DeschideFisier(QUrl::fromLocalFile(*fisier)))
-        m_.Informatie(QStringLiteral("Nu aveti instalat Open/Libre Office! "));
+    if (fisier) Deschide(*fisier);
 }
 
 void frmRapoarte::cmdExportGrid_Click() {

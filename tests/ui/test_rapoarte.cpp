@@ -5,6 +5,7 @@
 #include "reports/UiGrila.h"
 #include "reports/export/Cel.h"
 #include "reports/frmRapoarte.h"
+#include "reports/frmRapoarte2.h"
 #include "store/Program.h"
 #include "support/Texte.h"
 #include "ui/FormaDosar.h"
@@ -148,5 +149,45 @@ TEST_P(FereastraRapoarte, ControaleSiActiuni) {
 }
 
 PE_AMBELE_MOTOARE(FereastraRapoarte);
+
+} // namespace
+
+namespace {
+
+using FereastraRapoarte2 = FormaPeDosar;
+
+// The template window paints the delivered page, keeps it when a template fails, and exports only
+// the one list it serves.
+TEST_P(FereastraRapoarte2, SablonulLivratSiEsecul) {
+    const QString folder = Locatie().caleBD;
+    QDir(folder).mkpath(T("Rapoarte"));
+    const QString sablon = QDir(folder).filePath(T("Rapoarte/Anexa3.xml"));
+    ASSERT_TRUE(QFile::copy(T(FEROLANTA_SURSA "/Rapoarte/Anexa3.xml"), sablon));
+    Program program{Bd(), setari, folder};
+    frmRapoarte2 f(program, mesaje);
+    EXPECT_EQ(mesaje.Texte().size(), 1) << "the town hall's data are asked for";
+    mesaje.mesaje.clear();
+
+    f.cmdOK->click();
+    ASSERT_TRUE(mesaje.mesaje.empty()) << S(mesaje.Texte().join(T("\n")));
+    const Grila pagina = f.GrilaAfisata();
+    EXPECT_GT(pagina.Randuri(), 20);
+    QFile::remove(sablon);
+    QFile rupt(sablon);
+    ASSERT_TRUE(rupt.open(QIODevice::WriteOnly));
+    rupt.write("<SABLON><PROPRIETATI>");
+    rupt.close();
+    f.cmdOK->click();
+    EXPECT_EQ(mesaje.Texte().size(), 1);
+    EXPECT_EQ(f.GrilaAfisata(), pagina);
+
+    mesaje.mesaje.clear();
+    f.cmdExport->click();
+    f.cboTipRaport->setCurrentIndex(3);
+    f.cmdExport->click();
+    EXPECT_EQ(mesaje.Texte().size(), 1) << "nothing chosen; then a list this window does not export";
+}
+
+PE_AMBELE_MOTOARE(FereastraRapoarte2);
 
 } // namespace

@@ -30,14 +30,17 @@
 #include "reference/frmDatePrimarie2.h"
 #include "reference/frmMotive.h"
 #include "reference/frmSate.h"
+#include "reports/Desen.h"
 #include "reports/UiGrila.h"
 #include "reports/frmRapoarte.h"
+#include "reports/frmRapoarte2.h"
 #include "store/BazaDate.h"
 #include "store/DateLivrate.h"
 #include "store/Program.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -223,6 +226,24 @@ int main(int argc, char** argv) {
         }
         f.Grid->Arata(g);
         captura(f, "frmRapoarte");
+    }
+    {
+        // The delivered template's page, and that page as a pdf to look at.
+        QDir(dir.path()).mkpath(QStringLiteral("Rapoarte"));
+        QFile::copy(QDir(Foldere::FolderLivrat()).filePath(QStringLiteral("Rapoarte/Anexa3.xml")),
+                    QDir(dir.path()).filePath(QStringLiteral("Rapoarte/Anexa3.xml")));
+        frmRapoarte2 f(program, m);
+        f.resize(1280, 800);
+        f.cmdOK_Click();
+        captura(f, "frmRapoarte2");
+        Raport::Grila pagina = f.GrilaAfisata();
+        pagina.pagina.portret = false;
+        try {
+            Raport::ScriePdf(pagina, iesire.filePath(QStringLiteral("Anexa3.pdf")));
+        } catch (const Eroare& e) {
+            std::fprintf(stderr, "%s\n", qPrintable(e.text()));
+            ++erori;
+        }
     }
     {
         frmSate f(*db, m);
