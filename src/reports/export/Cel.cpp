@@ -95,10 +95,12 @@ QByteArray Cel(const Grila& g) {
             if (x.aliniere) o.insert(QStringLiteral("aliniere"), dinAliniere(*x.aliniere));
             if (x.font != Font{}) o.insert(QStringLiteral("font"), dinFont(x.font));
             if (x.incadrare) o.insert(QStringLiteral("incadrare"), true);
-            QJsonArray linii;
-            for (Linie l : x.linii)
-                linii.append(int(l));
-            o.insert(QStringLiteral("linii"), linii);
+            if (x.linii != gol.linii) {
+                QJsonArray linii;
+                for (Linie l : x.linii)
+                    linii.append(int(l));
+                o.insert(QStringLiteral("linii"), linii);
+            }
             celule.append(o);
         }
     const QJsonObject radacina{
@@ -120,7 +122,7 @@ QByteArray Cel(const Grila& g) {
         {QStringLiteral("uniri"), uniri},
         {QStringLiteral("celule"), celule},
     };
-    return QJsonDocument(radacina).toJson(QJsonDocument::Indented);
+    return QJsonDocument(radacina).toJson(QJsonDocument::Compact);
 }
 
 Grila GrilaDinCel(const QByteArray& json) {
