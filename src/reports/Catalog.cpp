@@ -3,6 +3,7 @@
 #include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "reports/Desen.h"
+#include "reports/builders/Constructori.h"
 #include "reports/export/Cel.h"
 #include "reports/export/Csv.h"
 #include "reports/export/Ods.h"
@@ -44,6 +45,8 @@ std::vector<IntrareRaport> Intrari() {
         r[size_t(i)].faraFoaie = true;
     for (int i : {15, 20, 21})
         r[size_t(i)].faraCopieCalc = true;
+    InregistreazaListe(r);
+    InregistreazaAnexe(r);
     return r;
 }
 
