@@ -31,11 +31,17 @@ void Grila::redimensioneaza(int randuri, int coloane) {
     if (randuri < 1 || coloane < 1)
         throw Eroare(
             QStringLiteral("Grila are cel putin un rand si o coloana fixe (%1 x %2 cerute)").arg(randuri).arg(coloane));
-    std::vector<Celula> noi(size_t(randuri) * size_t(coloane));
-    for (int r = 0; r < std::min(randuri, randuri_); ++r)
-        for (int c = 0; c < std::min(coloane, coloane_); ++c)
-            noi[size_t(r) * size_t(coloane) + size_t(c)] = std::move(celule_[size_t(r) * size_t(coloane_) + size_t(c)]);
-    celule_ = std::move(noi);
+    if (coloane == coloane_) {
+        // Rows added or taken at the end leave the others where they are: builders add a row at a time.
+        celule_.resize(size_t(randuri) * size_t(coloane));
+    } else {
+        std::vector<Celula> noi(size_t(randuri) * size_t(coloane));
+        for (int r = 0; r < std::min(randuri, randuri_); ++r)
+            for (int c = 0; c < std::min(coloane, coloane_); ++c)
+                noi[size_t(r) * size_t(coloane) + size_t(c)] =
+                    std::move(celule_[size_t(r) * size_t(coloane_) + size_t(c)]);
+        celule_ = std::move(noi);
+    }
     randuri_ = randuri;
     coloane_ = coloane;
     inaltimi_.resize(size_t(randuri), 0);
