@@ -60,7 +60,7 @@ Lista::Lista(Grila& g, const std::vector<ColoanaLista>& coloane, const PrimarieR
     g_.Bordura({RandTitluri, 1, RandTitluri, coloane_}, Margine::Jos, Linie::Subtire);
 }
 
-int Lista::Rand(const QStringList& texte, const std::vector<QVariant>& valori) {
+int Lista::Rand(const QStringList& texte, const std::vector<QVariant>& valori, bool cuLinie) {
     const int r = g_.Randuri();
     g_.SeteazaRanduri(r + 1);
     for (int c = 1; c <= coloane_ && c <= texte.size(); ++c) {
@@ -70,14 +70,24 @@ int Lista::Rand(const QStringList& texte, const std::vector<QVariant>& valori) {
         else
             g_.Scrie(r, c, texte[c - 1]);
     }
-    g_.Bordura({r, 1, r, coloane_}, Margine::Jos, Linie::Subtire);
-    ++randuri_;
+    if (cuLinie) {
+        g_.Bordura({r, 1, r, coloane_}, Margine::Jos, Linie::Subtire);
+        ++randuri_;
+    }
     return r;
 }
 
-void Lista::Incheie() {
+void Lista::LinieGroasa() {
     const int ultim = g_.Randuri() - 1;
     if (randuri_ > 0) g_.Bordura({ultim, 1, ultim, coloane_}, Margine::Jos, Linie::Groasa);
+}
+
+void Lista::Incheie() {
+    LinieGroasa();
+    Subsol();
+}
+
+void Lista::Subsol() {
     const int r = g_.Randuri();
     g_.SeteazaRanduri(r + 3);
     g_.Scrie(r + 1, std::min(4, coloane_), QStringLiteral("As Social,"));

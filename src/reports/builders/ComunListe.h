@@ -55,9 +55,14 @@ public:
     Lista(Grila& g, const std::vector<ColoanaLista>& coloane, const PrimarieRaport& p, const QString& titlu,
           bool titluPropriu, int luna, int an);
 
-    // A row of texts (and, where given, the typed values the spreadsheets receive); returns its row.
-    int Rand(const QStringList& texte, const std::vector<QVariant>& valori = {});
-    // The thick line under the last row and the foot.
+    // A row of texts (and, where given, the typed values the spreadsheets receive), a record's with
+    // a thin line under it; returns its row.
+    int Rand(const QStringList& texte, const std::vector<QVariant>& valori = {}, bool cuLinie = true);
+    // The thick line under the last record's row.
+    void LinieGroasa();
+    // The empty row, "As Social," and the name.
+    void Subsol();
+    // The thick line, then the foot.
     void Incheie();
     int Randuri() const { return randuri_; }
 
