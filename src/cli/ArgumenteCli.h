@@ -59,6 +59,8 @@ int ComandaCuantum(const QCommandLineParser& p, const QString& idText, QTextStre
 int ComandaDocument(const QCommandLineParser& p, const QString& fel, const QString& idText, QTextStream& out,
                     QTextStream& err);
 int ComandaRaport(const QCommandLineParser& p, const QString& ce, QTextStream& out);
+int ComandaBorderou(const QCommandLineParser& p, QTextStream& out);
+int ComandaBas(const QCommandLineParser& p, const QString& formular, QTextStream& out);
 int ComandaWeb(const QCommandLineParser& p, const QString& document, const QString& idText, QTextStream& out,
                QTextStream& err);
 

@@ -14,7 +14,9 @@ const QString Utilizare =
                    "cauta [--cnp P] [--nume P] [--prenume P] [--nr-cerere N] [--stari ID,ID,...] [--primele N]|"
                    "raport {lista|N --out FISIER [--foaie] [--luna L --an A] [--azi ZZ.LL.AAAA] [--ord1 I] [--ord2 I] "
                    "[--tip-cerere 0|1|2] [--membri] [--nr-luni TEXT] [--stari ID,ID,...] [--nr-bord TEXT] "
-                   "[--data-bord ZZ.LL.AAAA]}} "
+                   "[--data-bord ZZ.LL.AAAA]}|"
+                   "borderou --raport I --aloc J --out FISIER [--foaie] [--ord1 I] [--ord2 I] [--luna L --an A]|"
+                   "bas {a23|a25} --out FISIER.ods} "
                    "[--dir DIR] "
                    "[--db postgresql://...]");
 
@@ -46,8 +48,11 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
     p.addOption({QStringLiteral("nr-luni"), QStringLiteral("numarul de luni"), QStringLiteral("TEXT")});
     p.addOption({QStringLiteral("nr-bord"), QStringLiteral("numarul borderoului"), QStringLiteral("TEXT")});
     p.addOption({QStringLiteral("data-bord"), QStringLiteral("data borderoului"), QStringLiteral("ZZ.LL.AAAA")});
-    p.addPositionalArgument(QStringLiteral("comanda"),
-                            QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta, raport"));
+    p.addOption({QStringLiteral("raport"), QStringLiteral("felul cererilor din borderou"), QStringLiteral("I")});
+    p.addOption({QStringLiteral("aloc"), QStringLiteral("felul alocatiei din borderou"), QStringLiteral("J")});
+    p.addPositionalArgument(
+        QStringLiteral("comanda"),
+        QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta, raport, borderou, bas"));
     try {
         if (!p.parse(argumente)) throw EroareArgumente{p.errorText()};
         const QStringList poz = p.positionalArguments();
@@ -57,23 +62,26 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         const bool cuDocument = comanda == QLatin1String("document");
         const bool cuWeb = comanda == QLatin1String("web");
         const bool cuRaport = comanda == QLatin1String("raport");
+        const bool cuBorderou = comanda == QLatin1String("borderou");
+        const bool cuBas = comanda == QLatin1String("bas");
         if (cuRaport && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste raportul: lista sau indexul")};
+        if (cuBas && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste formularul: a23 sau a25")};
         if (cuCerere && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
         if (cuDocument && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste felul documentului")};
         if (cuDocument && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul documentului")};
         if (cuWeb && poz.size() == 1)
             throw EroareArgumente{QStringLiteral("lipseste documentul: cerere, cerere_1a sau ancheta")};
         if (cuWeb && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
-        if (poz.size() != (cuDocument || cuWeb ? 3 : cuCerere || cuRaport ? 2 : 1))
+        if (poz.size() != (cuDocument || cuWeb ? 3 : cuCerere || cuRaport || cuBas ? 2 : 1))
             throw EroareArgumente{QStringLiteral("prea multe argumente")};
         if (!cuDocument && (p.isSet(QStringLiteral("sablon")) || p.isSet(QStringLiteral("data"))))
             throw EroareArgumente{QStringLiteral("--sablon si --data sunt doar pentru document")};
-        if (!cuDocument && !cuWeb && !cuRaport && p.isSet(QStringLiteral("out")))
-            throw EroareArgumente{QStringLiteral("--out este doar pentru document, web si raport")};
+        if (!cuDocument && !cuWeb && !cuRaport && !cuBorderou && !cuBas && p.isSet(QStringLiteral("out")))
+            throw EroareArgumente{QStringLiteral("--out este doar pentru document, web, raport, borderou si bas")};
         if (comanda != QLatin1String("demo") && (p.isSet(QStringLiteral("cereri")) || p.isSet(QStringLiteral("seed"))))
             throw EroareArgumente{QStringLiteral("--cereri si --seed sunt doar pentru demo")};
-        if (!cuCerere && !cuRaport && (p.isSet(QStringLiteral("luna")) || p.isSet(QStringLiteral("an"))))
-            throw EroareArgumente{QStringLiteral("--luna si --an sunt doar pentru cuantum si raport")};
+        if (!cuCerere && !cuRaport && !cuBorderou && (p.isSet(QStringLiteral("luna")) || p.isSet(QStringLiteral("an"))))
+            throw EroareArgumente{QStringLiteral("--luna si --an sunt doar pentru cuantum, raport si borderou")};
         if (comanda != QLatin1String("cauta"))
             for (const char* o : {"cnp", "nume", "prenume", "nr-cerere", "primele"})
                 if (p.isSet(QLatin1String(o)))
@@ -81,10 +89,18 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (comanda != QLatin1String("cauta") && !cuRaport && p.isSet(QStringLiteral("stari")))
             throw EroareArgumente{QStringLiteral("--stari este doar pentru cauta si raport")};
         if (!cuRaport)
-            for (const char* o :
-                 {"foaie", "azi", "ord1", "ord2", "tip-cerere", "membri", "nr-luni", "nr-bord", "data-bord"})
+            for (const char* o : {"azi", "tip-cerere", "membri", "nr-luni", "nr-bord", "data-bord"})
                 if (p.isSet(QLatin1String(o)))
                     throw EroareArgumente{QStringLiteral("--%1 este doar pentru raport").arg(QLatin1String(o))};
+        if (!cuRaport && !cuBorderou)
+            for (const char* o : {"foaie", "ord1", "ord2"})
+                if (p.isSet(QLatin1String(o)))
+                    throw EroareArgumente{
+                        QStringLiteral("--%1 este doar pentru raport si borderou").arg(QLatin1String(o))};
+        if (!cuBorderou)
+            for (const char* o : {"raport", "aloc"})
+                if (p.isSet(QLatin1String(o)))
+                    throw EroareArgumente{QStringLiteral("--%1 este doar pentru borderou").arg(QLatin1String(o))};
         if (comanda == QLatin1String("init")) return ComandaInit(p, out, err);
         if (comanda == QLatin1String("cauta")) return ComandaCauta(p, out, err);
         if (comanda == QLatin1String("upgrade")) return ComandaUpgrade(p, out, err);
@@ -93,6 +109,8 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (cuDocument) return ComandaDocument(p, poz[1], poz[2], out, err);
         if (cuWeb) return ComandaWeb(p, poz[1], poz[2], out, err);
         if (cuRaport) return ComandaRaport(p, poz[1], out);
+        if (cuBorderou) return ComandaBorderou(p, out);
+        if (cuBas) return ComandaBas(p, poz[1], out);
         throw EroareArgumente{QStringLiteral("comanda necunoscuta: %1").arg(comanda)};
     } catch (const EroareArgumente& e) {
         err << e.text << ". " << Utilizare << Qt::endl;

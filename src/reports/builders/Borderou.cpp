@@ -1,0 +1,219 @@
+#include "reports/builders/Borderou.h"
+
+#include "base/Bani.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "base/Sume.h"
+#include "base/Texte.h"
+#include "reference/DateReferinta.h"
+#include "reports/Catalog.h"
+#include "reports/builders/ComunListe.h"
+#include "reports/export/Ods.h"
+#include "reports/export/Xlsx.h"
+#include "store/BazaDate.h"
+
+#include <QDir>
+#include <array>
+#include <vector>
+
+namespace Raport {
+namespace {
+
+constexpr Aliniere Stanga{Orizontal::Stanga, Vertical::Centru};
+constexpr Aliniere Centru{Orizontal::Centru, Vertical::Centru};
+constexpr Aliniere Dreapta{Orizontal::Dreapta, Vertical::Centru};
+
+struct Coloana {
+    const char* titlu;
+    const char* titluFoaie;
+    int latime;
+    Aliniere aliniere;
+};
+
+constexpr std::array<Coloana, 9> Coloane{{
+    {"Nr. Crt.", "Nr. Crt.", 30, Dreapta},
+    {"Nr/Data cerere", "Nr cerere / Data cerere", 120, Dreapta},
+    {"Titular dosar", "Nume si prenume", 200, Stanga},
+    {"CNP", "CNP", 100, Centru},
+    {"Adresa", "Adresa", 200, Stanga},
+    {"Lege 416", "Legea 416", 40, Dreapta},
+    {"Nr Membrii", "Nr. membrii", 40, Dreapta},
+    {"Nr Copii", "Nr. copii", 40, Dreapta},
+    {"Suma", "Suma", 60, Dreapta},
+}};
+
+constexpr int ColoanaTotal = 5, ColoanaSuma = 9;
+
+// The statuses each report lists; the first lists them all.
+const std::array<std::vector<int>, 5> StariRaport{{{}, {1, 2, 6, 7, 8}, {3}, {4}, {5}}};
+
+// The fields the orderings stand for. A missing value sorts as the empty one, so that both engines put
+// it in the same place.
+QString CampOrdonare(int ord) {
+    switch (ord) {
+    case 1:
+        return QStringLiteral("COALESCE(C.NrCerere, 0)");
+    case 2:
+        return QStringLiteral("COALESCE(M.Nume, '')");
+    case 3:
+        return QStringLiteral("COALESCE(F.Strada, '')");
+    default:
+        return {};
+    }
+}
+
+// The numbers the spreadsheet takes as numbers; a missing one stays an empty cell.
+void Intreg(const QVariant& v, QString& text, QVariant& valoare) {
+    if (v.isNull()) return;
+    valoare = v.toLongLong();
+    text = QString::number(valoare.toLongLong());
+}
+
+QDate Data(const QVariant& v) {
+    if (v.isNull()) return {};
+    if (v.typeId() == QMetaType::QDate) return v.toDate();
+    if (v.typeId() == QMetaType::QDateTime) return v.toDateTime().date();
+    return QDate::fromString(v.toString().left(10), Qt::ISODate);
+}
+
+} // namespace
+
+QStringList TipuriRaportBorderou() {
+    return {QStringLiteral("Toate cererile"), QStringLiteral("In plata"), QStringLiteral("Suspendate"),
+            QStringLiteral("Incetate"), QStringLiteral("Respinse")};
+}
+
+QStringList TipuriAlocatieBorderou() {
+    return {QStringLiteral("Toate alocatiile"), QStringLiteral("Aloc complementare"),
+            QStringLiteral("Aloc monoparentale")};
+}
+
+QStringList OrdonareBorderou() {
+    return {QStringLiteral("Ordinea introducerii datelor"), QStringLiteral("NrCerere"), QStringLiteral("Nume"),
+            QStringLiteral("Strada")};
+}
+
+std::optional<RefuzBorderou> VerificaBorderou(const AlegeriBorderou& a) {
+    if (a.tipRaport < 0 || a.tipRaport >= TipuriRaportBorderou().size())
+        return RefuzBorderou{QStringLiteral("Selectati din lista un tip de raport!"),
+                             RefuzBorderou::Control::TipRaport};
+    if (a.tipAloc < 0 || a.tipAloc >= TipuriAlocatieBorderou().size())
+        return RefuzBorderou{QStringLiteral("Selectati din lista un tip de alocatie!"),
+                             RefuzBorderou::Control::TipAloc};
+    return std::nullopt;
+}
+
+QString ClauzaOrdonareBorderou(int ord1, int ord2) {
+    QString clauza = QStringLiteral(" ORDER BY ");
+    const QString prima = CampOrdonare(ord1), aDoua = CampOrdonare(ord2);
+    if (!prima.isEmpty()) {
+        clauza += prima + QStringLiteral(", ");
+        if (!aDoua.isEmpty()) clauza += aDoua + QStringLiteral(", ");
+    }
+    return clauza + QStringLiteral("C.CerereID");
+}
+
+Grila Borderou(BazaDate& db, Mesaje& m, const Setari& s, const AlegeriBorderou& a, bool foaie) {
+    if (const auto refuz = VerificaBorderou(a)) throw Eroare(refuz->mesaj);
+
+    Grila g = GrilaNoua(s);
+    g.inaltimeImplicita = s.HeightRowBorderou > 0 ? s.HeightRowBorderou : 36;
+    // The grid prints on A4 landscape; the spreadsheet was only told the paper.
+    g.pagina = {Hartie::A4, foaie, {1.4, 0.5, 0.5, 1.0}};
+
+    std::vector<ColoanaLista> coloane;
+    for (const Coloana& c : Coloane)
+        coloane.push_back({QString::fromUtf8(foaie ? c.titluFoaie : c.titlu), c.latime, c.aliniere});
+    Lista lista(g, coloane, CitestePrimariaRaport(db, m), QStringLiteral("BORDEROU"), true, a.luna, a.an);
+    if (a.tipRaport != 0)
+        g.Scrie(5, 1,
+                QStringLiteral("privind cererile ") + TipuriRaportBorderou()[a.tipRaport] +
+                    QStringLiteral(" pentru alocatia de sustinere a familiei"));
+
+    QString sql = QStringLiteral("SELECT C.NrCerere, C.DataCerere, M.Nume, M.Prenume, M.CNP, F.Localitate, F.Strada, "
+                                 "F.Nr, F.Sc, F.Ap, C.Lege416, C.NrMembrii, C.NrCopii, C.Cuantum "
+                                 "FROM Familii AS F, Cereri AS C, Membrii AS M "
+                                 "WHERE F.FamilieID = C.FamilieID AND C.MembruID1 = M.MembruID");
+    const std::vector<int>& stari = StariRaport[size_t(a.tipRaport)];
+    if (!stari.empty()) {
+        QStringList semne;
+        for (size_t i = 0; i < stari.size(); ++i)
+            semne << QStringLiteral("?");
+        sql += QStringLiteral(" AND C.Stare IN (") + semne.join(QStringLiteral(", ")) + QLatin1Char(')');
+    }
+    if (a.tipAloc != 0) sql += QStringLiteral(" AND C.TipCerere = ?");
+    sql += ClauzaOrdonareBorderou(a.ord1, a.ord2);
+    Interogare q(db, sql);
+    for (int stare : stari)
+        q.Leaga(stare);
+    if (a.tipAloc != 0) q.Leaga(a.tipAloc);
+    q.Executa();
+
+    const QString strada = QStringLiteral("str.");
+    Bani total;
+    qint64 nr = 0;
+    QStringList texte;
+    std::vector<QVariant> valori(Coloane.size());
+    while (q.Urmator()) {
+        const auto text = [&](int i) { return q.Valoare(i).toString(); };
+        texte.clear();
+        std::fill(valori.begin(), valori.end(), QVariant());
+        ++nr;
+        valori[0] = nr;
+        texte << QString::number(nr);
+        texte << text(0) + QStringLiteral(" / ") + FormatData(Data(q.Valoare(1)));
+        texte << text(2) + QLatin1Char(' ') + text(3);
+        texte << text(4);
+        texte << AdresaRaport(text(5), strada, text(6), text(7), text(8), text(9));
+        texte << (q.Valoare(10).toBool() ? QStringLiteral("DA") : QStringLiteral("NU"));
+        QString membri, copii, suma;
+        Intreg(q.Valoare(11), membri, valori[6]);
+        Intreg(q.Valoare(12), copii, valori[7]);
+        if (!q.Valoare(13).isNull()) {
+            const Bani cuantum = Bani::DinVariant(q.Valoare(13));
+            total += cuantum;
+            suma = TextSuma(cuantum);
+            valori[8] = QVariant::fromValue(cuantum);
+        }
+        texte << membri << copii << suma;
+        lista.Rand(texte, valori);
+    }
+    lista.LinieGroasa();
+
+    QStringList randTotal;
+    std::vector<QVariant> valoareTotal(Coloane.size());
+    for (int c = 1; c <= int(Coloane.size()); ++c)
+        randTotal << QString();
+    randTotal[ColoanaTotal - 1] = QStringLiteral("TOTAL GENERAL");
+    randTotal[ColoanaSuma - 1] = FormatSuma(total);
+    valoareTotal[ColoanaSuma - 1] = QVariant::fromValue(total);
+    lista.Rand(randTotal, valoareTotal, false);
+    lista.Subsol();
+    return g;
+}
+
+QString FisierExportBorderou(const Setari& s, const QString& folder) {
+    return QDir(folder).filePath(QStringLiteral("BorderouASF") +
+                                 (s.AppWord == 2 ? QStringLiteral(".ods") : QStringLiteral(".xlsx")));
+}
+
+QString ExportaBorderou(BazaDate& db, Mesaje& m, const Setari& s, const AlegeriBorderou& a, const QString& folder) {
+    const Grila g = Borderou(db, m, s, a, true);
+    const QString fisier = FisierExportBorderou(s, folder);
+    if (s.AppWord == 2)
+        ScrieOds(g, fisier);
+    else
+        ScrieXlsx(g, fisier);
+    return fisier;
+}
+
+std::optional<AntetBorderou> DeschideBorderou(BazaDate& db, Mesaje& m) {
+    const auto rand = DateReferinta::CitesteRandPrimarie(db);
+    if (!rand) {
+        m.Informatie(QStringLiteral("Introduceti mai intai datele primariei si abia apoi continuati!"));
+        return std::nullopt;
+    }
+    return AntetBorderou{rand->Text("CodFiscal"), rand->Text("AsSocial")};
+}
+
+} // namespace Raport
