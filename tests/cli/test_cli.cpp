@@ -148,18 +148,23 @@ TEST_P(Cli, WebScrieDateleLangaPagina) {
     EXPECT_FALSE(QFileInfo::exists(In("nou")));
 }
 
-// The list of reports, and a report the version cannot build yet: its message where the clerk's
-// messages go, code 1, no file.
+// The list of reports; a report written by the extension of its file; a report whose template is
+// missing tells so where the clerk's messages go, with code 1 and no file.
 TEST_P(Cli, RaportListaSiMesaje) {
     const IesireCli lista = Ruleaza(T("raport lista"));
     EXPECT_EQ(lista.cod, 0);
     const QStringList linii = lista.out.split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(linii.size(), 22);
     EXPECT_TRUE(linii[21].startsWith(T("21\t")));
-    const IesireCli r = Ruleaza(T("raport 12 --out ") + In("anexa.csv"));
+    const IesireCli bun = Ruleaza(T("raport 0 --luna 11 --an 2026 --out ") + In("toate.csv"));
+    EXPECT_EQ(bun.cod, 0) << bun.out.toStdString();
+    QFile csv(In("toate.csv"));
+    ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(csv.readLine().startsWith("ROMANIA;"));
+    const IesireCli r = Ruleaza(T("raport 20 --out ") + In("borderou.pdf"));
     EXPECT_EQ(r.cod, 1);
-    EXPECT_TRUE(r.out.contains(T("Anexa 4 - Modificari/Incetari"))) << r.out.toStdString();
-    EXPECT_FALSE(QFile::exists(In("anexa.csv")));
+    EXPECT_TRUE(r.out.contains(T("Borderou_beneficiari.cel"))) << r.out.toStdString();
+    EXPECT_FALSE(QFile::exists(In("borderou.pdf")));
 }
 
 PE_AMBELE_MOTOARE(Cli);

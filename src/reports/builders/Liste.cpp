@@ -1,7 +1,585 @@
+#include "reports/builders/Liste.h"
+
+#include "base/Bani.h"
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "base/Texte.h"
+#include "base/Val.h"
+#include "cases/Cnp.h"
+#include "reports/builders/ComunListe.h"
 #include "reports/builders/Constructori.h"
+#include "reports/export/Cel.h"
+#include "store/BazaDate.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <cmath>
+#include <map>
 
 namespace Raport {
+namespace {
 
-void InregistreazaListe(std::vector<IntrareRaport>&) {}
+const Aliniere Stanga{Orizontal::Stanga, Vertical::Centru};
+const Aliniere Dreapta{Orizontal::Dreapta, Vertical::Centru};
+const Aliniere Centru{Orizontal::Centru, Vertical::Centru};
+
+QDate PrimaZi(int an, int luna) {
+    return QDate(an, 1, 1).addMonths(luna - 1);
+}
+
+// The ordering chosen, then the keys, so that rows come in the order they were entered when nothing
+// is chosen and equal rows keep a fixed order.
+QString Ordine(const Alegeri& a, const QString& chei) {
+    const QString clauza = ClauzaOrdonare(a.ord1, a.ord2);
+    return clauza.isEmpty() ? QStringLiteral(" ORDER BY ") + chei : clauza + QStringLiteral(", ") + chei;
+}
+
+QString Text(const Interogare& q, const char* camp) {
+    return q.Text(QLatin1String(camp));
+}
+
+QVariant Numar(const Interogare& q, const char* camp) {
+    const QVariant v = q.Valoare(QLatin1String(camp));
+    return v.isNull() ? QVariant() : QVariant(v.toLongLong());
+}
+
+QString NumarText(const Interogare& q, const char* camp) {
+    const QVariant v = Numar(q, camp);
+    return v.isValid() ? QString::number(v.toLongLong()) : QString();
+}
+
+QString NumePrenume(const Interogare& q, const char* nume = "Nume", const char* prenume = "Prenume") {
+    return Text(q, nume) + QLatin1Char(' ') + Text(q, prenume);
+}
+
+// The family's address with the office's word for street.
+QString Adresa(const Interogare& q, const MediuRaport& mediu) {
+    return AdresaRaport(Text(q, "Localitate"), mediu.setari.StrSat, Text(q, "Strada"), Text(q, "Nr"), Text(q, "Sc"),
+                        Text(q, "Ap"));
+}
+
+Grila Incepe(const MediuRaport& mediu) {
+    return GrilaNoua(mediu.setari);
+}
+
+// The fields of the family and the request that the lists of requests and children print.
+const QString CampuriCerere = QStringLiteral(
+    "C.CerereID, C.NrCerere, C.DataCerere, C.NrCopii, C.NrMembrii, C.MembruID1, F.NrDosar, F.Localitate, F.Strada, "
+    "F.Nr, F.Sc, F.Ap");
+
+const std::vector<ColoanaLista> ColoaneCopii{{QStringLiteral("Nr. Crt."), 30, Dreapta},
+                                             {QStringLiteral("Nr dosar"), 60, Dreapta},
+                                             {QStringLiteral("Nr/Data cerere"), 130, Stanga},
+                                             {QStringLiteral("Nume si Prenume"), 200, Stanga},
+                                             {QStringLiteral("CNP"), 110, Centru},
+                                             {QStringLiteral("Nr copii"), 60, Dreapta}};
+
+// A row of the lists of requests and children: counter, dossier, number and date, name, code,
+// children (and, where given, the address).
+void RandCerere(Lista& l, const Interogare& q, const QString& nume, const QString& cnp, const QString* adresa) {
+    const qint64 nr = l.Randuri() + 1;
+    QStringList t{QString::number(nr),
+                  NumarText(q, "NrDosar"),
+                  NrDataCerere(q.Valoare(QStringLiteral("NrCerere")), q.Data(QStringLiteral("DataCerere"))),
+                  nume,
+                  cnp,
+                  NumarText(q, "NrCopii")};
+    std::vector<QVariant> v{nr, Numar(q, "NrDosar"), {}, {}, {}, Numar(q, "NrCopii")};
+    if (adresa) t << *adresa;
+    l.Rand(t, v);
+}
+
+// A list of children of the working month's requests by a condition on the member: the common
+// join of family, request, member and person.
+Grila ListaCopii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a, const QString& titlu,
+                 const QString& conditie, const QVariantList& valori) {
+    Grila g = Incepe(mediu);
+    Lista l(g, ColoaneCopii, CitestePrimariaRaport(db, m), titlu, false, a.luna, a.an);
+    Interogare q(db, QStringLiteral("SELECT ") + CampuriCerere +
+                         QStringLiteral(", M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, CereriMembrii CM, "
+                                        "Membrii M WHERE F.FamilieID = C.FamilieID AND C.CerereID = CM.CerereID AND "
+                                        "CM.MembruID = M.MembruID AND ") +
+                         conditie + Ordine(a, QStringLiteral("C.CerereID, CM.MembruID")));
+    for (const QVariant& v : valori)
+        q.Leaga(v);
+    q.Executa();
+    while (q.Urmator())
+        RandCerere(l, q, NumePrenume(q), Text(q, "CNP"), nullptr);
+    l.Incheie();
+    return g;
+}
+
+QString TextData(const Interogare& q, const char* camp) {
+    const QDate d = q.Data(QLatin1String(camp));
+    return d.isValid() ? FormatData(d) : QStringLiteral("-");
+}
+
+} // namespace
+
+Grila ListaCereri(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a, int stare, bool foaie) {
+    Grila g = Incepe(mediu);
+    std::vector<ColoanaLista> coloane = ColoaneCopii;
+    coloane.push_back({QStringLiteral("Adresa"), 250, Stanga});
+    if (foaie) {
+        // The spreadsheet's widths were characters: 4, 6, 16, 31, 14, 6, 36.
+        const int caractere[] = {4, 6, 16, 31, 14, 6, 36};
+        const Aliniere alinieri[] = {Dreapta, Dreapta, Dreapta, Stanga, Centru, Centru, Stanga};
+        for (size_t i = 0; i < coloane.size(); ++i) {
+            coloane[i].latime = caractere[i] * 7 + 5;
+            coloane[i].aliniere = alinieri[i];
+        }
+        coloane[3].titlu = QStringLiteral("Nume si prenume");
+    }
+    Lista l(g, coloane, CitestePrimariaRaport(db, m), QStringLiteral("persoanelor"), false, a.luna, a.an);
+    if (foaie) g.Scrie(4, 1, QStringLiteral("Lista"));
+
+    // The family is found by the request's own number: the old lists did so, and an office whose
+    // family numbers differ from its request numbers sees it here as it always did.
+    QString conditii = QStringLiteral("F.FamilieID = C.CerereID AND C.MembruID1 = M.MembruID");
+    if (stare == 2)
+        conditii += QStringLiteral(" AND C.Stare IN (2, 6, 7, 8)");
+    else if (stare != 0)
+        conditii += QStringLiteral(" AND C.Stare = ?");
+    if (!foaie && (a.tipCerere == 1 || a.tipCerere == 2)) conditii += QStringLiteral(" AND C.TipCerere = ?");
+    const auto leaga = [&](Interogare& q) {
+        if (stare != 0 && stare != 2) q.Leaga(stare);
+        if (!foaie && (a.tipCerere == 1 || a.tipCerere == 2)) q.Leaga(a.tipCerere);
+    };
+
+    // The other members of the listed requests, all at once, by request.
+    std::map<qint64, std::vector<std::pair<QString, QString>>> membri;
+    if (a.membri && !foaie) {
+        Interogare q(db, QStringLiteral("SELECT CM.CerereID, M.Nume, M.Prenume, M.CNP FROM CereriMembrii CM, Membrii M "
+                                        "WHERE CM.MembruID = M.MembruID AND CM.RudenieID > 1 AND CM.CerereID IN "
+                                        "(SELECT C.CerereID FROM Familii F, Cereri C, Membrii M WHERE ") +
+                             conditii + QStringLiteral(") ORDER BY CM.CerereID, M.Nume, M.Prenume, M.MembruID"));
+        leaga(q);
+        q.Executa();
+        while (q.Urmator())
+            membri[q.Intreg(QStringLiteral("CerereID"))].push_back({NumePrenume(q), Text(q, "CNP")});
+    }
+    Interogare q(db, QStringLiteral("SELECT ") + CampuriCerere +
+                         QStringLiteral(", M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, Membrii M WHERE ") +
+                         conditii + Ordine(a, QStringLiteral("C.CerereID")));
+    leaga(q);
+    q.Executa();
+    while (q.Urmator()) {
+        const QString adresa = Adresa(q, mediu);
+        RandCerere(l, q, NumePrenume(q), Text(q, "CNP"), &adresa);
+        const auto gasit = membri.find(q.Intreg(QStringLiteral("CerereID")));
+        if (gasit != membri.end())
+            for (const auto& [nume, cnp] : gasit->second)
+                RandCerere(l, q, nume, cnp, &adresa);
+    }
+    l.Incheie();
+    return g;
+}
+
+Grila ListaCopii18(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a) {
+    // December looks at February of the next year, and January is never listed: the rule the office keeps.
+    const int luna = a.luna == 12 ? 1 : a.luna;
+    const int an = a.luna == 12 ? a.an + 1 : a.an;
+    const QDate d1 = PrimaZi(an, luna).addMonths(1), d2 = PrimaZi(an, luna).addMonths(2);
+    return ListaCopii(db, m, mediu, a, QStringLiteral("persoanelor care implinesc 18 ani "),
+                      QStringLiteral("CM.Data18Ani >= ? AND CM.Data18Ani < ?"), {d1, d2});
+}
+
+Grila ListaCopii7(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a) {
+    // The code's year and month digits, compared as the numbers they are.
+    const int an = a.an - 2000 - 7;
+    if (an < 0)
+        return ListaCopii(db, m, mediu, a, QStringLiteral("copiilor care implinesc 7 ani "), QStringLiteral("1 = 0"),
+                          {});
+    return ListaCopii(db, m, mediu, a, QStringLiteral("copiilor care implinesc 7 ani "),
+                      QStringLiteral("M.CNP IS NOT NULL AND SUBSTR(M.CNP, 2, 2) = ? AND SUBSTR(M.CNP, 4, 2) = ?"),
+                      {QStringLiteral("%1").arg(an, 2, 10, QLatin1Char('0')),
+                       QStringLiteral("%1").arg(a.luna, 2, 10, QLatin1Char('0'))});
+}
+
+Grila ListaElevi(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a, int cuAdeverinta) {
+    Grila g = Incepe(mediu);
+    const std::vector<ColoanaLista> coloane{{QStringLiteral("Nr. Crt."), 30, Dreapta},
+                                            {QStringLiteral("Titular"), 200, Stanga},
+                                            {QStringLiteral("CNP"), 200, Centru}};
+    Lista l(g, coloane, CitestePrimariaRaport(db, m),
+            cuAdeverinta == 1 ? QStringLiteral("elevi care au adeverinta de scolarizare ")
+                              : QStringLiteral("elevi fara adeverinta de scolarizare "),
+            false, a.luna, a.an);
+    // A pupil counts as covered by any certificate of his on that request still valid after today.
+    Interogare q(db, QStringLiteral("SELECT M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, Membrii M, "
+                                    "CereriMembrii CM WHERE F.FamilieID = C.FamilieID AND C.MembruID1 = M.MembruID AND "
+                                    "CM.CerereID = C.CerereID AND CM.RudenieID IN (3, 6, 7, 8, 9, 10) AND "
+                                    "CM.Studii IN (3, 4) AND ") +
+                         (cuAdeverinta == 1 ? QString() : QStringLiteral("NOT ")) +
+                         QStringLiteral("EXISTS (SELECT 1 FROM Adeverinte A WHERE A.CerereID = C.CerereID AND "
+                                        "A.MembruID = CM.MembruID AND A.DataExpAdev > ?)") +
+                         Ordine(a, QStringLiteral("C.CerereID, CM.MembruID")));
+    q.Leaga(a.azi);
+    q.Executa();
+    while (q.Urmator()) {
+        const qint64 nr = l.Randuri() + 1;
+        l.Rand({QString::number(nr), NumePrenume(q), Text(q, "CNP")}, {nr});
+    }
+    l.Incheie();
+    return g;
+}
+
+Grila ListaCereri6Luni(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a, bool foaie) {
+    QString conditie;
+    QVariantList valori;
+    if (foaie) {
+        // The spreadsheet lists every request filed before the month five months back.
+        conditie = QStringLiteral("C.DataCerere < ?");
+        valori = {PrimaZi(a.an, a.luna).addMonths(-5)};
+    } else {
+        const double citit = Val(a.nrLuni);
+        const int n = citit > 0 ? int(std::floor(citit)) : 0;
+        const int ani = n / 12, luni = n % 12;
+        const int luna = a.luna <= luni ? 12 + a.luna - luni : a.luna - luni;
+        const int an = a.luna <= luni ? a.an - ani - 1 : a.an - ani;
+        conditie = QStringLiteral("C.DataCerere >= ? AND C.DataCerere < ?");
+        valori = {PrimaZi(an, luna), PrimaZi(an, luna).addMonths(1)};
+    }
+    Grila g = Incepe(mediu);
+    Lista l(g, ColoaneCopii, CitestePrimariaRaport(db, m), QStringLiteral("cererilor care implinesc 6 luni "), false,
+            a.luna, a.an);
+    Interogare q(db, QStringLiteral("SELECT ") + CampuriCerere +
+                         QStringLiteral(", M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, Membrii M WHERE "
+                                        "F.FamilieID = C.FamilieID AND C.MembruID1 = M.MembruID AND "
+                                        "C.Stare IN (1, 2, 6, 7, 8) AND ") +
+                         conditie + Ordine(a, QStringLiteral("C.CerereID")));
+    for (const QVariant& v : valori)
+        q.Leaga(v);
+    q.Executa();
+    while (q.Urmator())
+        RandCerere(l, q, NumePrenume(q), Text(q, "CNP"), nullptr);
+    l.Incheie();
+    return g;
+}
+
+void RecalculAdvCurenta(BazaDate& db) {
+    Tranzactie t(db);
+    db.Executa(QStringLiteral("UPDATE Adeverinte SET AdvCurenta = NULL"));
+    // Each person's latest certificate of each kind, for person numbers up to the number of
+    // certificates and the kinds the catalogue has; of two alike, the first written.
+    Interogare q(
+        db, QStringLiteral("UPDATE Adeverinte SET AdvCurenta = 1 WHERE AdevID IN (SELECT AdevID FROM (SELECT AdevID, "
+                           "ROW_NUMBER() OVER (PARTITION BY MembruID, TipAdeverinta ORDER BY CASE WHEN DataExpAdev IS "
+                           "NULL THEN 1 ELSE 0 END, DataExpAdev DESC, AdevID) AS Loc FROM Adeverinte WHERE MembruID <= "
+                           "(SELECT COUNT(*) FROM Adeverinte) AND TipAdeverinta >= 1 AND TipAdeverinta <= (SELECT "
+                           "COALESCE(MAX(DataID), 0) FROM DateGen WHERE Tip = 30)) P WHERE Loc = 1)"));
+    q.Executa();
+    t.Confirma();
+}
+
+Grila ListaActeExpira(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a, bool foaie) {
+    if (!foaie) RecalculAdvCurenta(db);
+    Grila g = Incepe(mediu);
+    const std::vector<ColoanaLista> coloane{
+        {QStringLiteral("Nr. Crt."), 38, Dreapta},       {QStringLiteral("Numele"), 80, Stanga},
+        {QStringLiteral("Prenumele"), 110, Stanga},      {QStringLiteral("CNP"), 100, Centru},
+        {QStringLiteral("Adresa"), 160, Stanga},         {QStringLiteral("Tip act"), 100, Stanga},
+        {QStringLiteral("Data Dep"), 100, Centru},       {QStringLiteral("Data Act"), 100, Centru},
+        {QStringLiteral("Data expirarii"), 100, Centru}, {QStringLiteral("Motivul"), 160, Stanga}};
+    Lista l(g, coloane, CitestePrimariaRaport(db, m),
+            QStringLiteral("LISTA ACTE CARE EXPIRA IN LUNA ") + LuniAn().value(a.luna - 1), true, a.luna, a.an);
+    Interogare q(
+        db, QStringLiteral("SELECT F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, C.MotivStare, A.TipAdeverinta, "
+                           "A.DataDepunerii, A.DataAdeverinta, A.DataExpAdev, P.Nume, P.Prenume, P.CNP, D.Continut "
+                           "FROM Familii F, Cereri C, Adeverinte A LEFT JOIN Membrii P ON P.MembruID = A.MembruID "
+                           "LEFT JOIN DateGen D ON D.Tip = 30 AND D.DataID = A.TipAdeverinta WHERE "
+                           "F.FamilieID = C.FamilieID AND C.CerereID = A.CerereID AND C.Stare IN (2, 3, 6, 7, 8) AND "
+                           "A.DataExpAdev >= ? AND A.DataExpAdev < ?") +
+                (foaie ? QString() : QStringLiteral(" AND A.AdvCurenta = 1")) +
+                QStringLiteral(" ORDER BY C.NrCerere, A.AdevID"));
+    q.Leaga(PrimaZi(a.an, a.luna)).Leaga(PrimaZi(a.an, a.luna).addMonths(1));
+    q.Executa();
+    while (q.Urmator()) {
+        const qint64 nr = l.Randuri() + 1;
+        const QString tip = q.EsteNul(QStringLiteral("TipAdeverinta")) ? QStringLiteral("nesetat")
+                            : q.EsteNul(QStringLiteral("Continut"))    ? QStringLiteral("necunoscut")
+                                                                       : Text(q, "Continut");
+        l.Rand({QString::number(nr), Text(q, "Nume"), Text(q, "Prenume"), Text(q, "CNP"), Adresa(q, mediu), tip,
+                TextData(q, "DataDepunerii"), TextData(q, "DataAdeverinta"), TextData(q, "DataExpAdev"),
+                Text(q, "MotivStare")},
+               {nr});
+    }
+    l.Incheie();
+    return g;
+}
+
+Grila ListaPersoane(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a, bool copii) {
+    Grila g = Incepe(mediu);
+    const std::vector<ColoanaLista> coloane{
+        {QStringLiteral("Nr. Crt."), 30, Dreapta},
+        {QStringLiteral("Nr dosar"), 60, Dreapta},
+        {QStringLiteral("Nr/Data cerere"), 130, Stanga},
+        {copii ? QStringLiteral("Nume si prenume copil") : QStringLiteral("Nume si prenume adult"), 200, Stanga},
+        {copii ? QStringLiteral("CNP copil") : QStringLiteral("CNP"), 120, Centru},
+        {QStringLiteral("Adresa"), 250, Stanga},
+        {QStringLiteral("Titular cerere"), 200, Stanga},
+        {QStringLiteral("Varsta"), 60, Dreapta}};
+    Lista l(g, coloane, CitestePrimariaRaport(db, m),
+            copii ? QStringLiteral("LISTA COPII") : QStringLiteral("LISTA ADULTI"), true, a.luna, a.an);
+    Interogare q(db,
+                 QStringLiteral("SELECT ") + CampuriCerere +
+                     QStringLiteral(", M.Nume, M.Prenume, M.CNP, (SELECT T.Nume FROM Membrii T WHERE T.MembruID = "
+                                    "C.MembruID1) AS TitularN, (SELECT T.Prenume FROM Membrii T WHERE T.MembruID = "
+                                    "C.MembruID1) AS TitularP FROM Familii F, Cereri C, CereriMembrii CM, Membrii M "
+                                    "WHERE F.FamilieID = C.FamilieID AND C.CerereID = CM.CerereID AND "
+                                    "M.MembruID = CM.MembruID AND C.Stare IN (1, 2, 6, 7, 8) AND CM.RudenieID IN ") +
+                     (copii ? QStringLiteral("(3, 6, 7, 8, 9)") : QStringLiteral("(1, 2, 4, 5)")) +
+                     Ordine(a, QStringLiteral("C.CerereID, CM.MembruID")));
+    q.Executa();
+    // The age on the first day of the month after the working one.
+    const QDate referinta = PrimaZi(a.an, a.luna).addMonths(1);
+    while (q.Urmator()) {
+        const qint64 nr = l.Randuri() + 1;
+        const QString cnp = Text(q, "CNP");
+        const qint16 varsta = Varsta(referinta, DataNasterii(cnp, false, nullptr), cnp, &m);
+        l.Rand({QString::number(nr), NumarText(q, "NrDosar"),
+                NrDataCerere(q.Valoare(QStringLiteral("NrCerere")), q.Data(QStringLiteral("DataCerere"))),
+                NumePrenume(q), cnp, Adresa(q, mediu), NumePrenume(q, "TitularN", "TitularP"), QString::number(varsta)},
+               {nr, Numar(q, "NrDosar"), {}, {}, {}, {}, {}, qint64(varsta)});
+    }
+    l.Incheie();
+    if (copii) {
+        m.Informatie(QString::number(l.Randuri()));
+        Interogare s(db, QStringLiteral("SELECT SUM(NrCopii) AS NrCop FROM Cereri WHERE Stare IN (1, 2, 6, 7, 8)"));
+        s.Executa();
+        const qint64 nrCop = s.Urmator() ? s.Intreg(QStringLiteral("NrCop")) : 0;
+        if (nrCop != l.Randuri()) m.Informatie(QStringLiteral("Sunt %1 copii").arg(nrCop));
+    }
+    return g;
+}
+
+Grila SituatieCentralizata(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a) {
+    Grila g = Incepe(mediu);
+    const PrimarieRaport p = CitestePrimariaRaport(db, m);
+    constexpr int Coloane = 6, RandTitluri = 6;
+    g.SeteazaColoane(Coloane + 1);
+    g.SeteazaRanduri(RandTitluri + 1);
+    const int latimi[] = {50, 160, 105, 60, 160, 105};
+    const char* titluri[] = {"Nr. Crt.",
+                             "Nume si prenume titular",
+                             "CNP titular",
+                             "Numar membrii familie",
+                             "Nume si prenume membrii familie",
+                             "CNP membru familie "};
+    for (int c = 1; c <= Coloane; ++c) {
+        g.SeteazaLatimeColoana(c, latimi[c - 1]);
+        g.Scrie(RandTitluri, c, QString::fromUtf8(titluri[c - 1]));
+    }
+    g.Scrie(1, 1,
+            p.Denumire.isEmpty()
+                ? QStringLiteral("CONSILIUL LOCAL.........................................................")
+                : QStringLiteral("CONSILIUL LOCAL ") + p.Denumire);
+    g.Uneste({1, 1, 1, 3});
+    g.Scrie(1, 5, QStringLiteral("CERTIFICARE"));
+    g.Scrie(2, 5, QStringLiteral("PRIMAR"));
+    g.Scrie(3, 1, QStringLiteral("SITUATIA CENTRALIZATA"));
+    g.Scrie(4, 1, QStringLiteral("privind beneficiarii de alocatie de sustinere - %1").arg(a.an));
+    for (int r : {1, 2})
+        g.Uneste({r, 5, r, 6});
+    for (int r : {3, 4}) {
+        g.Uneste({r, 1, r, Coloane});
+        g.Aliniaza({r, 1, r, Coloane}, Centru);
+    }
+    g.SeteazaFont({3, 1, 3, Coloane}, {QString(), 0, true, {}, {}});
+    g.SeteazaInaltimeRand(RandTitluri, 36);
+    g.Incadreaza({RandTitluri, 1, RandTitluri, Coloane}, true);
+    g.Bordura({RandTitluri, 1, RandTitluri, Coloane}, Margine::Jos, Linie::Groasa);
+
+    // Ordering by name or street needs the titular and the family; without a choice, the family's
+    // requests together in the order they came.
+    const QString clauza = ClauzaOrdonare(a.ord1, a.ord2);
+    const QString ordine = clauza.isEmpty() ? QStringLiteral(" ORDER BY C.FamilieID, C.CerereID")
+                                            : clauza + QStringLiteral(", C.CerereID");
+    const QString cereri = QStringLiteral("FROM Cereri C LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 LEFT JOIN "
+                                          "Familii F ON F.FamilieID = C.FamilieID WHERE C.Stare IN (1, 2, 6, 7, 8, 9)");
+    std::map<qint64, std::vector<std::pair<QString, QString>>> altii;
+    {
+        Interogare q(db,
+                     QStringLiteral("SELECT CM.CerereID, P.Nume, P.Prenume, P.CNP FROM CereriMembrii CM LEFT JOIN "
+                                    "Membrii P ON P.MembruID = CM.MembruID WHERE CM.CerereID IN (SELECT C.CerereID ") +
+                         cereri +
+                         QStringLiteral(") AND CM.MembruID <> (SELECT C2.MembruID1 FROM Cereri C2 WHERE "
+                                        "C2.CerereID = CM.CerereID) ORDER BY CM.CerereID, CM.MembruID"));
+        q.Executa();
+        while (q.Urmator())
+            altii[q.Intreg(QStringLiteral("CerereID"))].push_back({NumePrenume(q), Text(q, "CNP")});
+    }
+    Interogare q(db, QStringLiteral("SELECT C.CerereID, C.NrCerere, C.NrMembrii, M.Nume, M.Prenume, M.CNP ") + cereri +
+                         ordine);
+    q.Executa();
+    qint64 nr = 0;
+    int r = RandTitluri + 1;
+    const auto rand = [&] {
+        g.SeteazaRanduri(r + 1);
+        g.Bordura({r, 1, r, Coloane}, Margine::Jos, Linie::Subtire);
+        return r++;
+    };
+    while (q.Urmator()) {
+        ++nr;
+        const int primul = rand();
+        g.Scrie(primul, 1, QString::number(nr), nr);
+        g.Scrie(primul, 2, NumePrenume(q));
+        g.Scrie(primul, 3, Text(q, "CNP"));
+        g.Scrie(primul, 4, NumarText(q, "NrMembrii"), Numar(q, "NrMembrii"));
+        const auto& membri = altii[q.Intreg(QStringLiteral("CerereID"))];
+        for (size_t i = 0; i < membri.size(); ++i) {
+            const int rm = i == 0 ? primul : rand();
+            g.Scrie(rm, 5, membri[i].first);
+            g.Scrie(rm, 6, membri[i].second);
+        }
+        const qint64 gasiti = qint64(membri.size()) + 1;
+        if (gasiti != q.Intreg(QStringLiteral("NrMembrii")))
+            m.Informatie(QStringLiteral("Cererea %1 %2 %3 are %4 membrii in loc de %5")
+                             .arg(Text(q, "NrCerere"), Text(q, "Nume"), Text(q, "Prenume"))
+                             .arg(gasiti)
+                             .arg(NumarText(q, "NrMembrii")));
+    }
+    if (r > RandTitluri + 1) g.Bordura({r - 1, 1, r - 1, Coloane}, Margine::Jos, Linie::Groasa);
+    m.Informatie(QStringLiteral("%1 cereri parcurse").arg(nr));
+    g.SeteazaRanduri(r + 4);
+    g.Scrie(r + 1, 2, QStringLiteral("Intocmit"));
+    g.Scrie(r + 2, 2,
+            p.AsSocial.isEmpty() ? QStringLiteral("Nume.......................")
+                                 : QStringLiteral("Nume ") + p.AsSocial);
+    g.Scrie(r + 3, 2, QStringLiteral("Semnatura.............................."));
+    return g;
+}
+
+Grila BorderouBeneficiari(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a) {
+    const QString sablon = QDir(mediu.applicationPath).filePath(QStringLiteral("Acte/Borderou_beneficiari.cel"));
+    if (!QFileInfo::exists(sablon))
+        throw Eroare(QStringLiteral("Nu exista fisierul sablon 'Borderou_beneficiari.cel'") +
+                     QStringLiteral(". Sunati la 0700-111222!"));
+    Grila g = IncarcaCel(sablon);
+    const PrimarieRaport p = CitestePrimariaRaport(db, m);
+    // The statuses chosen, each bound; none chosen filters on 0, which no request has.
+    QList<qint64> stari = a.stari;
+    if (stari.isEmpty()) stari << 0;
+    QString semne;
+    for (qsizetype i = 0; i < stari.size(); ++i)
+        semne += i ? QStringLiteral(", ?") : QStringLiteral("?");
+    Interogare q(db, QStringLiteral("SELECT M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, Membrii M WHERE "
+                                    "F.FamilieID = C.FamilieID AND C.MembruID1 = M.MembruID AND C.Stare IN (") +
+                         semne + QStringLiteral(") AND C.DataStare >= ? AND C.DataStare < ?") +
+                         Ordine(a, QStringLiteral("C.CerereID")));
+    for (qint64 s : stari)
+        q.Leaga(s);
+    q.Leaga(PrimaZi(a.an, a.luna)).Leaga(PrimaZi(a.an, a.luna).addMonths(1));
+    q.Executa();
+    constexpr int PrimaColoana = 2, Coloane = 6;
+    if (g.Coloane() < PrimaColoana + Coloane) g.SeteazaColoane(PrimaColoana + Coloane);
+    const QString borderou = a.nrBord + QLatin1Char('/') + FormatData(a.dataBord);
+    int r = 2;
+    qint64 nr = 0;
+    while (q.Urmator()) {
+        if (g.Randuri() <= r) g.SeteazaRanduri(r + 1);
+        ++nr;
+        g.Scrie(r, PrimaColoana, QString::number(nr), nr);
+        g.Scrie(r, PrimaColoana + 1, p.Denumire);
+        g.Scrie(r, PrimaColoana + 2, NumePrenume(q));
+        g.Scrie(r, PrimaColoana + 3, Text(q, "CNP"));
+        g.Scrie(r, PrimaColoana + 4, QStringLiteral("ASF"));
+        g.Scrie(r, PrimaColoana + 5, borderou);
+        ++r;
+    }
+    if (nr > 0) {
+        const Dreptunghi zona{2, PrimaColoana, r - 1, PrimaColoana + Coloane - 1};
+        for (Margine l : {Margine::Stanga, Margine::Dreapta, Margine::Sus, Margine::Jos, Margine::InteriorVertical,
+                          Margine::InteriorOrizontal})
+            g.Bordura(zona, l, Linie::Subtire);
+    }
+    return g;
+}
+
+Grila ListaMembrii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a) {
+    Grila g = Incepe(mediu);
+    const std::vector<ColoanaLista> coloane{
+        {QStringLiteral("Nr. Crt."), 30, Dreapta},
+        {QStringLiteral("Nume si Prenume"), 200, Stanga},
+        {QStringLiteral("Comuna / Municipiul / Orasul"), 130, Stanga},
+        {QStringLiteral("Adresa"), 250, Stanga},
+        {QStringLiteral("CNP"), 120, Centru},
+        {QStringLiteral("BI/CI"), 80, Stanga},
+        {QStringLiteral("Nr dosar"), 60, Dreapta},
+        {QStringLiteral("Tip beneficiar handicapat/ pensionar/somer/ VMG)"), 165, Stanga}};
+    Lista l(g, coloane, CitestePrimariaRaport(db, m), QStringLiteral("LISTA MEMBRII"), true, a.luna, a.an);
+    const QString titulari =
+        QStringLiteral("FROM Familii F, Cereri C, CereriMembrii CM, Membrii M WHERE "
+                       "F.FamilieID = C.FamilieID AND C.CerereID = CM.CerereID AND "
+                       "M.MembruID = CM.MembruID AND CM.RudenieID = 1 AND C.Stare IN (1, 2, 6, 7, 8)");
+    std::map<qint64, std::vector<std::tuple<QString, QString, QString>>> membri;
+    {
+        Interogare q(db, QStringLiteral("SELECT CM.CerereID, M.Nume, M.Prenume, M.CNP, M.NrBI FROM Membrii M, "
+                                        "CereriMembrii CM WHERE M.MembruID = CM.MembruID AND CM.RudenieID > 1 AND "
+                                        "CM.CerereID IN (SELECT C.CerereID ") +
+                             titulari + QStringLiteral(") ORDER BY CM.CerereID, M.Nume, M.Prenume, M.MembruID"));
+        q.Executa();
+        while (q.Urmator())
+            membri[q.Intreg(QStringLiteral("CerereID"))].push_back({NumePrenume(q), Text(q, "CNP"), Text(q, "NrBI")});
+    }
+    Interogare q(db, QStringLiteral("SELECT C.CerereID, F.NrDosar, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, M.Nume, "
+                                    "M.Prenume, M.CNP, M.NrBI ") +
+                         titulari + Ordine(a, QStringLiteral("C.CerereID, CM.MembruID")));
+    q.Executa();
+    const auto rand = [&](const Interogare& q, const QString& nume, const QString& cnp, const QString& bi) {
+        const qint64 nr = l.Randuri() + 1;
+        l.Rand({QString::number(nr), nume, Text(q, "Localitate"), Adresa(q, mediu), cnp, bi, NumarText(q, "NrDosar"),
+                QStringLiteral("ASF")},
+               {nr, {}, {}, {}, {}, {}, Numar(q, "NrDosar")});
+    };
+    while (q.Urmator()) {
+        rand(q, NumePrenume(q), Text(q, "CNP"), Text(q, "NrBI"));
+        for (const auto& [nume, cnp, bi] : membri[q.Intreg(QStringLiteral("CerereID"))])
+            rand(q, nume, cnp, bi);
+    }
+    l.Incheie();
+    return g;
+}
+
+void InregistreazaListe(std::vector<IntrareRaport>& c) {
+    const auto ambele = [&](int index, const Constructor& f) {
+        c[size_t(index)].grila = f;
+        if (!c[size_t(index)].faraFoaie) c[size_t(index)].foaie = f;
+    };
+    for (const auto& [index, stare] : {std::pair{0, 0}, {1, 2}, {2, 3}, {3, 4}, {4, 5}}) {
+        c[size_t(index)].grila = [stare](BazaDate& db, Mesaje& m, const MediuRaport& md, const Alegeri& a) {
+            return ListaCereri(db, m, md, a, stare, false);
+        };
+        c[size_t(index)].foaie = [stare](BazaDate& db, Mesaje& m, const MediuRaport& md, const Alegeri& a) {
+            return ListaCereri(db, m, md, a, stare, true);
+        };
+    }
+    ambele(5, ListaCopii18);
+    ambele(6, [](BazaDate& db, Mesaje& m, const MediuRaport& md, const Alegeri& a) {
+        return ListaElevi(db, m, md, a, 1);
+    });
+    ambele(7, [](BazaDate& db, Mesaje& m, const MediuRaport& md, const Alegeri& a) {
+        return ListaElevi(db, m, md, a, 0);
+    });
+    ambele(8, ListaCopii7);
+    for (int index : {15, 16}) {
+        const auto f = index == 15 ? &ListaCereri6Luni : &ListaActeExpira;
+        c[size_t(index)].grila = [f](BazaDate& db, Mesaje& m, const MediuRaport& md, const Alegeri& a) {
+            return f(db, m, md, a, false);
+        };
+        c[size_t(index)].foaie = [f](BazaDate& db, Mesaje& m, const MediuRaport& md, const Alegeri& a) {
+            return f(db, m, md, a, true);
+        };
+    }
+    ambele(17, [](BazaDate& db, Mesaje& m, const MediuRaport& md, const Alegeri& a) {
+        return ListaPersoane(db, m, md, a, true);
+    });
+    ambele(18, [](BazaDate& db, Mesaje& m, const MediuRaport& md, const Alegeri& a) {
+        return ListaPersoane(db, m, md, a, false);
+    });
+    ambele(19, SituatieCentralizata);
+    ambele(20, BorderouBeneficiari);
+    ambele(21, ListaMembrii);
+}
 
 } // namespace Raport
