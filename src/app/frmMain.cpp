@@ -17,6 +17,7 @@
 #include "reference/frmChLunaAn.h"
 #include "reference/frmMotive.h"
 #include "reference/frmSate.h"
+#include "reports/frmBorderou.h"
 #include "reports/frmRapoarte.h"
 #include "reports/frmRapoarte2.h"
 #include "store/BazaDate.h"
@@ -362,7 +363,10 @@ void frmMain::construiesteMeniurile() {
     QMenu* rapoarte = meniuPrincipal("mnuRapoarte", QStringLiteral("Rapoarte"));
     connect(meniu(rapoarte, "mnuFisa", QStringLiteral("Fisa de calcul ..."), true), &QAction::triggered, this,
             &frmMain::cmdFisaCalcul_Click);
-    meniu(rapoarte, "mnuBorderou", QStringLiteral("Borderou..."), false);
+    connect(meniu(rapoarte, "mnuBorderou", QStringLiteral("Borderou..."), true), &QAction::triggered, this, [this] {
+        frmBorderou f(p_, m_, this);
+        ArataModal(f);
+    });
     connect(meniu(rapoarte, "mnuRap", QStringLiteral("Rapoarte ..."), true), &QAction::triggered, this, [this] {
         frmRapoarte f(p_, m_, this);
         ArataModal(f);

@@ -39,6 +39,14 @@ QPushButton* UiFereastraRaport::Buton(QWidget* parinte, const char* nume, const 
     return b;
 }
 
+QComboBox* UiFereastraRaport::ListaImprimante(QWidget* parinte) {
+    cboPrinter = new QComboBox(parinte);
+    cboPrinter->setObjectName(QStringLiteral("cboPrinter"));
+    cboPrinter->addItems(QPrinterInfo::availablePrinterNames());
+    cboPrinter->setCurrentText(QPrinterInfo::defaultPrinterName());
+    return cboPrinter;
+}
+
 QGridLayout* UiFereastraRaport::ControaleAlegeri(QWidget* parinte, int nrIntrari) {
     const auto numit = [](auto* w, const QString& nume) {
         w->setObjectName(nume);
@@ -79,9 +87,7 @@ QGridLayout* UiFereastraRaport::ControaleAlegeri(QWidget* parinte, int nrIntrari
     cboFormatPagina->setCurrentIndex(-1);
     cboFormatPagina->setMinimumWidth(60);
     chkPortret = numit(new QCheckBox(QStringLiteral("Portret"), parinte), QStringLiteral("chkPortret"));
-    cboPrinter = numit(new QComboBox(parinte), QStringLiteral("cboPrinter"));
-    cboPrinter->addItems(QPrinterInfo::availablePrinterNames());
-    cboPrinter->setCurrentText(QPrinterInfo::defaultPrinterName());
+    ListaImprimante(parinte);
     pagina->addWidget(new QLabel(QStringLiteral("Format pagina:"), parinte));
     pagina->addWidget(cboFormatPagina);
     pagina->addWidget(chkPortret);

@@ -1,10 +1,12 @@
 #include "reports/frmRapoarte.h"
 
 #include "base/Ceas.h"
+#include "base/Foldere.h"
 #include "base/Setari.h"
 #include "cases/ListaCereri.h"
 #include "reports/Rapoarte.h"
 #include "reports/UiGrila.h"
+#include "reports/builders/Bas.h"
 #include "reports/export/Cel.h"
 #include "store/BazaDate.h"
 #include "store/Program.h"
@@ -98,10 +100,16 @@ frmRapoarte::frmRapoarte(Program& p, Mesaje& m, QWidget* parinte) : UiFereastraR
     connect(cmdExport, &QPushButton::clicked, this, &frmRapoarte::cmdExport_Click);
     connect(cmdExportGrid, &QPushButton::clicked, this, &frmRapoarte::cmdExportGrid_Click);
     connect(Timer1, &QTimer::timeout, this, &frmRapoarte::Timer1_Timer);
-    for (QPushButton* b : cmdBAS)
-        connect(b, &QPushButton::clicked, this, [this, b] {
-            m_.Informatie(QStringLiteral("Exportul \"%1\" nu este inca disponibil in aceasta versiune a programului.")
-                              .arg(b->text()));
+    for (size_t i = 0; i < cmdBAS.size(); ++i)
+        connect(cmdBAS[i], &QPushButton::clicked, this, [this, i] {
+            QApplication::setOverrideCursor(Qt::WaitCursor);
+            QString fisier;
+            LaMargine(m_, [&] {
+                fisier = ExportaBas(p_.bd, FormularBas(i), p_.applicationPath, Foldere::FolderLivrat(),
+                                    FolderExportEfectiv(p_.setari));
+            });
+            QApplication::restoreOverrideCursor();
+            if (!fisier.isEmpty()) Deschide(fisier);
         });
 
     // Opening: the lists, the town hall's data, the two buttons of one town hall.

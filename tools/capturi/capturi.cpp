@@ -32,6 +32,7 @@
 #include "reference/frmSate.h"
 #include "reports/Desen.h"
 #include "reports/UiGrila.h"
+#include "reports/frmBorderou.h"
 #include "reports/frmRapoarte.h"
 #include "reports/frmRapoarte2.h"
 #include "store/BazaDate.h"
@@ -39,6 +40,7 @@
 #include "store/Program.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QTabWidget>
@@ -240,6 +242,22 @@ int main(int argc, char** argv) {
         pagina.pagina.portret = false;
         try {
             Raport::ScriePdf(pagina, iesire.filePath(QStringLiteral("Anexa3.pdf")));
+        } catch (const Eroare& e) {
+            std::fprintf(stderr, "%s\n", qPrintable(e.text()));
+            ++erori;
+        }
+    }
+    {
+        // The requests in payment by name, and the same page as a pdf to look at.
+        frmBorderou f(program, m);
+        f.resize(1280, 800);
+        f.cboTipRaport->setCurrentIndex(1);
+        f.cboTipAloc->setCurrentIndex(0);
+        f.cboOrd[0]->setCurrentIndex(2);
+        f.cmdOK_Click();
+        captura(f, "frmBorderou");
+        try {
+            Raport::ScriePdf(f.GrilaAfisata(), iesire.filePath(QStringLiteral("Borderou.pdf")));
         } catch (const Eroare& e) {
             std::fprintf(stderr, "%s\n", qPrintable(e.text()));
             ++erori;

@@ -129,6 +129,12 @@ Grila Borderou(BazaDate& db, Mesaje& m, const Setari& s, const AlegeriBorderou& 
         g.Scrie(5, 1,
                 QStringLiteral("privind cererile ") + TipuriRaportBorderou()[a.tipRaport] +
                     QStringLiteral(" pentru alocatia de sustinere a familiei"));
+    // The first column is the narrow, right-aligned counter: the town hall's lines and the month
+    // would be cut to a few letters in it.
+    for (int r : {1, 2, 3, 6}) {
+        g.Uneste({r, 1, r, ColoanaTotal - 1});
+        g.Aliniaza({r, 1, r, ColoanaTotal - 1}, Stanga);
+    }
 
     QString sql = QStringLiteral("SELECT C.NrCerere, C.DataCerere, M.Nume, M.Prenume, M.CNP, F.Localitate, F.Strada, "
                                  "F.Nr, F.Sc, F.Ap, C.Lege416, C.NrMembrii, C.NrCopii, C.Cuantum "
