@@ -167,6 +167,34 @@ TEST_P(Cli, RaportListaSiMesaje) {
     EXPECT_FALSE(QFile::exists(In("borderou.pdf")));
 }
 
+// The Borderou written by the extension of its file, its twin too; the two forms filled from the
+// template of the data folder, and a broken one there refused with code 1, the message where the
+// clerk's messages go and no file.
+TEST_P(Cli, BorderouSiFormulareleBas) {
+    Redeschide();
+    ScriePrimarie(Bd(), PrimarieA());
+    ScrieCerere(Bd(), CerereA());
+    const IesireCli b = Ruleaza(T("borderou --raport 1 --aloc 0 --ord1 2 --luna 3 --an 2015 --out ") + In("b.csv"));
+    EXPECT_EQ(b.cod, 0) << b.out.toStdString();
+    const QString csv = CitesteText(In("b.csv"));
+    EXPECT_TRUE(csv.startsWith(T("ROMANIA;"))) << csv.left(200).toStdString();
+    EXPECT_TRUE(csv.contains(QString::fromLatin1(CnpTitular))) << "the request in payment is listed";
+    const IesireCli foaie = Ruleaza(T("borderou --raport 4 --aloc 2 --foaie --out ") + In("b.xlsx"));
+    EXPECT_EQ(foaie.cod, 0) << foaie.out.toStdString();
+    EXPECT_GT(QFileInfo(In("b.xlsx")).size(), 0);
+
+    const IesireCli a23 = Ruleaza(T("bas a23 --out ") + In("a23.ods"));
+    EXPECT_EQ(a23.cod, 0) << a23.out.toStdString();
+    EXPECT_GT(QFileInfo(In("a23.ods")).size(), 0);
+    QDir(Locatie().caleBD).mkpath(T("Acte"));
+    ScrieText(QDir(Locatie().caleBD).filePath(T("Acte/A25BAS.ods")), T("nu este o foaie de calcul"));
+    const IesireCli rupt = Ruleaza(T("bas a25 --out ") + In("a25.ods"));
+    EXPECT_EQ(rupt.cod, 1);
+    EXPECT_TRUE(rupt.out.contains(T("A25BAS.ods"))) << rupt.out.toStdString();
+    EXPECT_TRUE(rupt.err.isEmpty()) << rupt.err.toStdString();
+    EXPECT_FALSE(QFile::exists(In("a25.ods")));
+}
+
 PE_AMBELE_MOTOARE(Cli);
 
 // Each wrong command line gives code 2, one line of usage on the error stream, nothing on the
@@ -184,7 +212,13 @@ TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
         "web cerere 3 --sablon a.rtf", "cauta x", "cauta --stari 2,x", "cauta --primele -1",
         "cauta --nr-cerere 12a", "upgrade --nume Pop", "raport", "raport 22 --out x.csv", "raport 0", "raport lista 3",
         "raport 0 --out x.doc", "raport 0 --out x.csv --ord1 4", "raport 0 --out x.csv --tip-cerere 3",
-        "raport 0 --out x.csv --azi 31.02.2026", "raport 0 --out x.csv --luna 3", "cauta --foaie"};
+        "raport 0 --out x.csv --azi 31.02.2026", "raport 0 --out x.csv --luna 3", "cauta --foaie",
+        "raport 0 --out x.csv --aloc 1", "borderou --aloc 0 --out x.csv", "borderou --raport 5 --aloc 0 --out x.csv",
+        "borderou --raport 0 --aloc 3 --out x.csv", "borderou --raport 0 --aloc 0", "borderou 1 --raport 0 --aloc 0 --out x.csv",
+        "borderou --raport 0 --aloc 0 --out x.doc", "borderou --raport 0 --aloc 0 --out x.csv --ord2 4",
+        "borderou --raport 0 --aloc 0 --out x.csv --an 2024", "borderou --raport 0 --aloc 0 --out x.csv --tip-cerere 1",
+        "bas", "bas a24 --out x.ods", "bas a23", "bas a23 --out x.xlsx", "bas a23 a25 --out x.ods",
+        "bas a25 --out x.ods --foaie", "cuantum 5 --raport 1 --dir DIR"};
     // clang-format on
     QTemporaryDir dir;
     for (const char* linie : linii) {

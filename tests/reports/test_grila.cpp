@@ -7,6 +7,7 @@
 #include "reports/export/Ods.h"
 #include "reports/export/SablonOds.h"
 #include "reports/export/Xlsx.h"
+#include "support/Ods.h"
 #include "support/Texte.h"
 
 #include <QDate>
@@ -131,23 +132,6 @@ TEST(Grila, FisierulCelPastreazaTotul) {
     EXPECT_THROW(IncarcaCel(dir.filePath(T("lipsa.cel"))), Eroare);
 }
 
-// An entry of a zip archive (an xlsx), as text; empty when missing.
-QString DinArhiva(const QString& arhiva, const char* intrare) {
-    int eroare = 0;
-    zip_t* z = zip_open(QFile::encodeName(arhiva).constData(), ZIP_RDONLY, &eroare);
-    if (!z) return {};
-    QByteArray r;
-    zip_stat_t st;
-    if (zip_stat(z, intrare, 0, &st) == 0)
-        if (zip_file_t* f = zip_fopen(z, intrare, 0)) {
-            r.resize(qsizetype(st.size));
-            r.resize(qsizetype(std::max<zip_int64_t>(0, zip_fread(f, r.data(), st.size))));
-            zip_fclose(f);
-        }
-    zip_close(z);
-    return QString::fromUtf8(r);
-}
-
 // The spreadsheet holds the content with the sheet's own types: amounts and whole numbers as numbers,
 // dates as day numbers, the merge, the paper and the orientation; texts in the shared strings.
 TEST(Grila, XlsxCuNumereDateSiUniri) {
@@ -224,29 +208,6 @@ TEST(Grila, RandurileSeImpartPePagini) {
             g.SeteazaInaltimeRand(int(i) + 1, inaltimi[i]);
         EXPECT_EQ(Pagini(g, pagina), asteptate) << pagina;
     }
-}
-
-} // namespace
-
-namespace {
-
-// The first sheet's texts, a row of texts per row, the repeated rows and cells spelt out (up to 20).
-std::vector<QStringList> TextePrimaFoaie(const QString& fisier) {
-    QDomDocument doc;
-    doc.setContent(DinArhiva(fisier, "content.xml").toUtf8(), true);
-    const QString ns = T("urn:oasis:names:tc:opendocument:xmlns:table:1.0");
-    std::vector<QStringList> r;
-    const QDomNodeList randuri = doc.elementsByTagNameNS(ns, T("table-row"));
-    for (int i = 0; i < randuri.size(); ++i) {
-        QStringList rand;
-        for (QDomElement c = randuri.at(i).firstChildElement(); !c.isNull(); c = c.nextSiblingElement())
-            for (int k = std::min(20, c.attributeNS(ns, T("number-columns-repeated"), T("1")).toInt()); k > 0; --k)
-                rand << c.text();
-        for (int k = std::min(20, randuri.at(i).toElement().attributeNS(ns, T("number-rows-repeated"), T("1")).toInt());
-             k > 0; --k)
-            r.push_back(rand);
-    }
-    return r;
 }
 
 } // namespace
