@@ -3,6 +3,7 @@
 #include <QString>
 #include <QVariant>
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -12,8 +13,8 @@
 // wrap, merged rectangles, the border edges, sizes in pixels and the page set-up.
 namespace Raport {
 
-enum class Orizontal { Stanga, Centru, Dreapta };
-enum class Vertical { Sus, Centru, Jos };
+enum class Orizontal : std::uint8_t { Stanga, Centru, Dreapta };
+enum class Vertical : std::uint8_t { Sus, Centru, Jos };
 
 struct Aliniere {
     Orizontal orizontal = Orizontal::Stanga;
@@ -33,7 +34,7 @@ struct Font {
 };
 
 // The line kinds of the templates' codes: "Thin" 1, "Thick" 2, anything else 0.
-enum class Linie { Nimic = 0, Subtire = 1, Groasa = 2 };
+enum class Linie : std::uint8_t { Nimic = 0, Subtire = 1, Groasa = 2 };
 
 // The eight edges, by the templates' codes.
 enum class Margine {
@@ -53,9 +54,9 @@ FelValoare Felul(const QVariant& valoare);
 
 struct Celula {
     QString text;
-    QVariant valoare;                 // Bani, QDate or qint64 when the text stands for one; none otherwise
-    std::optional<Aliniere> aliniere; // none: the column's
+    QVariant valoare; // Bani, QDate or qint64 when the text stands for one; none otherwise
     Font font;
+    std::optional<Aliniere> aliniere; // none: the column's
     bool incadrare = false; // wrap
     // The lines drawn on the cell's own sides and across it: left, right, top, bottom, the two
     // diagonals (the order of Margine's first four, then 6 and 7).
