@@ -259,16 +259,20 @@ Grila ListaCereri6Luni(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const 
 
 void RecalculAdvCurenta(BazaDate& db) {
     Tranzactie t(db);
-    db.Executa(QStringLiteral("UPDATE Adeverinte SET AdvCurenta = NULL"));
     // Each person's latest certificate of each kind, for person numbers up to the number of
-    // certificates and the kinds the catalogue has; of two alike, the first written.
-    Interogare q(
-        db, QStringLiteral("UPDATE Adeverinte SET AdvCurenta = 1 WHERE AdevID IN (SELECT AdevID FROM (SELECT AdevID, "
-                           "ROW_NUMBER() OVER (PARTITION BY MembruID, TipAdeverinta ORDER BY CASE WHEN DataExpAdev IS "
-                           "NULL THEN 1 ELSE 0 END, DataExpAdev DESC, AdevID) AS Loc FROM Adeverinte WHERE MembruID <= "
-                           "(SELECT COUNT(*) FROM Adeverinte) AND TipAdeverinta >= 1 AND TipAdeverinta <= (SELECT "
-                           "COALESCE(MAX(DataID), 0) FROM DateGen WHERE Tip = 30)) P WHERE Loc = 1)"));
-    q.Executa();
+    // certificates and the kinds the catalogue has; of two alike, the first written. Only the marks
+    // that change are written: month after month most stay as they were.
+    db.Executa(QStringLiteral("CREATE TEMPORARY TABLE AdvCurente (AdevID BIGINT PRIMARY KEY)"));
+    db.Executa(QStringLiteral(
+        "INSERT INTO AdvCurente (AdevID) SELECT AdevID FROM (SELECT AdevID, ROW_NUMBER() OVER (PARTITION BY "
+        "MembruID, TipAdeverinta ORDER BY CASE WHEN DataExpAdev IS NULL THEN 1 ELSE 0 END, DataExpAdev DESC, AdevID) "
+        "AS Loc FROM Adeverinte WHERE MembruID <= (SELECT COUNT(*) FROM Adeverinte) AND TipAdeverinta >= 1 AND "
+        "TipAdeverinta <= (SELECT COALESCE(MAX(DataID), 0) FROM DateGen WHERE Tip = 30)) P WHERE Loc = 1"));
+    db.Executa(QStringLiteral("UPDATE Adeverinte SET AdvCurenta = NULL WHERE AdvCurenta IS NOT NULL AND NOT EXISTS "
+                              "(SELECT 1 FROM AdvCurente X WHERE X.AdevID = Adeverinte.AdevID)"));
+    db.Executa(QStringLiteral("UPDATE Adeverinte SET AdvCurenta = 1 WHERE (AdvCurenta IS NULL OR AdvCurenta <> 1) AND "
+                              "AdevID IN (SELECT AdevID FROM AdvCurente)"));
+    db.Executa(QStringLiteral("DROP TABLE AdvCurente"));
     t.Confirma();
 }
 
