@@ -235,7 +235,7 @@ TEST_P(Anexe, CopieInSablon) {
                                                         {14, "Asf_Anexa4_ Modificari+Incetari+Susp+Reluari.ods", 24}};
     for (const auto& [index, nume, coloane] : cazuri) {
         const Grila g = Construit(index, 3);
-        const QString fisier = CopieAnexaCalc(index, g, mediu, exporturi.path());
+        const QString fisier = Catalog()[size_t(index)].copieCalc(g, mesaje, mediu, exporturi.path());
         EXPECT_EQ(S(fisier), S(QDir(exporturi.path()).filePath(T(nume))));
         const Foaie f = CitesteFoaie(fisier);
         EXPECT_EQ(f.coloane, coloane) << index;

@@ -16,7 +16,6 @@
 #include <QHash>
 #include <algorithm>
 #include <array>
-#include <numeric>
 #include <vector>
 
 namespace Raport {
@@ -270,28 +269,30 @@ QDate DataDin(const QVariant& v) {
     return QDate::fromString(v.toString().left(10), Qt::ISODate);
 }
 
-// Writes a data row's cells straight into the grid: a null field leaves its cell empty.
+// A row as read: the query's fields, by Camp.
+using Valori = std::array<QVariant, cCuantumVechi + 1>;
+
+// Writes a row's cells into the grid: a null field leaves its cell empty.
 class Rand {
 public:
-    Rand(Grila& g, int rand, const Interogare& q) : g_(g), rand_(rand), q_(q) {}
+    Rand(Grila& g, int rand, const Valori& v) : g_(g), rand_(rand), v_(v) {}
 
-    void Text(int col, int camp) { Text(col, q_.Valoare(camp)); }
+    void Text(int col, int camp) { Text(col, v_[size_t(camp)]); }
     void Text(int col, const QVariant& v) {
         if (!v.isNull()) g_.Scrie(rand_, col, v.toString());
     }
     void Intreg(int col, int camp) {
-        const QVariant v = q_.Valoare(camp);
-        if (!v.isNull()) Intreg(col, v.toLongLong());
+        if (!v_[size_t(camp)].isNull()) Intreg(col, v_[size_t(camp)].toLongLong());
     }
     void Intreg(int col, qint64 n) { g_.Scrie(rand_, col, QString::number(n), n); }
-    void Suma(int col, const QVariant& v) {
+    void Suma(int col, int camp) {
+        const QVariant& v = v_[size_t(camp)];
         if (v.isNull()) return;
         const Bani b = Bani::DinVariant(v);
         g_.Scrie(rand_, col, TextSuma(b), QVariant::fromValue(b));
     }
-    void Suma(int col, int camp) { Suma(col, q_.Valoare(camp)); }
     void Data(int col, int camp) {
-        const QDate d = DataDin(q_.Valoare(camp));
+        const QDate d = DataDin(v_[size_t(camp)]);
         if (d.isValid()) g_.Scrie(rand_, col, FormatData(d), d);
     }
     void Marcheaza(int col) { g_.Scrie(rand_, col, QStringLiteral("X")); }
@@ -299,7 +300,7 @@ public:
 private:
     Grila& g_;
     int rand_;
-    const Interogare& q_;
+    const Valori& v_;
 };
 
 // The streets' post office and postal code, found by name as the street editor compares names
@@ -336,7 +337,7 @@ private:
 };
 
 // Columns 17 to 24 by form and kind. The filter lets through only the statuses handled here.
-void ColoaneProprii(Rand& r, const Interogare& q, int fel) {
+void ColoaneProprii(Rand& r, const Valori& v, int fel) {
     if (!EsteAnexa4(fel)) {
         r.Suma(17, cVenit);
         r.Intreg(18, cNrCerere);
@@ -352,14 +353,12 @@ void ColoaneProprii(Rand& r, const Interogare& q, int fel) {
     r.Intreg(17, cNrDisp);
     r.Data(18, cDataDisp);
     r.Data(19, cDataStare);
-    switch (q.Valoare(cStare).toInt()) {
+    switch (v[cStare].toInt()) {
     case 7:
-    case 8: {
-        const QVariant vechi = q.Valoare(cCuantumVechi);
-        if (!vechi.isNull() && Bani::DinVariant(vechi) != Bani()) r.Suma(20, vechi);
+    case 8:
+        if (!v[cCuantumVechi].isNull() && Bani::DinVariant(v[cCuantumVechi]) != Bani()) r.Suma(20, cCuantumVechi);
         r.Suma(21, cCuantumDisp);
         break;
-    }
     case 4:
         r.Marcheaza(22);
         break;
@@ -372,31 +371,10 @@ void ColoaneProprii(Rand& r, const Interogare& q, int fel) {
     }
 }
 
-// What a row needs to be put in its place when house numbers sort by their value.
-struct CheieNr {
-    QString primaOrdine; // the first ordering's values, to find the rows that tie on them
-    double nr = 0;       // the house number's value
-};
-
-QString PrimaOrdine(const Interogare& q, int ord1) {
-    const auto parte = [&](int camp) {
-        const QVariant v = q.Valoare(camp);
-        return v.isNull() ? QStringLiteral("\x01") : QStringLiteral("\x02") + v.toString();
-    };
-    switch (ord1) {
-    case 1:
-        return parte(cNrCerere);
-    case 2:
-        return parte(cNume) + QLatin1Char('\x1f') + parte(cPrenume);
-    case 3:
-        return parte(cStrada);
-    }
-    return {};
-}
-
-// The rows of the month from grid row 21 on, the grid growing with them; returns how many. `chei`
-// (when given) gets each row's keys for the house numbers' order.
-int ScrieRanduri(Grila& g, int fel, BazaDate& db, const Alegeri& a, std::vector<CheieNr>* chei) {
+// The requests of the month, in the chosen order. The rows are kept as read and written into the grid
+// once their number is known, so that the grid is sized once: its cells are many times the size of
+// the values.
+std::vector<Valori> CitesteRanduri(int fel, BazaDate& db, const Alegeri& a) {
     const std::vector<int> stari = Stari(fel);
     QStringList semne;
     for (size_t i = 0; i < stari.size(); ++i)
@@ -419,73 +397,45 @@ int ScrieRanduri(Grila& g, int fel, BazaDate& db, const Alegeri& a, std::vector<
                        "WHERE +C.Stare IN (%1) AND C.DataStare >= ? AND C.DataStare < ?%2")
             .arg(semne.join(QStringLiteral(", ")),
                  ordine.isEmpty() ? QStringLiteral(" ORDER BY C.CerereID") : ordine + QStringLiteral(", C.CerereID"));
-    // Read before the rows: PostgreSQL's connection streams one result at a time.
-    CoduriPostale coduri(db);
     Interogare q(db, sql);
     for (int s : stari)
         q.Leaga(s);
     const QDate inceput(a.an, a.luna, 1);
     q.Leaga(inceput).Leaga(inceput.addMonths(1));
     q.Executa();
-    int rand = PrimulRandDate;
-    for (; q.Urmator(); ++rand) {
-        if (rand >= g.Randuri()) g.SeteazaRanduri(rand + 1);
-        Rand r(g, rand, q);
-        for (const auto& [col, camp] : {std::pair{2, cNume},
-                                        {3, cPrenume},
-                                        {4, cCNP},
-                                        {5, cStrada},
-                                        {6, cNr},
-                                        {7, cBloc},
-                                        {8, cSc},
-                                        {9, cEtaj},
-                                        {10, cAp},
-                                        {12, cLocalitate}})
-            r.Text(col, camp);
-        if (const auto* cod = coduri.Cauta(g.Text(rand, 5))) {
-            r.Text(13, cod->oficiu);
-            r.Text(14, cod->cod);
-        }
-        r.Intreg(15, cNrCopii);
-        // The form's footnote numbers the family kinds the other way round: two parents 2, one parent 1.
-        const QVariant tip = q.Valoare(cTipCerere);
-        if (!tip.isNull() && (tip.toInt() == 1 || tip.toInt() == 2)) r.Intreg(16, qint64(3 - tip.toInt()));
-        ColoaneProprii(r, q, fel);
-        if (chei) chei->push_back({PrimaOrdine(q, a.ord1), Val(g.Text(rand, 6))});
+    std::vector<Valori> randuri;
+    while (q.Urmator()) {
+        Valori& v = randuri.emplace_back();
+        for (size_t i = 0; i < v.size(); ++i)
+            v[i] = q.Valoare(int(i));
     }
-    return rand - PrimulRandDate;
-}
-
-// With "Nr" as the second order the rows come back sorted by the house number as text ("12", "12A",
-// "9"); within each run of rows that tie on the first order they are put in the order of the number's
-// value, the text deciding between equal values ("9", "12", "12A"). Sorting here keeps the engine's
-// own order of the first key.
-void OrdoneazaNumereCasa(Grila& g, const std::vector<CheieNr>& chei) {
-    const int n = int(chei.size());
-    std::vector<int> ordine(static_cast<size_t>(n));
-    std::iota(ordine.begin(), ordine.end(), 0);
-    for (int inceput = 0; inceput < n;) {
-        int sfarsit = inceput + 1;
-        while (sfarsit < n && chei[size_t(sfarsit)].primaOrdine == chei[size_t(inceput)].primaOrdine)
-            ++sfarsit;
-        std::stable_sort(ordine.begin() + inceput, ordine.begin() + sfarsit,
-                         [&](int x, int y) { return chei[size_t(x)].nr < chei[size_t(y)].nr; });
-        inceput = sfarsit;
-    }
-    std::vector<Celula> celule;
-    celule.reserve(size_t(n) * size_t(g.Coloane()));
-    for (int i = 0; i < n; ++i)
-        for (int c = 0; c < g.Coloane(); ++c)
-            celule.push_back(std::move(g.La(PrimulRandDate + ordine[size_t(i)], c)));
-    for (int i = 0; i < n; ++i)
-        for (int c = 0; c < g.Coloane(); ++c)
-            g.La(PrimulRandDate + i, c) = std::move(celule[size_t(i) * size_t(g.Coloane()) + size_t(c)]);
+    return randuri;
 }
 
 bool OrdineNumericaNr(const Alegeri& a) {
     const QStringList prima = ListaOrdonare(false), aDoua = ListaOrdonare(true);
     return a.ord1 > 0 && a.ord1 < prima.size() && a.ord2 > 0 && a.ord2 < aDoua.size() &&
            aDoua[a.ord2] == QLatin1String("Nr");
+}
+
+// With "Nr" as the second order the rows come back sorted by the house number as text ("12", "12A",
+// "9"); within each run of rows that tie on the first order they are put in the order of the number's
+// value, the text deciding between equal values ("9", "12", "12A"). Sorting here keeps the engine's
+// own order of the first key.
+void OrdoneazaNumereCasa(std::vector<Valori>& randuri, int ord1) {
+    const std::vector<int> chei = ord1 == 1   ? std::vector<int>{cNrCerere}
+                                  : ord1 == 2 ? std::vector<int>{cNume, cPrenume}
+                                              : std::vector<int>{cStrada};
+    const auto laFel = [&](const Valori& x, const Valori& y) {
+        return std::all_of(chei.begin(), chei.end(), [&](int c) { return x[size_t(c)] == y[size_t(c)]; });
+    };
+    for (auto inceput = randuri.begin(); inceput != randuri.end();) {
+        const auto sfarsit = std::find_if(inceput, randuri.end(), [&](const Valori& v) { return !laFel(v, *inceput); });
+        std::stable_sort(inceput, sfarsit, [](const Valori& x, const Valori& y) {
+            return Val(x[cNr].toString()) < Val(y[cNr].toString());
+        });
+        inceput = sfarsit;
+    }
 }
 
 Grila Borderou(int fel, BazaDate& db, const Setari& s, const Alegeri& a, bool foaie) {
@@ -498,13 +448,37 @@ Grila Borderou(int fel, BazaDate& db, const Setari& s, const Alegeri& a, bool fo
     CapPagina(g, db, fel, foaie);
     CapTabel(g, fel);
 
-    const bool nrNumeric = !foaie && OrdineNumericaNr(a);
-    std::vector<CheieNr> chei;
-    const int n = ScrieRanduri(g, fel, db, a, nrNumeric ? &chei : nullptr);
-    if (nrNumeric) OrdoneazaNumereCasa(g, chei);
+    CoduriPostale coduri(db);
+    std::vector<Valori> randuri = CitesteRanduri(fel, db, a);
+    if (!foaie && OrdineNumericaNr(a)) OrdoneazaNumereCasa(randuri, a.ord1);
+
+    const int n = int(randuri.size());
     g.SeteazaRanduri(PrimulRandDate + n + 1);
-    for (int i = 0; i < n; ++i)
-        g.Scrie(PrimulRandDate + i, 1, QString::number(i + 1), qint64(i + 1));
+    for (int i = 0; i < n; ++i) {
+        const Valori& v = randuri[size_t(i)];
+        Rand r(g, PrimulRandDate + i, v);
+        r.Intreg(1, qint64(i + 1));
+        for (const auto& [col, camp] : {std::pair{2, cNume},
+                                        {3, cPrenume},
+                                        {4, cCNP},
+                                        {5, cStrada},
+                                        {6, cNr},
+                                        {7, cBloc},
+                                        {8, cSc},
+                                        {9, cEtaj},
+                                        {10, cAp},
+                                        {12, cLocalitate}})
+            r.Text(col, camp);
+        if (const auto* cod = coduri.Cauta(v[cStrada].toString())) {
+            r.Text(13, cod->oficiu);
+            r.Text(14, cod->cod);
+        }
+        r.Intreg(15, cNrCopii);
+        // The form's footnote numbers the family kinds the other way round: two parents 2, one parent 1.
+        const int tip = v[cTipCerere].isNull() ? 0 : v[cTipCerere].toInt();
+        if (tip == 1 || tip == 2) r.Intreg(16, qint64(3 - tip));
+        ColoaneProprii(r, v, fel);
+    }
     if (n > 0) {
         const int ultimRand = PrimulRandDate + n - 1, ultima = UltimaVizibila(fel);
         const Dreptunghi date{PrimulRandDate, 1, ultimRand, ultima};
