@@ -31,17 +31,11 @@ void Grila::redimensioneaza(int randuri, int coloane) {
     if (randuri < 1 || coloane < 1)
         throw Eroare(
             QStringLiteral("Grila are cel putin un rand si o coloana fixe (%1 x %2 cerute)").arg(randuri).arg(coloane));
-    if (coloane == coloane_) {
-        // Rows added or taken at the end leave the others where they are: builders add a row at a time.
-        celule_.resize(size_t(randuri) * size_t(coloane));
-    } else {
-        std::vector<Celula> noi(size_t(randuri) * size_t(coloane));
-        for (int r = 0; r < std::min(randuri, randuri_); ++r)
-            for (int c = 0; c < std::min(coloane, coloane_); ++c)
-                noi[size_t(r) * size_t(coloane) + size_t(c)] =
-                    std::move(celule_[size_t(r) * size_t(coloane_) + size_t(c)]);
-        celule_ = std::move(noi);
-    }
+    // A row of its own each: a row added at the end, as builders add them, moves no cell.
+    const size_t pastrate = coloane == coloane_ ? std::min(size_t(randuri), celule_.size()) : 0;
+    celule_.resize(size_t(randuri));
+    for (size_t r = pastrate; r < celule_.size(); ++r)
+        celule_[r].resize(size_t(coloane));
     randuri_ = randuri;
     coloane_ = coloane;
     inaltimi_.resize(size_t(randuri), 0);
@@ -65,7 +59,7 @@ const Celula& Grila::La(int rand, int col) const {
                          .arg(col)
                          .arg(randuri_)
                          .arg(coloane_));
-    return celule_[size_t(rand) * size_t(coloane_) + size_t(col)];
+    return celule_[size_t(rand)][size_t(col)];
 }
 
 Celula& Grila::La(int rand, int col) {

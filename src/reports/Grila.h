@@ -147,7 +147,7 @@ private:
     void redimensioneaza(int randuri, int coloane);
 
     int randuri_ = 0, coloane_ = 0;
-    std::vector<Celula> celule_; // by row
+    std::vector<std::vector<Celula>> celule_; // by row
     std::vector<Dreptunghi> uniri_;
     std::vector<int> inaltimi_, latimi_; // 0: the default
     std::vector<std::optional<Aliniere>> aliniereColoane_;

@@ -224,11 +224,15 @@ Interogare& Interogare::Executa() {
     legate_ = 0;
     if (!ok) throw Eroare(QStringLiteral("%1\n[%2]").arg(textEroare(q_.lastError()), sql_));
     rec_ = q_.record();
+    indici_.clear();
     return *this;
 }
 
 QVariant Interogare::Valoare(const QString& camp) const {
-    const int i = rec_.indexOf(camp);
+    // A field is looked up once per result, not at every row.
+    auto gasit = indici_.constFind(camp);
+    if (gasit == indici_.cend()) gasit = indici_.insert(camp, rec_.indexOf(camp));
+    const int i = *gasit;
     if (i < 0) throw Eroare(QStringLiteral("Exceptie: campul %1 lipseste din rezultatul [%2]").arg(camp, sql_));
     return q_.value(i);
 }

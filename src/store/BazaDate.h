@@ -5,6 +5,7 @@
 
 #include <QDate>
 #include <QSqlDatabase>
+#include <QHash>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QString>
@@ -158,6 +159,7 @@ private:
     QSqlQuery q_;
     QString sql_;
     QSqlRecord rec_;
+    mutable QHash<QString, int> indici_;
     int legate_ = 0;
 };
 
