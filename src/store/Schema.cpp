@@ -275,6 +275,8 @@ std::vector<IndexSchema> construiesteIndexuri() {
         ix("Cereri", {"Cuantum", "CerereID"}),
         ix("Cereri", {"NrMembrii", "CerereID"}),
         ix("Cereri", {"NrCopii", "CerereID"}),
+        // The agency's monthly tables and the Borderou pick the requests whose status changed in a month.
+        ix("Cereri", {"DataStare", "CerereID"}),
         // A search by the titular reads its rows and their order by number from one index.
         prefix("Cereri", {"TitularNume", "NrCerere"}),
         prefix("Cereri", {"TitularPrenume", "NrCerere"}),
