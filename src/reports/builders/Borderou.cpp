@@ -7,6 +7,7 @@
 #include "base/Texte.h"
 #include "reference/DateReferinta.h"
 #include "reports/Catalog.h"
+#include "reports/Rapoarte.h"
 #include "reports/builders/ComunListe.h"
 #include "reports/export/Ods.h"
 #include "reports/export/Xlsx.h"
@@ -63,10 +64,8 @@ QString CampOrdonare(int ord) {
 }
 
 // The numbers the spreadsheet takes as numbers; a missing one stays an empty cell.
-void Intreg(const QVariant& v, QString& text, QVariant& valoare) {
-    if (v.isNull()) return;
-    valoare = v.toLongLong();
-    text = QString::number(valoare.toLongLong());
+void Intreg(Grila& g, int rand, int col, const QVariant& v) {
+    if (!v.isNull()) g.Scrie(rand, col, QString::number(v.toLongLong()), v.toLongLong());
 }
 
 QDate Data(const QVariant& v) {
@@ -155,36 +154,35 @@ Grila Borderou(BazaDate& db, Mesaje& m, const Setari& s, const AlegeriBorderou& 
     if (a.tipAloc != 0) q.Leaga(a.tipAloc);
     q.Executa();
 
+    // The grid grows by many rows at a time and is cut to its rows at the end: grown a row at a time,
+    // its cells would be moved over and over.
+    constexpr int Pas = 4096;
+    const int primul = g.Randuri(), ultimaColoana = int(Coloane.size());
+    int rand = primul;
     const QString strada = QStringLiteral("str.");
     Bani total;
-    qint64 nr = 0;
-    QStringList texte;
-    std::vector<QVariant> valori(Coloane.size());
     while (q.Urmator()) {
+        if (rand == g.Randuri()) g.SeteazaRanduri(rand + Pas);
         const auto text = [&](int i) { return q.Valoare(i).toString(); };
-        texte.clear();
-        std::fill(valori.begin(), valori.end(), QVariant());
-        ++nr;
-        valori[0] = nr;
-        texte << QString::number(nr);
-        texte << text(0) + QStringLiteral(" / ") + FormatData(Data(q.Valoare(1)));
-        texte << text(2) + QLatin1Char(' ') + text(3);
-        texte << text(4);
-        texte << AdresaRaport(text(5), strada, text(6), text(7), text(8), text(9));
-        texte << (q.Valoare(10).toBool() ? QStringLiteral("DA") : QStringLiteral("NU"));
-        QString membri, copii, suma;
-        Intreg(q.Valoare(11), membri, valori[6]);
-        Intreg(q.Valoare(12), copii, valori[7]);
+        const qint64 nr = rand - primul + 1;
+        g.Scrie(rand, 1, QString::number(nr), nr);
+        g.Scrie(rand, 2, text(0) + QStringLiteral(" / ") + FormatData(Data(q.Valoare(1))));
+        g.Scrie(rand, 3, text(2) + QLatin1Char(' ') + text(3));
+        g.Scrie(rand, 4, text(4));
+        g.Scrie(rand, 5, AdresaRaport(text(5), strada, text(6), text(7), text(8), text(9)));
+        g.Scrie(rand, 6, q.Valoare(10).toBool() ? QStringLiteral("DA") : QStringLiteral("NU"));
+        Intreg(g, rand, 7, q.Valoare(11));
+        Intreg(g, rand, 8, q.Valoare(12));
         if (!q.Valoare(13).isNull()) {
             const Bani cuantum = Bani::DinVariant(q.Valoare(13));
             total += cuantum;
-            suma = TextSuma(cuantum);
-            valori[8] = QVariant::fromValue(cuantum);
+            g.Scrie(rand, ColoanaSuma, TextSuma(cuantum), QVariant::fromValue(cuantum));
         }
-        texte << membri << copii << suma;
-        lista.Rand(texte, valori);
+        g.Bordura({rand, 1, rand, ultimaColoana}, Margine::Jos, Linie::Subtire);
+        ++rand;
     }
-    lista.LinieGroasa();
+    g.SeteazaRanduri(rand);
+    if (rand > primul) g.Bordura({rand - 1, 1, rand - 1, ultimaColoana}, Margine::Jos, Linie::Groasa);
 
     QStringList randTotal;
     std::vector<QVariant> valoareTotal(Coloane.size());
@@ -214,11 +212,9 @@ QString ExportaBorderou(BazaDate& db, Mesaje& m, const Setari& s, const AlegeriB
 }
 
 std::optional<AntetBorderou> DeschideBorderou(BazaDate& db, Mesaje& m) {
+    if (!VerificaPrimaria(db, m)) return std::nullopt;
     const auto rand = DateReferinta::CitesteRandPrimarie(db);
-    if (!rand) {
-        m.Informatie(QStringLiteral("Introduceti mai intai datele primariei si abia apoi continuati!"));
-        return std::nullopt;
-    }
+    if (!rand) return std::nullopt;
     return AntetBorderou{rand->Text("CodFiscal"), rand->Text("AsSocial")};
 }
 
