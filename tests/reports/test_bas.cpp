@@ -47,7 +47,11 @@ TEST_P(Bas, FormulareleCompletate) {
         {9, 3, 1, {2018, 3, 1}, "ENE", "Ilfov", "Viilor", ""}};
     // clang-format on
     for (const auto& [id, stare, tip, dataStare, nume, judet, strada, bloc] : cereri) {
-        CerereTest c{id, 0, 100 + id, stare, tip};
+        CerereTest c;
+        c.cerereID = id;
+        c.nrCerere = 100 + id;
+        c.stare = stare;
+        c.tipCerere = tip;
         c.persoane = {{id * 10, T(nume), T("ION"), T("18503124100") + QString::number(id * 11), 1}};
         if (id == 1)
             for (int rudenie : {2, 3, 5})

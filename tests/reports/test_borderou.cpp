@@ -56,7 +56,12 @@ TEST_P(Borderou, RapoarteAlocatiiSiOrdine) {
         {6, 6, 105, 1, 1, "BALAN", nul, nul, 1, 246, QDate(2014, 11, 3)}};
     // clang-format on
     for (const auto& [id, familie, nr, stare, tip, nume, strada, sc, lege416, cuantum, data] : cereri) {
-        CerereTest c{id, familie, nr, stare, tip};
+        CerereTest c;
+        c.cerereID = id;
+        c.familieID = familie;
+        c.nrCerere = nr;
+        c.stare = stare;
+        c.tipCerere = tip;
         c.persoane = {{id * 10, T(nume), T("ION"), T("18503124100") + QString::number(id * 11), 1}};
         AdaugaCerereTest(db, c);
         ExecutaCu(db, T("UPDATE Familii SET Strada = ?, Sc = ?, Ap = ? WHERE FamilieID = ?"), strada, sc,

@@ -47,6 +47,14 @@ Lista::Lista(Grila& g, const std::vector<ColoanaLista>& coloane, const PrimarieR
     g_.Scrie(4, 1, titluPropriu ? titlu : QStringLiteral("LISTA"));
     if (!titluPropriu) g_.Scrie(5, 1, titlu);
     g_.Scrie(6, 1, QStringLiteral("Luna %1 anul %2").arg(LuniAn().value(luna - 1)).arg(an));
+    // The head's lines run over the first columns, which alone are too narrow for them.
+    const int latime = std::min(4, coloane_);
+    for (int r : {1, 2, 3}) {
+        g_.Uneste({r, 1, r, latime});
+        g_.Aliniaza({r, 1, r, latime}, {Orizontal::Stanga, Vertical::Centru});
+    }
+    g_.Uneste({6, 1, 6, coloane_});
+    g_.Aliniaza({6, 1, 6, coloane_}, {Orizontal::Centru, Vertical::Centru});
     const Font titluri{QString(), 0, true, {}, {}};
     for (int r : {4, 5}) {
         g_.Uneste({r, 1, r, coloane_});
