@@ -6,6 +6,7 @@ PACHETE=(
     qt6-base-dev libqt6sql6-sqlite libqt6sql6-psql libgl-dev
     libsimpleini-dev libsodium-dev libsqlite3-dev libpq-dev
     libxlsxwriter-dev libzip-dev
+    fonts-liberation2
     libgtest-dev libgmock-dev libbenchmark-dev
     postgresql sqlite3 xvfb xauth
     chromium chromium-driver

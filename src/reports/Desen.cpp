@@ -108,7 +108,24 @@ void DeseneazaPagina(QPainter& p, const Grila& g, int primul, int ultimul, doubl
                 p.setFont(font);
                 int fanioane = AliniereQt(g.AliniereCelula(rc, cc));
                 if (celula.incadrare) fanioane |= Qt::TextWordWrap;
-                p.drawText(zona.adjusted(Spatiu, Spatiu, -Spatiu, -Spatiu), fanioane, celula.text);
+                QRectF loc = zona;
+                // A line too long for its cell runs on over the empty cells beside it, as a spreadsheet
+                // shows it, towards where its alignment leaves room; a total is never cut.
+                if (!celula.incadrare && !u) {
+                    const double lipsa = p.fontMetrics().horizontalAdvance(celula.text) + 2 * Spatiu - zona.width();
+                    const Orizontal o = g.AliniereCelula(rc, cc).orizontal;
+                    const auto gol = [&](int col) {
+                        return col >= 1 && col < g.Coloane() && g.Text(r, col).isEmpty() && !g.UnireLa(r, col);
+                    };
+                    for (int st = c - 1, dr = c + 1; lipsa > 0 && loc.width() - zona.width() < lipsa;) {
+                        const bool spreStanga = o != Orizontal::Stanga && gol(st);
+                        const bool spreDreapta = o != Orizontal::Dreapta && gol(dr);
+                        if (!spreStanga && !spreDreapta) break;
+                        if (spreStanga) loc.setLeft(x[size_t(st--)]);
+                        if (spreDreapta) loc.setRight(x[size_t(dr++) + 1]);
+                    }
+                }
+                p.drawText(loc.adjusted(Spatiu, Spatiu, -Spatiu, -Spatiu), fanioane, celula.text);
             }
         }
 
