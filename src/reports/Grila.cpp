@@ -227,18 +227,28 @@ QString Grila::CheieAspect(int rand, int col) const {
     const Celula& c = La(rand, col);
     const Font f = FontCelula(rand, col);
     const Aliniere a = AliniereCelula(rand, col);
-    QString cheie = QStringLiteral("%1|%2|%3%8%9|%4|%5|%6|%7|")
-                        .arg(f.nume)
-                        .arg(f.marime)
-                        .arg(int(f.Bold()))
-                        .arg(int(a.orizontal))
-                        .arg(int(a.vertical))
-                        .arg(int(c.incadrare))
-                        .arg(int(Felul(c.valoare)))
-                        .arg(int(f.Italic()))
-                        .arg(int(f.Subliniat()));
-    for (Linie l : c.linii)
-        cheie += QString::number(int(l));
+    // Asked for every cell of a large export: built by hand rather than by formatting.
+    const auto cifra = [](int n) { return char('0' + n); };
+    const char semne[] = {'|',
+                          cifra(f.Bold()),
+                          cifra(f.Italic()),
+                          cifra(f.Subliniat()),
+                          cifra(int(a.orizontal)),
+                          cifra(int(a.vertical)),
+                          cifra(c.incadrare),
+                          cifra(int(Felul(c.valoare))),
+                          cifra(int(c.linii[0])),
+                          cifra(int(c.linii[1])),
+                          cifra(int(c.linii[2])),
+                          cifra(int(c.linii[3])),
+                          cifra(int(c.linii[4])),
+                          cifra(int(c.linii[5]))};
+    QString cheie;
+    cheie.reserve(f.nume.size() + 24);
+    cheie += f.nume;
+    cheie += QLatin1Char('|');
+    cheie += QString::number(f.marime);
+    cheie += QLatin1String(semne, qsizetype(sizeof semne));
     return cheie;
 }
 
