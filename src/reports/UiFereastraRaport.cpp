@@ -95,18 +95,22 @@ QGridLayout* UiFereastraRaport::ControaleAlegeri(QWidget* parinte, int nrIntrari
     pagina->addWidget(cboPrinter, 1);
     sus->addLayout(pagina, 3, 0, 1, 4);
 
+    ButoaneComune(parinte);
+    connect(cboTipRaport, &QComboBox::currentIndexChanged, this, [this] { cboTipRaport_Click(); });
+    return sus;
+}
+
+void UiFereastraRaport::ButoaneComune(QWidget* parinte) {
     cmdOK = Buton(parinte, "cmdOK", QStringLiteral("OK"));
     cmdPreview = Buton(parinte, "cmdPreview", QStringLiteral("Previzualizare"));
     cmdPrint = Buton(parinte, "cmdPrint", QStringLiteral("Tipareste"));
     cmdPrintPage = Buton(parinte, "cmdPrintPage", QStringLiteral("Tipareste pagina"));
     cmdExport = Buton(parinte, "cmdExport", QStringLiteral("Export"));
     cmdClose = Buton(parinte, "cmdClose", QStringLiteral("Inchide"));
-    connect(cboTipRaport, &QComboBox::currentIndexChanged, this, [this] { cboTipRaport_Click(); });
     connect(cmdPreview, &QPushButton::clicked, this, &UiFereastraRaport::cmdPreview_Click);
     connect(cmdPrint, &QPushButton::clicked, this, &UiFereastraRaport::cmdPrint_Click);
     connect(cmdPrintPage, &QPushButton::clicked, this, &UiFereastraRaport::cmdPrintPage_Click);
     connect(cmdClose, &QPushButton::clicked, this, &QDialog::reject);
-    return sus;
 }
 
 void UiFereastraRaport::cboTipRaport_Click() {

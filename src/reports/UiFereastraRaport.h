@@ -51,6 +51,8 @@ protected:
     // buttons made, for it to place.
     QGridLayout* ControaleAlegeri(QWidget* parinte, int nrIntrari);
     QPushButton* Buton(QWidget* parinte, const char* nume, const QString& text);
+    // OK, preview, print, print page, export and close; the last four wired here.
+    void ButoaneComune(QWidget* parinte);
     // The printers, the current one chosen: for a window whose page is fixed, the only page control.
     QComboBox* ListaImprimante(QWidget* parinte);
     // The filters that the chosen entry uses are shown.

@@ -74,13 +74,8 @@ frmBorderou::frmBorderou(Program& p, Mesaje& m, QWidget* parinte) : UiFereastraR
     sus->addWidget(ListaImprimante(picSus), 2, 1, 1, 3);
     sus->setColumnStretch(5, 1);
 
-    cmdOK = Buton(picSus, "cmdOK", QStringLiteral("OK"));
-    cmdPreview = Buton(picSus, "cmdPreview", QStringLiteral("Previzualizare"));
-    cmdPrint = Buton(picSus, "cmdPrint", QStringLiteral("Tipareste"));
-    cmdPrintPage = Buton(picSus, "cmdPrintPage", QStringLiteral("Tipareste pagina"));
-    cmdExport = Buton(picSus, "cmdExport", QStringLiteral("Export"));
+    ButoaneComune(picSus);
     cmdExportGrid = Buton(picSus, "cmdExportGrid", QStringLiteral("Salveaza grila"));
-    cmdClose = Buton(picSus, "cmdClose", QStringLiteral("Inchide"));
     auto* butoane = new QHBoxLayout;
     for (QPushButton* b : {cmdOK, cmdPreview, cmdPrint, cmdPrintPage, cmdExport, cmdExportGrid, cmdClose})
         butoane->addWidget(b);
@@ -90,12 +85,8 @@ frmBorderou::frmBorderou(Program& p, Mesaje& m, QWidget* parinte) : UiFereastraR
     asezare->addWidget(Grid, 1);
 
     connect(cmdOK, &QPushButton::clicked, this, &frmBorderou::cmdOK_Click);
-    connect(cmdPreview, &QPushButton::clicked, this, &UiFereastraRaport::cmdPreview_Click);
-    connect(cmdPrint, &QPushButton::clicked, this, &UiFereastraRaport::cmdPrint_Click);
-    connect(cmdPrintPage, &QPushButton::clicked, this, &UiFereastraRaport::cmdPrintPage_Click);
     connect(cmdExport, &QPushButton::clicked, this, &frmBorderou::cmdExport_Click);
     connect(cmdExportGrid, &QPushButton::clicked, this, &frmBorderou::cmdExportGrid_Click);
-    connect(cmdClose, &QPushButton::clicked, this, &QDialog::reject);
 
     LaMargine(m_, [&] {
         const std::optional<AntetBorderou> antet = DeschideBorderou(p_.bd, m_);

@@ -89,17 +89,14 @@ void RandCerere(Lista& l, const Interogare& q, const QString& nume, const QStrin
     l.Rand(t, v);
 }
 
-// A list of children of the working month's requests by a condition on the member: the common
-// join of family, request, member and person.
-Grila ListaCopii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a, const QString& titlu,
-                 const QString& conditie, const QVariantList& valori) {
+// A list of one row per record of the family, request and person joined as `tabele` and `conditie`
+// say: counter, dossier, number and date, the person's name and code, children.
+Grila ListaSimpla(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a, const QString& titlu,
+                  const QString& tabele, const QString& conditie, const QString& chei, const QVariantList& valori) {
     Grila g = Incepe(mediu);
     Lista l(g, ColoaneCopii, CitestePrimariaRaport(db, m), titlu, false, a.luna, a.an);
-    Interogare q(db, QStringLiteral("SELECT ") + CampuriCerere +
-                         QStringLiteral(", M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, CereriMembrii CM, "
-                                        "Membrii M WHERE F.FamilieID = C.FamilieID AND C.CerereID = CM.CerereID AND "
-                                        "CM.MembruID = M.MembruID AND ") +
-                         conditie + Ordine(a, QStringLiteral("C.CerereID, CM.MembruID")));
+    Interogare q(db, QStringLiteral("SELECT ") + CampuriCerere + QStringLiteral(", M.Nume, M.Prenume, M.CNP FROM ") +
+                         tabele + QStringLiteral(" WHERE ") + conditie + Ordine(a, chei));
     for (const QVariant& v : valori)
         q.Leaga(v);
     q.Executa();
@@ -107,6 +104,16 @@ Grila ListaCopii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Aleger
         RandCerere(l, q, NumePrenume(q), Text(q, "CNP"), nullptr);
     l.Incheie();
     return g;
+}
+
+// The children's lists: the common join of family, request, member and person.
+Grila ListaCopii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a, const QString& titlu,
+                 const QString& conditie, const QVariantList& valori) {
+    return ListaSimpla(db, m, mediu, a, titlu, QStringLiteral("Familii F, Cereri C, CereriMembrii CM, Membrii M"),
+                       QStringLiteral("F.FamilieID = C.FamilieID AND C.CerereID = CM.CerereID AND CM.MembruID = "
+                                      "M.MembruID AND ") +
+                           conditie,
+                       QStringLiteral("C.CerereID, CM.MembruID"), valori);
 }
 
 QString TextData(const Interogare& q, const char* camp) {
@@ -240,21 +247,12 @@ Grila ListaCereri6Luni(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const 
         conditie = QStringLiteral("C.DataCerere >= ? AND C.DataCerere < ?");
         valori = {PrimaZi(an, luna), PrimaZi(an, luna).addMonths(1)};
     }
-    Grila g = Incepe(mediu);
-    Lista l(g, ColoaneCopii, CitestePrimariaRaport(db, m), QStringLiteral("cererilor care implinesc 6 luni "), false,
-            a.luna, a.an);
-    Interogare q(db, QStringLiteral("SELECT ") + CampuriCerere +
-                         QStringLiteral(", M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, Membrii M WHERE "
-                                        "F.FamilieID = C.FamilieID AND C.MembruID1 = M.MembruID AND "
-                                        "C.Stare IN (1, 2, 6, 7, 8) AND ") +
-                         conditie + Ordine(a, QStringLiteral("C.CerereID")));
-    for (const QVariant& v : valori)
-        q.Leaga(v);
-    q.Executa();
-    while (q.Urmator())
-        RandCerere(l, q, NumePrenume(q), Text(q, "CNP"), nullptr);
-    l.Incheie();
-    return g;
+    return ListaSimpla(db, m, mediu, a, QStringLiteral("cererilor care implinesc 6 luni "),
+                       QStringLiteral("Familii F, Cereri C, Membrii M"),
+                       QStringLiteral("F.FamilieID = C.FamilieID AND C.MembruID1 = M.MembruID AND "
+                                      "C.Stare IN (1, 2, 6, 7, 8) AND ") +
+                           conditie,
+                       QStringLiteral("C.CerereID"), valori);
 }
 
 void RecalculAdvCurenta(BazaDate& db) {
