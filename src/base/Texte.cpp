@@ -47,7 +47,16 @@ QString Doua(int n) {
 }
 
 QString FormatData(const QDate& data) {
-    return data.isValid() ? data.toString(QStringLiteral("dd.MM.yyyy")) : QString();
+    if (!data.isValid()) return {};
+    int z = 0, l = 0, a = 0;
+    data.getDate(&a, &l, &z);
+    // Lists of a million rows format as many dates: digits by hand rather than through the locale.
+    if (a < 1 || a > 9999) return data.toString(QStringLiteral("dd.MM.yyyy"));
+    const char16_t t[10] = {char16_t(u'0' + z / 10), char16_t(u'0' + z % 10), u'.',
+                            char16_t(u'0' + l / 10), char16_t(u'0' + l % 10), u'.',
+                            char16_t(u'0' + a / 1000), char16_t(u'0' + a / 100 % 10),
+                            char16_t(u'0' + a / 10 % 10), char16_t(u'0' + a % 10)};
+    return QString(reinterpret_cast<const QChar*>(t), 10);
 }
 
 QString CheieCautare(const QString& text) {

@@ -23,6 +23,12 @@ FelValoare Felul(const QVariant& v) {
     return FelValoare::Text;
 }
 
+namespace {
+// Characters of a text block; a longer text gets a block of its own.
+constexpr std::size_t MarimeBloc = std::size_t(1) << 20;
+constexpr std::size_t MaximBlocuri = std::size_t(1) << 12;
+} // namespace
+
 Grila::Grila(int randuri, int coloane) {
     redimensioneaza(randuri, coloane);
 }
@@ -31,17 +37,30 @@ void Grila::redimensioneaza(int randuri, int coloane) {
     if (randuri < 1 || coloane < 1)
         throw Eroare(
             QStringLiteral("Grila are cel putin un rand si o coloana fixe (%1 x %2 cerute)").arg(randuri).arg(coloane));
-    // A row of its own each: a row added at the end, as builders add them, moves no cell.
-    const size_t pastrate = coloane == coloane_ ? std::min(size_t(randuri), celule_.size()) : 0;
-    celule_.resize(size_t(randuri));
-    for (size_t r = pastrate; r < celule_.size(); ++r)
-        celule_[r].resize(size_t(coloane));
+    constexpr size_t PeBloc = size_t(1) << BitiBloc;
+    const size_t blocuri = (size_t(randuri) + PeBloc - 1) >> BitiBloc;
+    if (coloane != coloane_) {
+        std::vector<std::vector<Loc>> noi(blocuri, std::vector<Loc>(PeBloc * size_t(coloane)));
+        for (int r = 0; r < std::min(randuri, randuri_); ++r)
+            std::copy_n(&loc(r, 0), std::min(coloane, coloane_),
+                        noi[size_t(r) >> BitiBloc].begin() + std::ptrdiff_t((size_t(r) & (PeBloc - 1)) * size_t(coloane)));
+        blocuri_ = std::move(noi);
+    } else {
+        // Rows given up are emptied, so that they come back empty if the grid grows again.
+        for (int r = randuri; r < randuri_ && (size_t(r) >> BitiBloc) < blocuri; ++r)
+            std::fill_n(&loc(r, 0), coloane_, Loc{});
+        blocuri_.resize(blocuri);
+        for (auto& b : blocuri_)
+            if (b.empty()) b.resize(PeBloc * size_t(coloane));
+    }
+    const bool micsorata = randuri < randuri_ || coloane < coloane_;
     randuri_ = randuri;
     coloane_ = coloane;
     inaltimi_.resize(size_t(randuri), 0);
     latimi_.resize(size_t(coloane), 0);
     aliniereColoane_.resize(size_t(coloane));
-    std::erase_if(uniri_, [&](const Dreptunghi& d) { return d.rand2 >= randuri || d.col2 >= coloane; });
+    if (micsorata)
+        std::erase_if(uniri_, [&](const Dreptunghi& d) { return d.rand2 >= randuri || d.col2 >= coloane; });
 }
 
 void Grila::SeteazaRanduri(int n) {
@@ -52,18 +71,76 @@ void Grila::SeteazaColoane(int n) {
     redimensioneaza(randuri_, n);
 }
 
-const Celula& Grila::La(int rand, int col) const {
+const Grila::Loc& Grila::loc(int rand, int col) const {
     if (rand < 0 || rand >= randuri_ || col < 0 || col >= coloane_)
         throw Eroare(QStringLiteral("Celula (%1, %2) este in afara grilei de %3 x %4")
                          .arg(rand)
                          .arg(col)
                          .arg(randuri_)
                          .arg(coloane_));
-    return celule_[size_t(rand)][size_t(col)];
+    return blocuri_[size_t(rand) >> BitiBloc][(size_t(rand) & ((size_t(1) << BitiBloc) - 1)) * size_t(coloane_) +
+                                             size_t(col)];
 }
 
-Celula& Grila::La(int rand, int col) {
-    return const_cast<Celula&>(std::as_const(*this).La(rand, col));
+QStringView Grila::TextVedere(int rand, int col) const {
+    const Loc& l = loc(rand, col);
+    if (l.lungime == 0) return {};
+    return QStringView(texte_[l.text >> 20].data() + (l.text & (MarimeBloc - 1)), qsizetype(l.lungime));
+}
+
+void Grila::scrieText(Loc& l, QStringView text) {
+    l.lungime = uint32_t(text.size());
+    l.text = 0;
+    if (text.isEmpty()) return;
+    const size_t n = size_t(text.size());
+    size_t bloc = blocCurent_;
+    if (n > MarimeBloc || texte_.empty() || texte_[bloc].size() + n > MarimeBloc) {
+        if (texte_.size() >= MaximBlocuri) throw Eroare(QStringLiteral("Grila nu mai poate primi texte."));
+        texte_.emplace_back().reserve(std::max(n, MarimeBloc));
+        bloc = texte_.size() - 1;
+        if (n <= MarimeBloc) blocCurent_ = bloc;
+    }
+    std::vector<char16_t>& t = texte_[bloc];
+    l.text = uint32_t(bloc << 20 | t.size());
+    t.insert(t.end(), text.utf16(), text.utf16() + n);
+}
+
+QVariant Grila::Valoare(int rand, int col) const {
+    const Loc& l = loc(rand, col);
+    switch (l.fel) {
+    case FelValoare::Suma:
+        return QVariant::fromValue(Bani::DinUnitati(l.valoare));
+    case FelValoare::Data:
+        return QDate::fromJulianDay(l.valoare);
+    case FelValoare::Intreg:
+        return qint64(l.valoare);
+    case FelValoare::Text:
+        break;
+    }
+    return {};
+}
+
+bool Grila::EsteGoala(int rand, int col) const {
+    const Loc& l = loc(rand, col);
+    return l.lungime == 0 && l.fel == FelValoare::Text && l.aspect == 0;
+}
+
+Celula Grila::La(int rand, int col) const {
+    const Aspect& a = AspectLa(rand, col);
+    return {Text(rand, col), Valoare(rand, col), a.font, a.aliniere, a.incadrare, a.linii};
+}
+
+void Grila::Seteaza(int rand, int col, const Celula& c) {
+    Scrie(rand, col, c.text, c.valoare);
+    loc(rand, col).aspect = numarAspect({c.font, c.aliniere, c.incadrare, c.linii});
+}
+
+std::uint16_t Grila::numarAspect(const Aspect& a) {
+    const auto gasit = std::find(aspecte_.begin(), aspecte_.end(), a);
+    if (gasit != aspecte_.end()) return std::uint16_t(gasit - aspecte_.begin());
+    if (aspecte_.size() > 0xFFFF) throw Eroare(QStringLiteral("Grila are prea multe formate diferite."));
+    aspecte_.push_back(a);
+    return std::uint16_t(aspecte_.size() - 1);
 }
 
 void Grila::Scrie(int rand, int col, const QString& text) {
@@ -71,9 +148,23 @@ void Grila::Scrie(int rand, int col, const QString& text) {
 }
 
 void Grila::Scrie(int rand, int col, const QString& text, const QVariant& valoare) {
-    Celula& c = La(rand, col);
-    c.text = text;
-    c.valoare = valoare;
+    Loc& l = loc(rand, col);
+    scrieText(l, text);
+    l.fel = Felul(valoare);
+    switch (l.fel) {
+    case FelValoare::Suma:
+        l.valoare = valoare.value<Bani>().Unitati();
+        break;
+    case FelValoare::Data:
+        l.valoare = valoare.toDate().toJulianDay();
+        break;
+    case FelValoare::Intreg:
+        l.valoare = valoare.toLongLong();
+        break;
+    case FelValoare::Text:
+        l.valoare = 0;
+        break;
+    }
 }
 
 void Grila::AdaugaRand(const QString& campuri) {
@@ -86,8 +177,8 @@ void Grila::AdaugaRand(const QString& campuri) {
 Dreptunghi Grila::normal(const Dreptunghi& d) const {
     Dreptunghi n{std::min(d.rand1, d.rand2), std::min(d.col1, d.col2), std::max(d.rand1, d.rand2),
                  std::max(d.col1, d.col2)};
-    La(n.rand1, n.col1);
-    La(n.rand2, n.col2);
+    loc(n.rand1, n.col1);
+    loc(n.rand2, n.col2);
     return n;
 }
 
@@ -106,110 +197,106 @@ std::optional<Dreptunghi> Grila::UnireLa(int rand, int col) const {
 
 void Grila::Bordura(const Dreptunghi& d, Margine m, Linie l) {
     const Dreptunghi n = normal(d);
-    const auto linie = [&](int r, int c, int latura) { La(r, c).linii[size_t(latura)] = l; };
-    for (int r = n.rand1; r <= n.rand2; ++r)
-        for (int c = n.col1; c <= n.col2; ++c) {
-            switch (m) {
-            case Margine::Stanga:
-                if (c == n.col1) linie(r, c, 0);
-                break;
-            case Margine::Dreapta:
-                if (c == n.col2) linie(r, c, 1);
-                break;
-            case Margine::Sus:
-                if (r == n.rand1) linie(r, c, 2);
-                break;
-            case Margine::Jos:
-                if (r == n.rand2) linie(r, c, 3);
-                break;
-            case Margine::InteriorVertical:
-                if (c < n.col2) linie(r, c, 1);
-                break;
-            case Margine::InteriorOrizontal:
-                if (r < n.rand2) linie(r, c, 3);
-                break;
-            case Margine::DiagonalaSus:
-                linie(r, c, 4);
-                break;
-            case Margine::DiagonalaJos:
-                linie(r, c, 5);
-                break;
-            }
-        }
-}
-
-template <typename F> void Grila::fiecare(const Dreptunghi& d, F&& f) {
-    const Dreptunghi n = normal(d);
-    for (int r = n.rand1; r <= n.rand2; ++r)
-        for (int c = n.col1; c <= n.col2; ++c)
-            f(La(r, c));
+    // Each edge touches one side (or the diagonal) of some cells of the rectangle.
+    const auto latura = [&](const Dreptunghi& z, int i) {
+        ModificaAspect(z, [&](Aspect& a) { a.linii[size_t(i)] = l; });
+    };
+    switch (m) {
+    case Margine::Stanga:
+        latura({n.rand1, n.col1, n.rand2, n.col1}, 0);
+        break;
+    case Margine::Dreapta:
+        latura({n.rand1, n.col2, n.rand2, n.col2}, 1);
+        break;
+    case Margine::Sus:
+        latura({n.rand1, n.col1, n.rand1, n.col2}, 2);
+        break;
+    case Margine::Jos:
+        latura({n.rand2, n.col1, n.rand2, n.col2}, 3);
+        break;
+    case Margine::InteriorVertical:
+        if (n.col2 > n.col1) latura({n.rand1, n.col1, n.rand2, n.col2 - 1}, 1);
+        break;
+    case Margine::InteriorOrizontal:
+        if (n.rand2 > n.rand1) latura({n.rand1, n.col1, n.rand2 - 1, n.col2}, 3);
+        break;
+    case Margine::DiagonalaSus:
+        latura(n, 4);
+        break;
+    case Margine::DiagonalaJos:
+        latura(n, 5);
+        break;
+    }
 }
 
 void Grila::Aliniaza(const Dreptunghi& d, Aliniere a) {
-    fiecare(d, [&](Celula& c) { c.aliniere = a; });
+    ModificaAspect(d, [&](Aspect& x) { x.aliniere = a; });
 }
 
 void Grila::SeteazaFont(const Dreptunghi& d, const Font& f) {
-    fiecare(d, [&](Celula& c) { c.font = f; });
+    ModificaAspect(d, [&](Aspect& x) { x.font = f; });
 }
 
 void Grila::Incadreaza(const Dreptunghi& d, bool da) {
-    fiecare(d, [&](Celula& c) { c.incadrare = da; });
+    ModificaAspect(d, [&](Aspect& x) { x.incadrare = da; });
 }
 
 void Grila::Goleste(const Dreptunghi& d) {
-    fiecare(d, [](Celula& c) { c = Celula{}; });
     const Dreptunghi n = normal(d);
+    for (int r = n.rand1; r <= n.rand2; ++r)
+        for (int c = n.col1; c <= n.col2; ++c)
+            loc(r, c) = Loc{};
     std::erase_if(uniri_, [&](const Dreptunghi& u) { return seSuprapun(u, n); });
 }
 
 int Grila::InaltimeRand(int rand) const {
-    La(rand, 0);
+    loc(rand, 0);
     return inaltimi_[size_t(rand)] > 0 ? inaltimi_[size_t(rand)] : inaltimeImplicita;
 }
 
 void Grila::SeteazaInaltimeRand(int rand, int px) {
-    La(rand, 0);
+    loc(rand, 0);
     inaltimi_[size_t(rand)] = std::max(px, 0);
 }
 
 int Grila::LatimeColoana(int col) const {
-    La(0, col);
+    loc(0, col);
     return latimi_[size_t(col)] > 0 ? latimi_[size_t(col)] : latimeImplicita;
 }
 
 void Grila::SeteazaLatimeColoana(int col, int px) {
-    La(0, col);
+    loc(0, col);
     latimi_[size_t(col)] = std::max(px, 0);
 }
 
 Aliniere Grila::AliniereColoana(int col) const {
-    La(0, col);
+    loc(0, col);
     return aliniereColoane_[size_t(col)].value_or(Aliniere{});
 }
 
 void Grila::SeteazaAliniereColoana(int col, Aliniere a) {
-    La(0, col);
+    loc(0, col);
     aliniereColoane_[size_t(col)] = a;
 }
 
 int Grila::InaltimeProprie(int rand) const {
-    La(rand, 0);
+    loc(rand, 0);
     return inaltimi_[size_t(rand)];
 }
 
 int Grila::LatimeProprie(int col) const {
-    La(0, col);
+    loc(0, col);
     return latimi_[size_t(col)];
 }
 
 std::optional<Aliniere> Grila::AliniereProprieColoana(int col) const {
-    La(0, col);
+    loc(0, col);
     return aliniereColoane_[size_t(col)];
 }
 
 Aliniere Grila::AliniereCelula(int rand, int col) const {
-    return La(rand, col).aliniere.value_or(AliniereColoana(col));
+    const std::optional<Aliniere>& a = AspectLa(rand, col).aliniere;
+    return a ? *a : AliniereColoana(col);
 }
 
 } // namespace Raport
@@ -217,39 +304,33 @@ Aliniere Grila::AliniereCelula(int rand, int col) const {
 namespace Raport {
 
 Font Grila::FontCelula(int rand, int col) const {
-    const Font& f = La(rand, col).font;
+    const Font& f = AspectLa(rand, col).font;
     return {f.nume.isEmpty() ? fontImplicit.nume : f.nume, f.marime > 0 ? f.marime : fontImplicit.marime,
             f.bold ? f.bold : fontImplicit.bold, f.italic ? f.italic : fontImplicit.italic,
             f.subliniat ? f.subliniat : fontImplicit.subliniat};
 }
 
-QString Grila::CheieAspect(int rand, int col) const {
-    const Celula& c = La(rand, col);
-    const Font f = FontCelula(rand, col);
-    const Aliniere a = AliniereCelula(rand, col);
-    // Asked for every cell of a large export: built by hand rather than by formatting.
-    const auto cifra = [](int n) { return char('0' + n); };
-    const char semne[] = {'|',
-                          cifra(f.Bold()),
-                          cifra(f.Italic()),
-                          cifra(f.Subliniat()),
-                          cifra(int(a.orizontal)),
-                          cifra(int(a.vertical)),
-                          cifra(c.incadrare),
-                          cifra(int(Felul(c.valoare))),
-                          cifra(int(c.linii[0])),
-                          cifra(int(c.linii[1])),
-                          cifra(int(c.linii[2])),
-                          cifra(int(c.linii[3])),
-                          cifra(int(c.linii[4])),
-                          cifra(int(c.linii[5]))};
-    QString cheie;
-    cheie.reserve(f.nume.size() + 24);
-    cheie += f.nume;
-    cheie += QLatin1Char('|');
-    cheie += QString::number(f.marime);
-    cheie += QLatin1String(semne, qsizetype(sizeof semne));
-    return cheie;
+std::uint64_t Grila::CheieAspect(int rand, int col) const {
+    const Loc& l = loc(rand, col);
+    // A cell that takes its column's alignment looks like the others of its column only.
+    const std::uint64_t coloana = aspecte_[l.aspect].aliniere ? 0 : std::uint64_t(col) + 1;
+    return std::uint64_t(l.aspect) << 40 | std::uint64_t(l.fel) << 32 | coloana;
+}
+
+bool Grila::operator==(const Grila& alta) const {
+    if (randuri_ != alta.randuri_ || coloane_ != alta.coloane_ || uniri_ != alta.uniri_ ||
+        inaltimi_ != alta.inaltimi_ || latimi_ != alta.latimi_ || aliniereColoane_ != alta.aliniereColoane_ ||
+        inaltimeImplicita != alta.inaltimeImplicita || latimeImplicita != alta.latimeImplicita ||
+        fontImplicit != alta.fontImplicit || pagina != alta.pagina)
+        return false;
+    for (int r = 0; r < randuri_; ++r)
+        for (int c = 0; c < coloane_; ++c) {
+            const Loc &a = loc(r, c), &b = alta.loc(r, c);
+            if (a.fel != b.fel || a.valoare != b.valoare || AspectLa(r, c) != alta.AspectLa(r, c) ||
+                TextVedere(r, c) != alta.TextVedere(r, c))
+                return false;
+        }
+    return true;
 }
 
 } // namespace Raport

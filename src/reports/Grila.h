@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QString>
+#include <QStringView>
 #include <QVariant>
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <vector>
 
 // The report grid as the builders fill it and the view, the printer and the exporters read it: rows
@@ -49,17 +52,27 @@ enum class Margine {
 };
 
 // What a cell's typed value is, as the spreadsheets write it: none is text.
-enum class FelValoare { Text, Suma, Data, Intreg };
+enum class FelValoare : std::uint8_t { Text, Suma, Data, Intreg };
 FelValoare Felul(const QVariant& valoare);
 
-struct Celula {
-    QString text;
-    QVariant valoare; // Bani, QDate or qint64 when the text stands for one; none otherwise
+// How a cell looks: the cells that look alike share one, which keeps a large grid small.
+struct Aspect {
     Font font;
     std::optional<Aliniere> aliniere; // none: the column's
     bool incadrare = false; // wrap
     // The lines drawn on the cell's own sides and across it: left, right, top, bottom, the two
     // diagonals (the order of Margine's first four, then 6 and 7).
+    std::array<Linie, 6> linii{};
+    bool operator==(const Aspect&) const = default;
+};
+
+// A cell whole, as it is read from the grid and written to it.
+struct Celula {
+    QString text;
+    QVariant valoare; // Bani, QDate or qint64 when the text stands for one; none otherwise
+    Font font;
+    std::optional<Aliniere> aliniere;
+    bool incadrare = false;
     std::array<Linie, 6> linii{};
     bool operator==(const Celula&) const = default;
 };
@@ -92,9 +105,16 @@ public:
     void SeteazaColoane(int n);
 
     // A cell; Eroare outside the grid.
-    const Celula& La(int rand, int col) const;
-    Celula& La(int rand, int col);
-    QString Text(int rand, int col) const { return La(rand, col).text; }
+    Celula La(int rand, int col) const;
+    void Seteaza(int rand, int col, const Celula& c);
+    QString Text(int rand, int col) const { return TextVedere(rand, col).toString(); }
+    // The text without a copy, good until the grid next changes.
+    QStringView TextVedere(int rand, int col) const;
+    FelValoare Fel(int rand, int col) const { return loc(rand, col).fel; }
+    QVariant Valoare(int rand, int col) const;
+    const Aspect& AspectLa(int rand, int col) const { return aspecte_[loc(rand, col).aspect]; }
+    // No text, no value and the default look.
+    bool EsteGoala(int rand, int col) const;
     void Scrie(int rand, int col, const QString& text);
     // The text as the report shows it, with the value a spreadsheet takes.
     void Scrie(int rand, int col, const QString& text, const QVariant& valoare);
@@ -102,6 +122,9 @@ public:
     // A row added at the end from a text whose columns are separated by tabs, from column 0: a text
     // that begins with a tab leaves the fixed column empty. Fields past the last column are dropped.
     void AdaugaRand(const QString& campuri);
+
+    // Changes the look of every cell of the rectangle.
+    template <typename F> void ModificaAspect(const Dreptunghi& d, F&& f);
 
     void Uneste(const Dreptunghi& d);
     const std::vector<Dreptunghi>& Uniri() const { return uniri_; }
@@ -130,27 +153,62 @@ public:
     Aliniere AliniereCelula(int rand, int col) const;
     // A cell's font with the grid's default where it has none of its own.
     Font FontCelula(int rand, int col) const;
-    // The same text for cells that look alike (font, alignment, wrap, lines, kind of value), which
+    // The same key for cells that look alike (font, alignment, wrap, lines, kind of value), which
     // the spreadsheets give one shared style.
-    QString CheieAspect(int rand, int col) const;
+    std::uint64_t CheieAspect(int rand, int col) const;
 
     int inaltimeImplicita = 36;
     int latimeImplicita = 64;
     Font fontImplicit{QStringLiteral("Arial"), 10, false, false, false};
     Pagina pagina;
 
-    bool operator==(const Grila&) const = default;
+    bool operator==(const Grila& alta) const;
 
 private:
+    // A cell as kept: its text in the grid's text store, its value packed, its look by number.
+    struct Loc {
+        std::uint32_t text = 0, lungime = 0;
+        std::int64_t valoare = 0; // units of Bani, the Julian day, or the number
+        std::uint16_t aspect = 0;
+        FelValoare fel = FelValoare::Text;
+    };
+    const Loc& loc(int rand, int col) const;
+    Loc& loc(int rand, int col) { return const_cast<Loc&>(std::as_const(*this).loc(rand, col)); }
     Dreptunghi normal(const Dreptunghi& d) const;
-    template <typename F> void fiecare(const Dreptunghi& d, F&& f);
     void redimensioneaza(int randuri, int coloane);
+    std::uint16_t numarAspect(const Aspect& a);
+    void scrieText(Loc& l, QStringView text);
 
     int randuri_ = 0, coloane_ = 0;
-    std::vector<std::vector<Celula>> celule_; // by row
+    // Rows in blocks of a fixed count, so that a growing grid never moves the cells it holds.
+    static constexpr int BitiBloc = 10;
+    std::vector<std::vector<Loc>> blocuri_;
+    // Texts one after another in blocks that never move, so that a grid of a million rows does not
+    // hold a million separate strings.
+    std::vector<std::vector<char16_t>> texte_;
+    std::size_t blocCurent_ = 0;
+    std::vector<Aspect> aspecte_{Aspect{}};
     std::vector<Dreptunghi> uniri_;
     std::vector<int> inaltimi_, latimi_; // 0: the default
     std::vector<std::optional<Aliniere>> aliniereColoane_;
 };
+
+template <typename F> void Grila::ModificaAspect(const Dreptunghi& d, F&& f) {
+    const Dreptunghi n = normal(d);
+    // A rectangle holds few looks: each is changed once, then reused.
+    std::vector<std::pair<std::uint16_t, std::uint16_t>> schimbate;
+    for (int r = n.rand1; r <= n.rand2; ++r)
+        for (int c = n.col1; c <= n.col2; ++c) {
+            Loc& l = loc(r, c);
+            auto gasit = std::find_if(schimbate.begin(), schimbate.end(), [&](const auto& p) { return p.first == l.aspect; });
+            if (gasit == schimbate.end()) {
+                Aspect a = aspecte_[l.aspect];
+                f(a);
+                schimbate.push_back({l.aspect, numarAspect(a)});
+                gasit = schimbate.end() - 1;
+            }
+            l.aspect = gasit->second;
+        }
+}
 
 } // namespace Raport

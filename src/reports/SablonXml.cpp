@@ -454,9 +454,7 @@ private:
     }
 
     template <typename F> void PeCelule(const Dreptunghi& d, F&& f) {
-        for (int r = std::min(d.rand1, d.rand2); r <= std::max(d.rand1, d.rand2); ++r)
-            for (int c = std::min(d.col1, d.col2); c <= std::max(d.col1, d.col2); ++c)
-                f(g_.La(r, c));
+        g_.ModificaAspect(d, std::forward<F>(f));
     }
 
     // What a range and a cell share: one member of each cell's own font at a time, and the wrap.
@@ -464,16 +462,16 @@ private:
         const QString& e = n.nume;
         if (e == QLatin1String("FONTNAME")) {
             const QString t = n.Text();
-            PeCelule(d, [&](Celula& c) { c.font.nume = t; });
+            PeCelule(d, [&](Aspect& c) { c.font.nume = t; });
         } else if (e == QLatin1String("FONTSIZE")) {
             const double x = Numar(n);
-            PeCelule(d, [&](Celula& c) { c.font.marime = x; });
+            PeCelule(d, [&](Aspect& c) { c.font.marime = x; });
         } else if (e == QLatin1String("FONTBOLD")) {
             const bool b = Boolean(n);
-            PeCelule(d, [&](Celula& c) { c.font.bold = b; });
+            PeCelule(d, [&](Aspect& c) { c.font.bold = b; });
         } else if (e == QLatin1String("FONTITALIC")) {
             const bool b = Boolean(n);
-            PeCelule(d, [&](Celula& c) { c.font.italic = b; });
+            PeCelule(d, [&](Aspect& c) { c.font.italic = b; });
         } else if (e == QLatin1String("WRAP")) {
             g_.Incadreaza(d, Boolean(n));
         } else {

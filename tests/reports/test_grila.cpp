@@ -90,6 +90,37 @@ TEST(Grila, UniriRanduriSiGolire) {
     EXPECT_THROW(Grila(0, 3), Eroare);
 }
 
+// A large grid keeps every cell through growth, a change of width and a shrink: rows given up come
+// back empty, and cells that look alike share their look without changing each other's.
+TEST(Grila, CrestereSiMicsorare) {
+    Grila g(2, 3);
+    const int n = 3000;
+    for (int r = 1; r < n; ++r) {
+        g.SeteazaRanduri(r + 1);
+        g.Scrie(r, 1, QString::number(r), qint64(r));
+        g.Scrie(r, 2, QString(r % 7, u'x'));
+        g.Bordura({r, 1, r, 2}, Margine::Jos, r % 2 ? Linie::Subtire : Linie::Groasa);
+    }
+    g.SeteazaColoane(5);
+    g.Scrie(n - 1, 4, T("ultima"));
+    for (int r : {1, 1023, 1024, 2047, n - 1}) {
+        EXPECT_EQ(g.Text(r, 1), QString::number(r)) << r;
+        EXPECT_EQ(g.La(r, 1).valoare, QVariant(qint64(r))) << r;
+        EXPECT_EQ(g.Text(r, 2), QString(r % 7, u'x')) << r;
+        EXPECT_EQ(g.La(r, 2).linii[3], r % 2 ? Linie::Subtire : Linie::Groasa) << r;
+        EXPECT_TRUE(g.EsteGoala(r, 3)) << r;
+    }
+    EXPECT_EQ(g.Text(n - 1, 4), T("ultima"));
+    const Grila copie = g;
+    EXPECT_EQ(copie, g);
+    g.SeteazaRanduri(1500);
+    g.SeteazaRanduri(n);
+    EXPECT_TRUE(g.EsteGoala(2047, 1));
+    EXPECT_TRUE(g.EsteGoala(n - 1, 4));
+    EXPECT_EQ(g.Text(1499, 1), T("1499"));
+    EXPECT_FALSE(copie == g);
+}
+
 Grila GrilaBogata() {
     Grila g(5, 4);
     g.inaltimeImplicita = 30;

@@ -10,6 +10,7 @@
 #include "reports/builders/Constructori.h"
 #include "reports/export/Cel.h"
 #include "store/BazaDate.h"
+#include "store/CitireRapida.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -34,26 +35,25 @@ QString Ordine(const Alegeri& a, const QString& chei) {
     return clauza.isEmpty() ? QStringLiteral(" ORDER BY ") + chei : clauza + QStringLiteral(", ") + chei;
 }
 
-QString Text(const Interogare& q, const char* camp) {
-    return q.Text(QLatin1String(camp));
+QString Text(const CitireRapida& q, const char* camp) {
+    return q.Text(camp);
 }
 
-QVariant Numar(const Interogare& q, const char* camp) {
-    const QVariant v = q.Valoare(QLatin1String(camp));
-    return v.isNull() ? QVariant() : QVariant(v.toLongLong());
+QVariant Numar(const CitireRapida& q, const char* camp) {
+    return q.EsteNul(camp) ? QVariant() : QVariant(q.Intreg(camp));
 }
 
-QString NumarText(const Interogare& q, const char* camp) {
+QString NumarText(const CitireRapida& q, const char* camp) {
     const QVariant v = Numar(q, camp);
     return v.isValid() ? QString::number(v.toLongLong()) : QString();
 }
 
-QString NumePrenume(const Interogare& q, const char* nume = "Nume", const char* prenume = "Prenume") {
+QString NumePrenume(const CitireRapida& q, const char* nume = "Nume", const char* prenume = "Prenume") {
     return Text(q, nume) + QLatin1Char(' ') + Text(q, prenume);
 }
 
 // The family's address with the office's word for street.
-QString Adresa(const Interogare& q, const MediuRaport& mediu) {
+QString Adresa(const CitireRapida& q, const MediuRaport& mediu) {
     return AdresaRaport(Text(q, "Localitate"), mediu.setari.StrSat, Text(q, "Strada"), Text(q, "Nr"), Text(q, "Sc"),
                         Text(q, "Ap"));
 }
@@ -76,11 +76,11 @@ const std::vector<ColoanaLista> ColoaneCopii{{QStringLiteral("Nr. Crt."), 30, Dr
 
 // A row of the lists of requests and children: counter, dossier, number and date, name, code,
 // children (and, where given, the address).
-void RandCerere(Lista& l, const Interogare& q, const QString& nume, const QString& cnp, const QString* adresa) {
+void RandCerere(Lista& l, const CitireRapida& q, const QString& nume, const QString& cnp, const QString* adresa) {
     const qint64 nr = l.Randuri() + 1;
     QStringList t{QString::number(nr),
                   NumarText(q, "NrDosar"),
-                  NrDataCerere(q.Valoare(QStringLiteral("NrCerere")), q.Data(QStringLiteral("DataCerere"))),
+                  NrDataCerere(q.Valoare("NrCerere"), q.Data("DataCerere")),
                   nume,
                   cnp,
                   NumarText(q, "NrCopii")};
@@ -95,7 +95,7 @@ Grila ListaSimpla(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alege
                   const QString& tabele, const QString& conditie, const QString& chei, const QVariantList& valori) {
     Grila g = Incepe(mediu);
     Lista l(g, ColoaneCopii, CitestePrimariaRaport(db, m), titlu, false, a.luna, a.an);
-    Interogare q(db, QStringLiteral("SELECT ") + CampuriCerere + QStringLiteral(", M.Nume, M.Prenume, M.CNP FROM ") +
+    CitireRapida q(db, QStringLiteral("SELECT ") + CampuriCerere + QStringLiteral(", M.Nume, M.Prenume, M.CNP FROM ") +
                          tabele + QStringLiteral(" WHERE ") + conditie + Ordine(a, chei));
     for (const QVariant& v : valori)
         q.Leaga(v);
@@ -116,8 +116,8 @@ Grila ListaCopii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Aleger
                        QStringLiteral("C.CerereID, CM.MembruID"), valori);
 }
 
-QString TextData(const Interogare& q, const char* camp) {
-    const QDate d = q.Data(QLatin1String(camp));
+QString TextData(const CitireRapida& q, const char* camp) {
+    const QDate d = q.Data(camp);
     return d.isValid() ? FormatData(d) : QStringLiteral("-");
 }
 
@@ -148,7 +148,7 @@ Grila ListaCereri(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alege
     else if (stare != 0)
         conditii += QStringLiteral(" AND C.Stare = ?");
     if (!foaie && (a.tipCerere == 1 || a.tipCerere == 2)) conditii += QStringLiteral(" AND C.TipCerere = ?");
-    const auto leaga = [&](Interogare& q) {
+    const auto leaga = [&](CitireRapida& q) {
         if (stare != 0 && stare != 2) q.Leaga(stare);
         if (!foaie && (a.tipCerere == 1 || a.tipCerere == 2)) q.Leaga(a.tipCerere);
     };
@@ -156,16 +156,16 @@ Grila ListaCereri(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alege
     // The other members of the listed requests, all at once, by request.
     std::map<qint64, std::vector<std::pair<QString, QString>>> membri;
     if (a.membri && !foaie) {
-        Interogare q(db, QStringLiteral("SELECT CM.CerereID, M.Nume, M.Prenume, M.CNP FROM CereriMembrii CM, Membrii M "
+        CitireRapida q(db, QStringLiteral("SELECT CM.CerereID, M.Nume, M.Prenume, M.CNP FROM CereriMembrii CM, Membrii M "
                                         "WHERE CM.MembruID = M.MembruID AND CM.RudenieID > 1 AND CM.CerereID IN "
                                         "(SELECT C.CerereID FROM Familii F, Cereri C, Membrii M WHERE ") +
                              conditii + QStringLiteral(") ORDER BY CM.CerereID, M.Nume, M.Prenume, M.MembruID"));
         leaga(q);
         q.Executa();
         while (q.Urmator())
-            membri[q.Intreg(QStringLiteral("CerereID"))].push_back({NumePrenume(q), Text(q, "CNP")});
+            membri[q.Intreg("CerereID")].push_back({NumePrenume(q), Text(q, "CNP")});
     }
-    Interogare q(db, QStringLiteral("SELECT ") + CampuriCerere +
+    CitireRapida q(db, QStringLiteral("SELECT ") + CampuriCerere +
                          QStringLiteral(", M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, Membrii M WHERE ") +
                          conditii + Ordine(a, QStringLiteral("C.CerereID")));
     leaga(q);
@@ -173,7 +173,7 @@ Grila ListaCereri(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alege
     while (q.Urmator()) {
         const QString adresa = Adresa(q, mediu);
         RandCerere(l, q, NumePrenume(q), Text(q, "CNP"), &adresa);
-        const auto gasit = membri.find(q.Intreg(QStringLiteral("CerereID")));
+        const auto gasit = membri.find(q.Intreg("CerereID"));
         if (gasit != membri.end())
             for (const auto& [nume, cnp] : gasit->second)
                 RandCerere(l, q, nume, cnp, &adresa);
@@ -213,7 +213,7 @@ Grila ListaElevi(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Aleger
                               : QStringLiteral("elevi fara adeverinta de scolarizare "),
             false, a.luna, a.an);
     // A pupil counts as covered by any certificate of his on that request still valid after today.
-    Interogare q(db, QStringLiteral("SELECT M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, Membrii M, "
+    CitireRapida q(db, QStringLiteral("SELECT M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, Membrii M, "
                                     "CereriMembrii CM WHERE F.FamilieID = C.FamilieID AND C.MembruID1 = M.MembruID AND "
                                     "CM.CerereID = C.CerereID AND CM.RudenieID IN (3, 6, 7, 8, 9, 10) AND "
                                     "CM.Studii IN (3, 4) AND ") +
@@ -285,7 +285,7 @@ Grila ListaActeExpira(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const A
         {QStringLiteral("Data expirarii"), 100, Centru}, {QStringLiteral("Motivul"), 160, Stanga}};
     Lista l(g, coloane, CitestePrimariaRaport(db, m),
             QStringLiteral("LISTA ACTE CARE EXPIRA IN LUNA ") + LuniAn().value(a.luna - 1), true, a.luna, a.an);
-    Interogare q(
+    CitireRapida q(
         db, QStringLiteral("SELECT F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, C.MotivStare, A.TipAdeverinta, "
                            "A.DataDepunerii, A.DataAdeverinta, A.DataExpAdev, P.Nume, P.Prenume, P.CNP, D.Continut "
                            "FROM Familii F, Cereri C, Adeverinte A LEFT JOIN Membrii P ON P.MembruID = A.MembruID "
@@ -298,8 +298,8 @@ Grila ListaActeExpira(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const A
     q.Executa();
     while (q.Urmator()) {
         const qint64 nr = l.Randuri() + 1;
-        const QString tip = q.EsteNul(QStringLiteral("TipAdeverinta")) ? QStringLiteral("nesetat")
-                            : q.EsteNul(QStringLiteral("Continut"))    ? QStringLiteral("necunoscut")
+        const QString tip = q.EsteNul("TipAdeverinta") ? QStringLiteral("nesetat")
+                            : q.EsteNul("Continut")    ? QStringLiteral("necunoscut")
                                                                        : Text(q, "Continut");
         l.Rand({QString::number(nr), Text(q, "Nume"), Text(q, "Prenume"), Text(q, "CNP"), Adresa(q, mediu), tip,
                 TextData(q, "DataDepunerii"), TextData(q, "DataAdeverinta"), TextData(q, "DataExpAdev"),
@@ -323,7 +323,7 @@ Grila ListaPersoane(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Ale
         {QStringLiteral("Varsta"), 60, Dreapta}};
     Lista l(g, coloane, CitestePrimariaRaport(db, m),
             copii ? QStringLiteral("LISTA COPII") : QStringLiteral("LISTA ADULTI"), true, a.luna, a.an);
-    Interogare q(db,
+    CitireRapida q(db,
                  QStringLiteral("SELECT ") + CampuriCerere +
                      QStringLiteral(", M.Nume, M.Prenume, M.CNP, (SELECT T.Nume FROM Membrii T WHERE T.MembruID = "
                                     "C.MembruID1) AS TitularN, (SELECT T.Prenume FROM Membrii T WHERE T.MembruID = "
@@ -340,7 +340,7 @@ Grila ListaPersoane(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Ale
         const QString cnp = Text(q, "CNP");
         const qint16 varsta = Varsta(referinta, DataNasterii(cnp, false, nullptr), cnp, &m);
         l.Rand({QString::number(nr), NumarText(q, "NrDosar"),
-                NrDataCerere(q.Valoare(QStringLiteral("NrCerere")), q.Data(QStringLiteral("DataCerere"))),
+                NrDataCerere(q.Valoare("NrCerere"), q.Data("DataCerere")),
                 NumePrenume(q), cnp, Adresa(q, mediu), NumePrenume(q, "TitularN", "TitularP"), QString::number(varsta)},
                {nr, Numar(q, "NrDosar"), {}, {}, {}, {}, {}, qint64(varsta)});
     }
@@ -401,7 +401,7 @@ Grila SituatieCentralizata(BazaDate& db, Mesaje& m, const MediuRaport& mediu, co
                                           "Familii F ON F.FamilieID = C.FamilieID WHERE C.Stare IN (1, 2, 6, 7, 8, 9)");
     std::map<qint64, std::vector<std::pair<QString, QString>>> altii;
     {
-        Interogare q(db,
+        CitireRapida q(db,
                      QStringLiteral("SELECT CM.CerereID, P.Nume, P.Prenume, P.CNP FROM CereriMembrii CM LEFT JOIN "
                                     "Membrii P ON P.MembruID = CM.MembruID WHERE CM.CerereID IN (SELECT C.CerereID ") +
                          cereri +
@@ -409,9 +409,9 @@ Grila SituatieCentralizata(BazaDate& db, Mesaje& m, const MediuRaport& mediu, co
                                         "C2.CerereID = CM.CerereID) ORDER BY CM.CerereID, CM.MembruID"));
         q.Executa();
         while (q.Urmator())
-            altii[q.Intreg(QStringLiteral("CerereID"))].push_back({NumePrenume(q), Text(q, "CNP")});
+            altii[q.Intreg("CerereID")].push_back({NumePrenume(q), Text(q, "CNP")});
     }
-    Interogare q(db, QStringLiteral("SELECT C.CerereID, C.NrCerere, C.NrMembrii, M.Nume, M.Prenume, M.CNP ") + cereri +
+    CitireRapida q(db, QStringLiteral("SELECT C.CerereID, C.NrCerere, C.NrMembrii, M.Nume, M.Prenume, M.CNP ") + cereri +
                          ordine);
     q.Executa();
     qint64 nr = 0;
@@ -428,14 +428,14 @@ Grila SituatieCentralizata(BazaDate& db, Mesaje& m, const MediuRaport& mediu, co
         g.Scrie(primul, 2, NumePrenume(q));
         g.Scrie(primul, 3, Text(q, "CNP"));
         g.Scrie(primul, 4, NumarText(q, "NrMembrii"), Numar(q, "NrMembrii"));
-        const auto& membri = altii[q.Intreg(QStringLiteral("CerereID"))];
+        const auto& membri = altii[q.Intreg("CerereID")];
         for (size_t i = 0; i < membri.size(); ++i) {
             const int rm = i == 0 ? primul : rand();
             g.Scrie(rm, 5, membri[i].first);
             g.Scrie(rm, 6, membri[i].second);
         }
         const qint64 gasiti = qint64(membri.size()) + 1;
-        if (gasiti != q.Intreg(QStringLiteral("NrMembrii")))
+        if (gasiti != q.Intreg("NrMembrii"))
             m.Informatie(QStringLiteral("Cererea %1 %2 %3 are %4 membrii in loc de %5")
                              .arg(Text(q, "NrCerere"), Text(q, "Nume"), Text(q, "Prenume"))
                              .arg(gasiti)
@@ -465,7 +465,7 @@ Grila BorderouBeneficiari(BazaDate& db, Mesaje& m, const MediuRaport& mediu, con
     QString semne;
     for (qsizetype i = 0; i < stari.size(); ++i)
         semne += i ? QStringLiteral(", ?") : QStringLiteral("?");
-    Interogare q(db, QStringLiteral("SELECT M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, Membrii M WHERE "
+    CitireRapida q(db, QStringLiteral("SELECT M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, Membrii M WHERE "
                                     "F.FamilieID = C.FamilieID AND C.MembruID1 = M.MembruID AND C.Stare IN (") +
                          semne + QStringLiteral(") AND C.DataStare >= ? AND C.DataStare < ?") +
                          Ordine(a, QStringLiteral("C.CerereID")));
@@ -516,19 +516,19 @@ Grila ListaMembrii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Aleg
                        "M.MembruID = CM.MembruID AND CM.RudenieID = 1 AND C.Stare IN (1, 2, 6, 7, 8)");
     std::map<qint64, std::vector<std::tuple<QString, QString, QString>>> membri;
     {
-        Interogare q(db, QStringLiteral("SELECT CM.CerereID, M.Nume, M.Prenume, M.CNP, M.NrBI FROM Membrii M, "
+        CitireRapida q(db, QStringLiteral("SELECT CM.CerereID, M.Nume, M.Prenume, M.CNP, M.NrBI FROM Membrii M, "
                                         "CereriMembrii CM WHERE M.MembruID = CM.MembruID AND CM.RudenieID > 1 AND "
                                         "CM.CerereID IN (SELECT C.CerereID ") +
                              titulari + QStringLiteral(") ORDER BY CM.CerereID, M.Nume, M.Prenume, M.MembruID"));
         q.Executa();
         while (q.Urmator())
-            membri[q.Intreg(QStringLiteral("CerereID"))].push_back({NumePrenume(q), Text(q, "CNP"), Text(q, "NrBI")});
+            membri[q.Intreg("CerereID")].push_back({NumePrenume(q), Text(q, "CNP"), Text(q, "NrBI")});
     }
-    Interogare q(db, QStringLiteral("SELECT C.CerereID, F.NrDosar, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, M.Nume, "
+    CitireRapida q(db, QStringLiteral("SELECT C.CerereID, F.NrDosar, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, M.Nume, "
                                     "M.Prenume, M.CNP, M.NrBI ") +
                          titulari + Ordine(a, QStringLiteral("C.CerereID, CM.MembruID")));
     q.Executa();
-    const auto rand = [&](const Interogare& q, const QString& nume, const QString& cnp, const QString& bi) {
+    const auto rand = [&](const CitireRapida& q, const QString& nume, const QString& cnp, const QString& bi) {
         const qint64 nr = l.Randuri() + 1;
         l.Rand({QString::number(nr), nume, Text(q, "Localitate"), Adresa(q, mediu), cnp, bi, NumarText(q, "NrDosar"),
                 QStringLiteral("ASF")},
@@ -536,7 +536,7 @@ Grila ListaMembrii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Aleg
     };
     while (q.Urmator()) {
         rand(q, NumePrenume(q), Text(q, "CNP"), Text(q, "NrBI"));
-        for (const auto& [nume, cnp, bi] : membri[q.Intreg(QStringLiteral("CerereID"))])
+        for (const auto& [nume, cnp, bi] : membri[q.Intreg("CerereID")])
             rand(q, nume, cnp, bi);
     }
     l.Incheie();

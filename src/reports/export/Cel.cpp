@@ -88,8 +88,8 @@ QByteArray Cel(const Grila& g) {
     const Celula gol;
     for (int r = 0; r < g.Randuri(); ++r)
         for (int c = 0; c < g.Coloane(); ++c) {
-            const Celula& x = g.La(r, c);
-            if (x == gol) continue;
+            if (g.EsteGoala(r, c)) continue;
+            const Celula x = g.La(r, c);
             QJsonObject o{{QStringLiteral("r"), r}, {QStringLiteral("c"), c}, {QStringLiteral("text"), x.text}};
             if (x.valoare.isValid()) o.insert(QStringLiteral("valoare"), dinValoare(x.valoare));
             if (x.aliniere) o.insert(QStringLiteral("aliniere"), dinAliniere(*x.aliniere));
@@ -160,7 +160,8 @@ Grila GrilaDinCel(const QByteArray& json) {
     }
     for (const QJsonValue& v : o.value(QStringLiteral("celule")).toArray()) {
         const QJsonObject x = v.toObject();
-        Celula& c = g.La(x.value(QStringLiteral("r")).toInt(), x.value(QStringLiteral("c")).toInt());
+        const int r = x.value(QStringLiteral("r")).toInt(), col = x.value(QStringLiteral("c")).toInt();
+        Celula c;
         c.text = x.value(QStringLiteral("text")).toString();
         c.valoare = inValoare(x.value(QStringLiteral("valoare")));
         if (x.contains(QStringLiteral("aliniere"))) c.aliniere = inAliniere(x.value(QStringLiteral("aliniere")).toObject());
@@ -169,6 +170,7 @@ Grila GrilaDinCel(const QByteArray& json) {
         const QJsonArray linii = x.value(QStringLiteral("linii")).toArray();
         for (qsizetype i = 0; i < std::min<qsizetype>(qsizetype(c.linii.size()), linii.size()); ++i)
             c.linii[size_t(i)] = Linie(std::clamp(linii[i].toInt(), 0, 2));
+        g.Seteaza(r, col, c);
     }
     return g;
 }

@@ -9,7 +9,7 @@
 #include <QDate>
 #include <QFile>
 #include <QXmlStreamWriter>
-#include <map>
+#include <unordered_map>
 #include <zip.h>
 
 namespace Raport {
@@ -57,7 +57,7 @@ public:
     explicit Stiluri(const Grila& g) : g_(g) {}
 
     QString Al(int rand, int col) {
-        const QString cheie = g_.CheieAspect(rand, col);
+        const std::uint64_t cheie = g_.CheieAspect(rand, col);
         auto it = nume_.find(cheie);
         if (it == nume_.end()) {
             it = nume_.emplace(cheie, QStringLiteral("ce%1").arg(nume_.size() + 1)).first;
@@ -133,7 +133,7 @@ private:
         int rand, col;
     };
     const Grila& g_;
-    std::map<QString, QString> nume_;
+    std::unordered_map<std::uint64_t, QString> nume_;
     std::vector<Stil> ordine_;
 };
 

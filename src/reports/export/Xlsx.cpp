@@ -9,7 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <map>
+#include <unordered_map>
 #include <xlsxwriter.h>
 
 namespace Raport {
@@ -35,7 +35,7 @@ public:
     Formate(lxw_workbook* wb, const Grila& g) : wb_(wb), g_(g) {}
 
     lxw_format* Al(int rand, int col) {
-        const QString cheie = g_.CheieAspect(rand, col);
+        const std::uint64_t cheie = g_.CheieAspect(rand, col);
         auto it = formate_.find(cheie);
         if (it != formate_.end()) return it->second;
         const Celula& c = g_.La(rand, col);
@@ -78,7 +78,7 @@ public:
 private:
     lxw_workbook* wb_;
     const Grila& g_;
-    std::map<QString, lxw_format*> formate_;
+    std::unordered_map<std::uint64_t, lxw_format*> formate_;
 };
 
 void verifica(lxw_error e, const QString& ce) {
@@ -87,27 +87,29 @@ void verifica(lxw_error e, const QString& ce) {
                          .arg(ce, QString::fromUtf8(lxw_strerror(e))));
 }
 
-void scrieCelula(lxw_worksheet* ws, lxw_row_t r, lxw_col_t c, const Celula& x, lxw_format* f) {
-    switch (Felul(x.valoare)) {
+void scrieCelula(lxw_worksheet* ws, lxw_row_t r, lxw_col_t c, const Grila& g, int rand, int col, lxw_format* f) {
+    const auto eroare = [&] { return g.Text(rand, col); };
+    switch (g.Fel(rand, col)) {
     case FelValoare::Suma:
-        verifica(worksheet_write_number(ws, r, c, x.valoare.value<Bani>().ToDouble(), f), x.text);
+        verifica(worksheet_write_number(ws, r, c, g.Valoare(rand, col).value<Bani>().ToDouble(), f), eroare());
         return;
     case FelValoare::Data: {
-        const QDate d = x.valoare.toDate();
+        const QDate d = g.Valoare(rand, col).toDate();
         lxw_datetime dt{d.year(), d.month(), d.day(), 0, 0, 0};
-        verifica(worksheet_write_datetime(ws, r, c, &dt, f), x.text);
+        verifica(worksheet_write_datetime(ws, r, c, &dt, f), eroare());
         return;
     }
     case FelValoare::Intreg:
-        verifica(worksheet_write_number(ws, r, c, double(x.valoare.toLongLong()), f), x.text);
+        verifica(worksheet_write_number(ws, r, c, double(g.Valoare(rand, col).toLongLong()), f), eroare());
         return;
     case FelValoare::Text:
         break;
     }
-    if (x.text.isEmpty())
-        verifica(worksheet_write_blank(ws, r, c, f), x.text);
+    const QStringView text = g.TextVedere(rand, col);
+    if (text.isEmpty())
+        verifica(worksheet_write_blank(ws, r, c, f), eroare());
     else
-        verifica(worksheet_write_string(ws, r, c, x.text.toUtf8().constData(), f), x.text);
+        verifica(worksheet_write_string(ws, r, c, text.toUtf8().constData(), f), eroare());
 }
 
 void scrieFoaia(const Grila& g, const QString& cale) {
@@ -134,24 +136,23 @@ void scrieFoaia(const Grila& g, const QString& cale) {
             verifica(worksheet_set_row_pixels(ws, lxw_row_t(r - 1), uint32_t(g.InaltimeRand(r)), nullptr),
                      QStringLiteral("randul %1").arg(r));
             for (int c = 1; c < g.Coloane(); ++c) {
-                const Celula& x = g.La(r, c);
-                if (x == Celula{} && !g.UnireLa(r, c)) continue;
-                scrieCelula(ws, lxw_row_t(r - 1), lxw_col_t(c - 1), x, formate.Al(r, c));
+                if (g.EsteGoala(r, c) && !g.UnireLa(r, c)) continue;
+                scrieCelula(ws, lxw_row_t(r - 1), lxw_col_t(c - 1), g, r, c, formate.Al(r, c));
             }
         }
         for (const Dreptunghi& u : g.Uniri()) {
             if (u.rand1 < 1 || u.col1 < 1) continue; // the fixed row and column stay out of the sheet
-            const Celula& x = g.La(u.rand1, u.col1);
+            const QString text = g.Text(u.rand1, u.col1);
             verifica(worksheet_merge_range(ws, lxw_row_t(u.rand1 - 1), lxw_col_t(u.col1 - 1), lxw_row_t(u.rand2 - 1),
                                            lxw_col_t(u.col2 - 1), "", formate.Al(u.rand1, u.col1)),
-                     x.text);
+                     text);
             // The merge writes its first cell's look everywhere; each cell then gets its own back,
             // so that the rectangle's edges are drawn where the grid draws them.
             for (int r = u.rand1; r <= u.rand2; ++r)
                 for (int c = u.col1; c <= u.col2; ++c)
                     if (r != u.rand1 || c != u.col1)
-                        verifica(worksheet_write_blank(ws, lxw_row_t(r - 1), lxw_col_t(c - 1), formate.Al(r, c)), x.text);
-            scrieCelula(ws, lxw_row_t(u.rand1 - 1), lxw_col_t(u.col1 - 1), x, formate.Al(u.rand1, u.col1));
+                        verifica(worksheet_write_blank(ws, lxw_row_t(r - 1), lxw_col_t(c - 1), formate.Al(r, c)), text);
+            scrieCelula(ws, lxw_row_t(u.rand1 - 1), lxw_col_t(u.col1 - 1), g, u.rand1, u.col1, formate.Al(u.rand1, u.col1));
         }
     } catch (...) {
         workbook_close(wb);

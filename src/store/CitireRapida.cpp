@@ -1,0 +1,172 @@
+#include "store/CitireRapida.h"
+
+#include "base/Eroare.h"
+
+#include <QSqlDriver>
+#include <sqlite3.h>
+
+struct CitireRapida::SQLite {
+    sqlite3* db = nullptr;
+    sqlite3_stmt* stmt = nullptr;
+    int legate = 0;
+    ~SQLite() { sqlite3_finalize(stmt); }
+};
+
+namespace {
+
+sqlite3* conexiune(BazaDate& db) {
+    const QVariant h = db.conexiune().driver()->handle();
+    if (!h.isValid() || qstrcmp(h.typeName(), "sqlite3*") != 0)
+        throw Eroare(QStringLiteral("Driverul bazei de date nu ofera conexiunea sqlite3"));
+    return *static_cast<sqlite3* const*>(h.constData());
+}
+
+// "2014-11-01" and what follows it, read without the general date parser.
+QDate dataIso(const unsigned char* t, int n) {
+    const auto cifre = [&](int de, int cate) {
+        int x = 0;
+        for (int i = de; i < de + cate; ++i) {
+            if (t[i] < '0' || t[i] > '9') return -1;
+            x = x * 10 + (t[i] - '0');
+        }
+        return x;
+    };
+    if (n >= 10 && t[4] == '-' && t[7] == '-') {
+        const int a = cifre(0, 4), l = cifre(5, 2), z = cifre(8, 2);
+        if (a >= 0 && l >= 0 && z >= 0) return QDate(a, l, z);
+    }
+    return QDate::fromString(QString::fromUtf8(reinterpret_cast<const char*>(t), std::min(n, 10)), Qt::ISODate);
+}
+
+} // namespace
+
+CitireRapida::CitireRapida(BazaDate& db, const QString& sql) : db_(db), sql_(sql) {
+    if (db.dialect().EsteSQLite()) {
+        lite_ = std::make_unique<SQLite>();
+        lite_->db = conexiune(db);
+        if (sqlite3_prepare16_v2(lite_->db, sql.utf16(), int(sql.size() * 2), &lite_->stmt, nullptr) != SQLITE_OK)
+            throw Eroare(QStringLiteral("%1\n[%2]").arg(QString::fromUtf8(sqlite3_errmsg(lite_->db)), sql));
+    } else {
+        q_ = std::make_unique<Interogare>(db, sql);
+    }
+}
+
+CitireRapida::~CitireRapida() = default;
+
+CitireRapida& CitireRapida::LeagaValoare(const QVariant& valoare) {
+    if (q_) {
+        q_->LeagaValoare(valoare);
+        return *this;
+    }
+    const QVariant v = db_.dialect().Parametru(valoare);
+    const int i = ++lite_->legate;
+    int rc = SQLITE_OK;
+    if (!v.isValid() || v.isNull()) {
+        rc = sqlite3_bind_null(lite_->stmt, i);
+    } else {
+        switch (v.typeId()) {
+        case QMetaType::Int:
+        case QMetaType::LongLong:
+        case QMetaType::UInt:
+        case QMetaType::ULongLong:
+            rc = sqlite3_bind_int64(lite_->stmt, i, v.toLongLong());
+            break;
+        case QMetaType::Double:
+            rc = sqlite3_bind_double(lite_->stmt, i, v.toDouble());
+            break;
+        default: {
+            const QString t = v.toString();
+            rc = sqlite3_bind_text16(lite_->stmt, i, t.utf16(), int(t.size() * 2), SQLITE_TRANSIENT);
+        }
+        }
+    }
+    if (rc != SQLITE_OK) throw Eroare(QStringLiteral("%1\n[%2]").arg(QString::fromUtf8(sqlite3_errmsg(lite_->db)), sql_));
+    return *this;
+}
+
+CitireRapida& CitireRapida::Executa() {
+    if (q_) {
+        q_->Executa();
+        return *this;
+    }
+    sqlite3_reset(lite_->stmt);
+    lite_->legate = 0;
+    return *this;
+}
+
+bool CitireRapida::Urmator() {
+    if (q_) return q_->Urmator();
+    const int rc = sqlite3_step(lite_->stmt);
+    if (rc == SQLITE_ROW) return true;
+    if (rc == SQLITE_DONE) return false;
+    throw Eroare(QStringLiteral("%1\n[%2]").arg(QString::fromUtf8(sqlite3_errmsg(lite_->db)), sql_));
+}
+
+int CitireRapida::Camp(QLatin1StringView nume) const {
+    if (q_) {
+        const int i = q_->query().record().indexOf(nume.toString());
+        if (i >= 0) return i;
+    } else {
+        for (int i = 0; i < sqlite3_column_count(lite_->stmt); ++i)
+            if (nume.compare(QString::fromUtf8(sqlite3_column_name(lite_->stmt, i)), Qt::CaseInsensitive) == 0)
+                return i;
+    }
+    throw Eroare(QStringLiteral("Exceptie: campul %1 lipseste din rezultatul [%2]").arg(nume, sql_));
+}
+
+int CitireRapida::numar(const char* camp) const {
+    for (const auto& [nume, i] : campuri_)
+        if (nume == camp) return i;
+    const int i = Camp(QLatin1StringView(camp));
+    campuri_.push_back({camp, i});
+    return i;
+}
+
+bool CitireRapida::EsteNul(int i) const {
+    if (q_) return q_->Valoare(i).isNull();
+    return sqlite3_column_type(lite_->stmt, i) == SQLITE_NULL;
+}
+
+qint64 CitireRapida::Intreg(int i) const {
+    if (q_) return q_->Valoare(i).toLongLong();
+    return sqlite3_column_int64(lite_->stmt, i);
+}
+
+QString CitireRapida::Text(int i) const {
+    if (q_) return q_->Valoare(i).toString();
+    // A real number reads as the SQL module writes it ("12", not "12.0").
+    if (sqlite3_column_type(lite_->stmt, i) == SQLITE_FLOAT) return QVariant(sqlite3_column_double(lite_->stmt, i)).toString();
+    const void* t = sqlite3_column_text16(lite_->stmt, i);
+    if (!t) return {};
+    return QString(static_cast<const QChar*>(t), sqlite3_column_bytes16(lite_->stmt, i) / 2);
+}
+
+QDate CitireRapida::Data(int i) const {
+    if (!q_) {
+        if (sqlite3_column_type(lite_->stmt, i) == SQLITE_NULL) return {};
+        return dataIso(sqlite3_column_text(lite_->stmt, i), sqlite3_column_bytes(lite_->stmt, i));
+    }
+    const QVariant v = q_->Valoare(i);
+    if (v.isNull()) return {};
+    if (v.typeId() == QMetaType::QDate) return v.toDate();
+    if (v.typeId() == QMetaType::QDateTime) return v.toDateTime().date();
+    return QDate::fromString(v.toString().left(10), Qt::ISODate);
+}
+
+Bani CitireRapida::Suma(int i) const {
+    return Bani::DinVariant(Valoare(i));
+}
+
+QVariant CitireRapida::Valoare(int i) const {
+    if (q_) return q_->Valoare(i);
+    switch (sqlite3_column_type(lite_->stmt, i)) {
+    case SQLITE_NULL:
+        return {};
+    case SQLITE_INTEGER:
+        return qint64(sqlite3_column_int64(lite_->stmt, i));
+    case SQLITE_FLOAT:
+        return sqlite3_column_double(lite_->stmt, i);
+    default:
+        return Text(i);
+    }
+}
