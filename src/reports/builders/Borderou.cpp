@@ -12,6 +12,7 @@
 #include "reports/export/Ods.h"
 #include "reports/export/Xlsx.h"
 #include "store/BazaDate.h"
+#include "store/CitireRapida.h"
 
 #include <QDir>
 #include <array>
@@ -64,15 +65,8 @@ QString CampOrdonare(int ord) {
 }
 
 // The numbers the spreadsheet takes as numbers; a missing one stays an empty cell.
-void Intreg(Grila& g, int rand, int col, const QVariant& v) {
-    if (!v.isNull()) g.Scrie(rand, col, QString::number(v.toLongLong()), v.toLongLong());
-}
-
-QDate Data(const QVariant& v) {
-    if (v.isNull()) return {};
-    if (v.typeId() == QMetaType::QDate) return v.toDate();
-    if (v.typeId() == QMetaType::QDateTime) return v.toDateTime().date();
-    return QDate::fromString(v.toString().left(10), Qt::ISODate);
+void Intreg(Grila& g, int rand, int col, const CitireRapida& q, int i) {
+    if (!q.EsteNul(i)) g.Scrie(rand, col, QString::number(q.Intreg(i)), q.Intreg(i));
 }
 
 } // namespace
@@ -148,7 +142,7 @@ Grila Borderou(BazaDate& db, Mesaje& m, const Setari& s, const AlegeriBorderou& 
     }
     if (a.tipAloc != 0) sql += QStringLiteral(" AND C.TipCerere = ?");
     sql += ClauzaOrdonareBorderou(a.ord1, a.ord2);
-    Interogare q(db, sql);
+    CitireRapida q(db, sql);
     for (int stare : stari)
         q.Leaga(stare);
     if (a.tipAloc != 0) q.Leaga(a.tipAloc);
@@ -163,18 +157,18 @@ Grila Borderou(BazaDate& db, Mesaje& m, const Setari& s, const AlegeriBorderou& 
     Bani total;
     while (q.Urmator()) {
         if (rand == g.Randuri()) g.SeteazaRanduri(rand + Pas);
-        const auto text = [&](int i) { return q.Valoare(i).toString(); };
+        const auto text = [&](int i) { return q.Text(i); };
         const qint64 nr = rand - primul + 1;
         g.Scrie(rand, 1, QString::number(nr), nr);
-        g.Scrie(rand, 2, text(0) + QStringLiteral(" / ") + FormatData(Data(q.Valoare(1))));
+        g.Scrie(rand, 2, text(0) + QStringLiteral(" / ") + FormatData(q.Data(1)));
         g.Scrie(rand, 3, text(2) + QLatin1Char(' ') + text(3));
         g.Scrie(rand, 4, text(4));
         g.Scrie(rand, 5, AdresaRaport(text(5), strada, text(6), text(7), text(8), text(9)));
         g.Scrie(rand, 6, q.Valoare(10).toBool() ? QStringLiteral("DA") : QStringLiteral("NU"));
-        Intreg(g, rand, 7, q.Valoare(11));
-        Intreg(g, rand, 8, q.Valoare(12));
-        if (!q.Valoare(13).isNull()) {
-            const Bani cuantum = Bani::DinVariant(q.Valoare(13));
+        Intreg(g, rand, 7, q, 11);
+        Intreg(g, rand, 8, q, 12);
+        if (!q.EsteNul(13)) {
+            const Bani cuantum = q.Suma(13);
             total += cuantum;
             g.Scrie(rand, ColoanaSuma, TextSuma(cuantum), QVariant::fromValue(cuantum));
         }
