@@ -10,6 +10,7 @@
 #include "reports/builders/Constructori.h"
 #include "reports/export/SablonOds.h"
 #include "store/BazaDate.h"
+#include "store/CitireRapida.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -397,7 +398,7 @@ std::vector<Valori> CitesteRanduri(int fel, BazaDate& db, const Alegeri& a) {
                        "WHERE +C.Stare IN (%1) AND C.DataStare >= ? AND C.DataStare < ?%2")
             .arg(semne.join(QStringLiteral(", ")),
                  ordine.isEmpty() ? QStringLiteral(" ORDER BY C.CerereID") : ordine + QStringLiteral(", C.CerereID"));
-    Interogare q(db, sql);
+    CitireRapida q(db, sql);
     for (int s : stari)
         q.Leaga(s);
     const QDate inceput(a.an, a.luna, 1);
