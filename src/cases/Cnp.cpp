@@ -16,7 +16,11 @@ int cifra(const QString& cnp, int pozitie) {
 
 // The number written at a 0-based position over two characters, read as Val reads it.
 int numarDinDoua(const QString& cnp, int pozitie) {
-    return static_cast<int>(Val(QStringView(cnp).mid(pozitie, 2)));
+    // Two digits, as nearly every code has them, are read straight; anything else as Val reads it.
+    const QStringView doua = QStringView(cnp).mid(pozitie, 2);
+    if (doua.size() == 2 && doua[0].isDigit() && doua[1].isDigit() && doua[0].unicode() < 128 && doua[1].unicode() < 128)
+        return (doua[0].unicode() - u'0') * 10 + (doua[1].unicode() - u'0');
+    return static_cast<int>(Val(doua));
 }
 
 // A date from a year, a month and a day that may overflow: the surplus carries into the next

@@ -15,7 +15,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <cmath>
-#include <map>
+#include <algorithm>
+#include <span>
+#include <vector>
 
 namespace Raport {
 namespace {
@@ -23,6 +25,27 @@ namespace {
 const Aliniere Stanga{Orizontal::Stanga, Vertical::Centru};
 const Aliniere Dreapta{Orizontal::Dreapta, Vertical::Centru};
 const Aliniere Centru{Orizontal::Centru, Vertical::Centru};
+
+// The other members of many requests, read in one query ordered by request, then looked up by
+// request: one block of rows rather than a small list for every request.
+template <typename T> class PeCerere {
+public:
+    void Adauga(qint64 cerere, T x) {
+        if (inceputuri_.empty() || inceputuri_.back().first != cerere) inceputuri_.push_back({cerere, randuri_.size()});
+        randuri_.push_back(std::move(x));
+    }
+    std::span<const T> Al(qint64 cerere) const {
+        const auto gasit = std::lower_bound(inceputuri_.begin(), inceputuri_.end(), cerere,
+                                            [](const auto& p, qint64 c) { return p.first < c; });
+        if (gasit == inceputuri_.end() || gasit->first != cerere) return {};
+        const size_t sfarsit = gasit + 1 == inceputuri_.end() ? randuri_.size() : (gasit + 1)->second;
+        return std::span<const T>(randuri_).subspan(gasit->second, sfarsit - gasit->second);
+    }
+
+private:
+    std::vector<std::pair<qint64, size_t>> inceputuri_;
+    std::vector<T> randuri_;
+};
 
 QDate PrimaZi(int an, int luna) {
     return QDate(an, 1, 1).addMonths(luna - 1);
@@ -154,7 +177,7 @@ Grila ListaCereri(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alege
     };
 
     // The other members of the listed requests, all at once, by request.
-    std::map<qint64, std::vector<std::pair<QString, QString>>> membri;
+    PeCerere<std::pair<QString, QString>> membri;
     if (a.membri && !foaie) {
         CitireRapida q(db, QStringLiteral("SELECT CM.CerereID, M.Nume, M.Prenume, M.CNP FROM CereriMembrii CM, Membrii M "
                                         "WHERE CM.MembruID = M.MembruID AND CM.RudenieID > 1 AND CM.CerereID IN "
@@ -163,7 +186,7 @@ Grila ListaCereri(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alege
         leaga(q);
         q.Executa();
         while (q.Urmator())
-            membri[q.Intreg("CerereID")].push_back({NumePrenume(q), Text(q, "CNP")});
+            membri.Adauga(q.Intreg("CerereID"), {NumePrenume(q), Text(q, "CNP")});
     }
     CitireRapida q(db, QStringLiteral("SELECT ") + CampuriCerere +
                          QStringLiteral(", M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, Membrii M WHERE ") +
@@ -173,9 +196,7 @@ Grila ListaCereri(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alege
     while (q.Urmator()) {
         const QString adresa = Adresa(q, mediu);
         RandCerere(l, q, NumePrenume(q), Text(q, "CNP"), &adresa);
-        const auto gasit = membri.find(q.Intreg("CerereID"));
-        if (gasit != membri.end())
-            for (const auto& [nume, cnp] : gasit->second)
+        for (const auto& [nume, cnp] : membri.Al(q.Intreg("CerereID")))
                 RandCerere(l, q, nume, cnp, &adresa);
     }
     l.Incheie();
@@ -325,9 +346,9 @@ Grila ListaPersoane(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Ale
             copii ? QStringLiteral("LISTA COPII") : QStringLiteral("LISTA ADULTI"), true, a.luna, a.an);
     CitireRapida q(db,
                  QStringLiteral("SELECT ") + CampuriCerere +
-                     QStringLiteral(", M.Nume, M.Prenume, M.CNP, (SELECT T.Nume FROM Membrii T WHERE T.MembruID = "
-                                    "C.MembruID1) AS TitularN, (SELECT T.Prenume FROM Membrii T WHERE T.MembruID = "
-                                    "C.MembruID1) AS TitularP FROM Familii F, Cereri C, CereriMembrii CM, Membrii M "
+                     QStringLiteral(", M.Nume, M.Prenume, M.CNP, T.Nume AS TitularN, T.Prenume AS TitularP FROM "
+                                    "Familii F, Cereri C LEFT JOIN Membrii T ON T.MembruID = C.MembruID1, "
+                                    "CereriMembrii CM, Membrii M "
                                     "WHERE F.FamilieID = C.FamilieID AND C.CerereID = CM.CerereID AND "
                                     "M.MembruID = CM.MembruID AND C.Stare IN (1, 2, 6, 7, 8) AND CM.RudenieID IN ") +
                      (copii ? QStringLiteral("(3, 6, 7, 8, 9)") : QStringLiteral("(1, 2, 4, 5)")) +
@@ -399,7 +420,7 @@ Grila SituatieCentralizata(BazaDate& db, Mesaje& m, const MediuRaport& mediu, co
                                             : clauza + QStringLiteral(", C.CerereID");
     const QString cereri = QStringLiteral("FROM Cereri C LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 LEFT JOIN "
                                           "Familii F ON F.FamilieID = C.FamilieID WHERE C.Stare IN (1, 2, 6, 7, 8, 9)");
-    std::map<qint64, std::vector<std::pair<QString, QString>>> altii;
+    PeCerere<std::pair<QString, QString>> altii;
     {
         CitireRapida q(db,
                      QStringLiteral("SELECT CM.CerereID, P.Nume, P.Prenume, P.CNP FROM CereriMembrii CM LEFT JOIN "
@@ -409,7 +430,7 @@ Grila SituatieCentralizata(BazaDate& db, Mesaje& m, const MediuRaport& mediu, co
                                         "C2.CerereID = CM.CerereID) ORDER BY CM.CerereID, CM.MembruID"));
         q.Executa();
         while (q.Urmator())
-            altii[q.Intreg("CerereID")].push_back({NumePrenume(q), Text(q, "CNP")});
+            altii.Adauga(q.Intreg("CerereID"), {NumePrenume(q), Text(q, "CNP")});
     }
     CitireRapida q(db, QStringLiteral("SELECT C.CerereID, C.NrCerere, C.NrMembrii, M.Nume, M.Prenume, M.CNP ") + cereri +
                          ordine);
@@ -428,7 +449,7 @@ Grila SituatieCentralizata(BazaDate& db, Mesaje& m, const MediuRaport& mediu, co
         g.Scrie(primul, 2, NumePrenume(q));
         g.Scrie(primul, 3, Text(q, "CNP"));
         g.Scrie(primul, 4, NumarText(q, "NrMembrii"), Numar(q, "NrMembrii"));
-        const auto& membri = altii[q.Intreg("CerereID")];
+        const auto membri = altii.Al(q.Intreg("CerereID"));
         for (size_t i = 0; i < membri.size(); ++i) {
             const int rm = i == 0 ? primul : rand();
             g.Scrie(rm, 5, membri[i].first);
@@ -514,7 +535,7 @@ Grila ListaMembrii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Aleg
         QStringLiteral("FROM Familii F, Cereri C, CereriMembrii CM, Membrii M WHERE "
                        "F.FamilieID = C.FamilieID AND C.CerereID = CM.CerereID AND "
                        "M.MembruID = CM.MembruID AND CM.RudenieID = 1 AND C.Stare IN (1, 2, 6, 7, 8)");
-    std::map<qint64, std::vector<std::tuple<QString, QString, QString>>> membri;
+    PeCerere<std::tuple<QString, QString, QString>> membri;
     {
         CitireRapida q(db, QStringLiteral("SELECT CM.CerereID, M.Nume, M.Prenume, M.CNP, M.NrBI FROM Membrii M, "
                                         "CereriMembrii CM WHERE M.MembruID = CM.MembruID AND CM.RudenieID > 1 AND "
@@ -522,7 +543,7 @@ Grila ListaMembrii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Aleg
                              titulari + QStringLiteral(") ORDER BY CM.CerereID, M.Nume, M.Prenume, M.MembruID"));
         q.Executa();
         while (q.Urmator())
-            membri[q.Intreg("CerereID")].push_back({NumePrenume(q), Text(q, "CNP"), Text(q, "NrBI")});
+            membri.Adauga(q.Intreg("CerereID"), {NumePrenume(q), Text(q, "CNP"), Text(q, "NrBI")});
     }
     CitireRapida q(db, QStringLiteral("SELECT C.CerereID, F.NrDosar, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, M.Nume, "
                                     "M.Prenume, M.CNP, M.NrBI ") +
@@ -536,7 +557,7 @@ Grila ListaMembrii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Aleg
     };
     while (q.Urmator()) {
         rand(q, NumePrenume(q), Text(q, "CNP"), Text(q, "NrBI"));
-        for (const auto& [nume, cnp, bi] : membri[q.Intreg("CerereID")])
+        for (const auto& [nume, cnp, bi] : membri.Al(q.Intreg("CerereID")))
             rand(q, nume, cnp, bi);
     }
     l.Incheie();
