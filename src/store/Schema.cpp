@@ -284,6 +284,8 @@ std::vector<IndexSchema> construiesteIndexuri() {
         ix("Cereri", {"TitularNume", "TitularPrenume"}),
         ix("Cereri", {"AdresaOrdine"}),
         ix("CereriMembrii", {"MembruID"}),
+        // The list of the children who come of age in a month.
+        ix("CereriMembrii", {"Data18Ani"}),
         ix("Membrii", {"CNP"}),
         prefix("Membrii", {"NumeCautare"}),
         prefix("Membrii", {"PrenumeCautare"}),
