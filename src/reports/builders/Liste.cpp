@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <cmath>
 #include <algorithm>
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -42,10 +43,46 @@ public:
         return std::span<const T>(randuri_).subspan(gasit->second, sfarsit - gasit->second);
     }
 
+    // Each request's rows put in order among themselves.
+    template <typename Cmp> void Ordoneaza(Cmp cmp) {
+        for (size_t i = 0; i < inceputuri_.size(); ++i) {
+            const size_t sfarsit = i + 1 == inceputuri_.size() ? randuri_.size() : inceputuri_[i + 1].second;
+            std::sort(randuri_.begin() + std::ptrdiff_t(inceputuri_[i].second),
+                      randuri_.begin() + std::ptrdiff_t(sfarsit), cmp);
+        }
+    }
+
 private:
     std::vector<std::pair<qint64, size_t>> inceputuri_;
     std::vector<T> randuri_;
 };
+
+struct AltMembru {
+    QString nume, prenume, cnp, bi;
+    qint64 id = 0;
+    QString NumePrenume() const { return nume + QLatin1Char(' ') + prenume; }
+};
+
+// The other members (kinship above 1) of the requests that the subquery `cereri` selects, each
+// request's by name. The engine returns them in its key's order and the few of each request are
+// sorted here: sorting millions of rows by request and name would cost the engine far more.
+PeCerere<AltMembru> AltiMembri(BazaDate& db, const QString& cereri, const std::function<void(CitireRapida&)>& leaga) {
+    PeCerere<AltMembru> membri;
+    CitireRapida q(db, QStringLiteral("SELECT CM.CerereID, CM.MembruID, M.Nume, M.Prenume, M.CNP, M.NrBI FROM "
+                                      "CereriMembrii CM, Membrii M WHERE CM.MembruID = M.MembruID AND "
+                                      "CM.RudenieID > 1 AND CM.CerereID IN (") +
+                           cereri + QStringLiteral(") ORDER BY CM.CerereID"));
+    leaga(q);
+    q.Executa();
+    while (q.Urmator())
+        membri.Adauga(q.Intreg(0), {q.Text(2), q.Text(3), q.Text(4), q.Text(5), q.Intreg(1)});
+    membri.Ordoneaza([](const AltMembru& x, const AltMembru& y) {
+        if (const int c = QString::compare(x.nume, y.nume)) return c < 0;
+        if (const int c = QString::compare(x.prenume, y.prenume)) return c < 0;
+        return x.id < y.id;
+    });
+    return membri;
+}
 
 QDate PrimaZi(int an, int luna) {
     return QDate(an, 1, 1).addMonths(luna - 1);
@@ -180,17 +217,10 @@ Grila ListaCereri(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alege
     };
 
     // The other members of the listed requests, all at once, by request.
-    PeCerere<std::pair<QString, QString>> membri;
-    if (a.membri && !foaie) {
-        CitireRapida q(db, QStringLiteral("SELECT CM.CerereID, M.Nume, M.Prenume, M.CNP FROM CereriMembrii CM, Membrii M "
-                                        "WHERE CM.MembruID = M.MembruID AND CM.RudenieID > 1 AND CM.CerereID IN "
-                                        "(SELECT C.CerereID FROM Familii F, Cereri C, Membrii M WHERE ") +
-                             conditii + QStringLiteral(") ORDER BY CM.CerereID, M.Nume, M.Prenume, M.MembruID"));
-        leaga(q);
-        q.Executa();
-        while (q.Urmator())
-            membri.Adauga(q.Intreg("CerereID"), {NumePrenume(q), Text(q, "CNP")});
-    }
+    PeCerere<AltMembru> membri;
+    if (a.membri && !foaie)
+        membri = AltiMembri(db, QStringLiteral("SELECT C.CerereID FROM Familii F, Cereri C, Membrii M WHERE ") + conditii,
+                            leaga);
     CitireRapida q(db, QStringLiteral("SELECT ") + CampuriCerere +
                          QStringLiteral(", M.Nume, M.Prenume, M.CNP FROM Familii F, Cereri C, Membrii M WHERE ") +
                          conditii + Ordine(a, QStringLiteral("C.CerereID")));
@@ -199,8 +229,8 @@ Grila ListaCereri(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alege
     while (q.Urmator()) {
         const QString adresa = Adresa(q, mediu);
         RandCerere(l, q, NumePrenume(q), Text(q, "CNP"), &adresa);
-        for (const auto& [nume, cnp] : membri.Al(q.Intreg("CerereID")))
-                RandCerere(l, q, nume, cnp, &adresa);
+        for (const AltMembru& x : membri.Al(q.Intreg("CerereID")))
+                RandCerere(l, q, x.NumePrenume(), x.cnp, &adresa);
     }
     l.Incheie();
     return g;
@@ -538,30 +568,24 @@ Grila ListaMembrii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Aleg
         QStringLiteral("FROM Familii F, Cereri C, CereriMembrii CM, Membrii M WHERE "
                        "F.FamilieID = C.FamilieID AND C.CerereID = CM.CerereID AND "
                        "M.MembruID = CM.MembruID AND CM.RudenieID = 1 AND +C.Stare IN (1, 2, 6, 7, 8)");
-    PeCerere<std::tuple<QString, QString, QString>> membri;
-    {
-        CitireRapida q(db, QStringLiteral("SELECT CM.CerereID, M.Nume, M.Prenume, M.CNP, M.NrBI FROM Membrii M, "
-                                        "CereriMembrii CM WHERE M.MembruID = CM.MembruID AND CM.RudenieID > 1 AND "
-                                        "CM.CerereID IN (SELECT C.CerereID ") +
-                             titulari + QStringLiteral(") ORDER BY CM.CerereID, M.Nume, M.Prenume, M.MembruID"));
-        q.Executa();
-        while (q.Urmator())
-            membri.Adauga(q.Intreg("CerereID"), {NumePrenume(q), Text(q, "CNP"), Text(q, "NrBI")});
-    }
+    const PeCerere<AltMembru> membri = AltiMembri(db, QStringLiteral("SELECT C.CerereID ") + titulari, [](CitireRapida&) {});
     CitireRapida q(db, QStringLiteral("SELECT C.CerereID, F.NrDosar, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, M.Nume, "
                                     "M.Prenume, M.CNP, M.NrBI ") +
                          titulari + Ordine(a, QStringLiteral("C.CerereID, CM.MembruID")));
     q.Executa();
-    const auto rand = [&](const CitireRapida& q, const QString& nume, const QString& cnp, const QString& bi) {
-        const qint64 nr = l.Randuri() + 1;
-        l.Rand({QString::number(nr), nume, Text(q, "Localitate"), Adresa(q, mediu), cnp, bi, NumarText(q, "NrDosar"),
-                QStringLiteral("ASF")},
-               {nr, {}, {}, {}, {}, {}, Numar(q, "NrDosar")});
-    };
+    const QString asf = QStringLiteral("ASF");
     while (q.Urmator()) {
-        rand(q, NumePrenume(q), Text(q, "CNP"), Text(q, "NrBI"));
-        for (const auto& [nume, cnp, bi] : membri.Al(q.Intreg("CerereID")))
-            rand(q, nume, cnp, bi);
+        // What the family's rows share, read once for all of them.
+        const QString localitate = Text(q, "Localitate"), adresa = Adresa(q, mediu), dosar = NumarText(q, "NrDosar");
+        const QVariant nrDosar = Numar(q, "NrDosar");
+        const auto rand = [&](const QString& nume, const QString& cnp, const QString& bi) {
+            const qint64 nr = l.Randuri() + 1;
+            l.Rand({QString::number(nr), nume, localitate, adresa, cnp, bi, dosar, asf},
+                   {nr, {}, {}, {}, {}, {}, nrDosar});
+        };
+        rand(NumePrenume(q), Text(q, "CNP"), Text(q, "NrBI"));
+        for (const AltMembru& x : membri.Al(q.Intreg("CerereID")))
+            rand(x.NumePrenume(), x.cnp, x.bi);
     }
     l.Incheie();
     return g;
