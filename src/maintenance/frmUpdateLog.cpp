@@ -1,0 +1,31 @@
+#include "maintenance/frmUpdateLog.h"
+
+#include <QDialogButtonBox>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+frmUpdateLog::frmUpdateLog(const Updater::Mediu& mediu, QWidget* parinte) : QDialog(parinte) {
+    setObjectName(QStringLiteral("frmUpdateLog"));
+    setWindowTitle(QStringLiteral("Istoric actualizari"));
+    resize(560, 420);
+    auto* l = new QVBoxLayout(this);
+    Txt = new QPlainTextEdit(this);
+    Txt->setObjectName(QStringLiteral("Txt"));
+    Txt->setReadOnly(true);
+    l->addWidget(Txt);
+    auto* butoane = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    connect(butoane, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    l->addWidget(butoane);
+
+    if (!mediu.Activ()) {
+        Txt->setPlainText(QStringLiteral("Adresa serverului de actualizare nu este setata."));
+        return;
+    }
+    Txt->setPlainText(QStringLiteral("Se citeste istoricul actualizarilor . . ."));
+    Updater::InFundal<std::optional<QString>>(
+        this, [mediu] { return Updater::Istoric(mediu); },
+        [this](std::optional<QString> text) {
+            Txt->setPlainText(text ? *text
+                                   : QStringLiteral("Istoricul actualizarilor nu a putut fi citit de pe server."));
+        });
+}
