@@ -109,7 +109,7 @@ TEST(TextActualizare, CuratareSiSumaDeControl) {
         EXPECT_EQ(Updater::SumaCorespunde(BuildNou, fisier), corespunde) << fisier.constData();
 }
 
-class Actualizare : public TestBaza {
+class ActualizareProgram : public TestBaza {
 protected:
     std::optional<QString> Praguri() { return Updater::PraguriCurente(Bd()); }
     // The pass as start-up runs it: the network and the folder, then the database.
@@ -122,7 +122,7 @@ protected:
 
 // The three steps: the old build takes the verified one and hands over, the helper copies itself
 // over the old file, the new build cleans up, finds itself current and takes the thresholds.
-TEST_P(Actualizare, VersiuneNouaInTreiPasi) {
+TEST_P(ActualizareProgram, VersiuneNouaInTreiPasi) {
     BazaNoua();
     Instalare i;
     const auto praguriInainte = Praguri();
@@ -157,7 +157,7 @@ TEST_P(Actualizare, VersiuneNouaInTreiPasi) {
 
 // The server's text differs only in blanks and line ends: nothing is downloaded or written, and
 // the thresholds are taken only in the form the scale editor writes.
-TEST_P(Actualizare, AceeasiVersiuneSiPraguri) {
+TEST_P(ActualizareProgram, AceeasiVersiuneSiPraguri) {
     BazaNoua();
     const auto livrate = Praguri();
     ASSERT_TRUE(livrate);
@@ -184,7 +184,7 @@ TEST_P(Actualizare, AceeasiVersiuneSiPraguri) {
 
 // A due build that can't be trusted or may not be replaced: nothing is written and the pass goes
 // on to the thresholds.
-TEST_P(Actualizare, BuildRefuzat) {
+TEST_P(ActualizareProgram, BuildRefuzat) {
     BazaNoua();
     const QString build = Instalare::Cale("ferolanta/") + Updater::NumeExecutabil(T("ferolanta"));
     enum class Caz { SumaGresita, FaraSuma, BuildLipsa, Instalat };
@@ -206,7 +206,7 @@ TEST_P(Actualizare, BuildRefuzat) {
 
 // A redirect to another host, of the version or of the build, is not followed; one within the
 // same server is.
-TEST_P(Actualizare, RedirectareCatreAltServer) {
+TEST_P(ActualizareProgram, RedirectareCatreAltServer) {
     BazaNoua();
     const QString build = Instalare::Cale("ferolanta/") + Updater::NumeExecutabil(T("ferolanta"));
     for (const bool laBuild : {false, true}) {
@@ -229,10 +229,10 @@ TEST_P(Actualizare, RedirectareCatreAltServer) {
 
 // A server that takes the request and never answers: the pass gives up after its time-out, asks
 // for nothing more and writes nothing.
-TEST_P(Actualizare, ServerCareNuRaspunde) {
+TEST_P(ActualizareProgram, ServerCareNuRaspunde) {
     BazaNoua();
     const auto livrate = Praguri();
-    Instalare i(QByteArray());
+    Instalare i{QByteArray()};
     i.m.timpMaximMs = 300;
     i.server.Pune(Instalare::Cale("ferolanta/version.txt"), {200, "", {}, true});
     const auto r = Pas(i.m);
@@ -244,7 +244,7 @@ TEST_P(Actualizare, ServerCareNuRaspunde) {
     EXPECT_EQ(Praguri(), livrate);
 }
 
-PE_AMBELE_MOTOARE(Actualizare);
+PE_AMBELE_MOTOARE(ActualizareProgram);
 
 TEST(PredareActualizare, ArgumenteSiNume) {
     const std::tuple<QStringList, const char*, const char*> cazuri[] = {
