@@ -174,8 +174,8 @@ Updater::RezultatVerificare Updater::Verifica(const Mediu& m, const std::optiona
     r.versiuneLocala = CuratareText(citesteText(m.CaleVersiune()));
 
     const auto versiune = Descarcare::Descarca(m.AdresaVersiune(), m.timpMaximMs);
+    r.serverRaspunde = versiune.status != 0;
     if (versiune.stare == Descarcare::Raspuns::Stare::Expirat) return r;
-    r.serverRaspunde = true;
     if (versiune.Reusit()) {
         const QString text = CuratareText(QString::fromUtf8(versiune.corp));
         if (text.size() <= LungimeMaximaVersiune) r.versiuneServer = text;

@@ -69,7 +69,7 @@ struct Lansare {
 };
 
 struct RezultatVerificare {
-    bool serverRaspunde = false; // the version text was asked for and some answer came in time
+    bool serverRaspunde = false; // the server gave an HTTP answer, of any status, to the version request
     QString versiuneLocala;
     QString versiuneServer;
     // A verified build is in place and version.txt rewritten: start it and end at once.
