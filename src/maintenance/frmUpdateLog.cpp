@@ -1,6 +1,9 @@
 #include "maintenance/frmUpdateLog.h"
 
-#include <QDialogButtonBox>
+#include "ui/UiButoane.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
@@ -13,9 +16,10 @@ frmUpdateLog::frmUpdateLog(const Updater::Mediu& mediu, QWidget* parinte) : QDia
     Txt->setObjectName(QStringLiteral("Txt"));
     Txt->setReadOnly(true);
     l->addWidget(Txt);
-    auto* butoane = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    connect(butoane, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    l->addWidget(butoane);
+    auto* rand = new QHBoxLayout;
+    rand->addStretch();
+    connect(Buton(this, rand, "cmdClose", QStringLiteral("Inchide")), &QPushButton::clicked, this, &QDialog::reject);
+    l->addLayout(rand);
 
     if (!mediu.Activ()) {
         Txt->setPlainText(QStringLiteral("Adresa serverului de actualizare nu este setata."));
