@@ -59,8 +59,8 @@ bool FisiereWeb::InterogariValide(const QByteArray& corp) {
 
 bool FisiereWeb::FontValid(const QByteArray& corp) {
     // The sfnt tables need more than their directory; the four bytes name the outline kind.
-    return corp.size() > 256 && (corp.startsWith(QByteArray("\x00\x01\x00\x00", 4)) || corp.startsWith("true") ||
-                                 corp.startsWith("OTTO"));
+    return corp.size() > 256 &&
+           (corp.startsWith(QByteArray("\x00\x01\x00\x00", 4)) || corp.startsWith("true") || corp.startsWith("OTTO"));
 }
 
 FisiereWeb::Rezultat FisiereWeb::Actualizeaza(const Updater::Mediu& m, const PunteWeb::MediuWeb& w) {

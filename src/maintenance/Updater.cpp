@@ -270,16 +270,14 @@ Updater::RezultatClonare Updater::Cloneaza(const QString& sursa, const QString& 
     return r;
 }
 
-std::optional<Updater::RezultatClonare> Updater::ClonareLaPornire(const QStringList& argumente,
-                                                                  const QString& fisierSetari,
-                                                                  const QString& executabil) {
+std::optional<Updater::RezultatClonare>
+Updater::ClonareLaPornire(const QStringList& argumente, const QString& fisierSetari, const QString& executabil) {
     const auto a = CitesteArgumente(argumente);
     if (!a || a->verb != VerbClonare) return std::nullopt;
     const QString generale = QStringLiteral("Generale");
     if (Val(ServiciuFisiere::CitesteIni(fisierSetari, generale, QStringLiteral("OpresteActualizareAutomata"))) != 0)
         return std::nullopt;
-    if (BazaDinText(ServiciuFisiere::CitesteIni(fisierSetari, generale, QStringLiteral("ServerActualizare")))
-            .isEmpty())
+    if (BazaDinText(ServiciuFisiere::CitesteIni(fisierSetari, generale, QStringLiteral("ServerActualizare"))).isEmpty())
         return std::nullopt;
     return Cloneaza(executabil, a->operand);
 }

@@ -129,8 +129,7 @@ std::optional<RezultatClonare> ClonareLaPornire(const QStringList& argumente, co
 
 // Runs `lucru` on a thread of its own and hands its result to `gata` on the thread of `context`,
 // unless `context` is gone by then.
-template <class T>
-void InFundal(QObject* context, std::function<T()> lucru, std::function<void(T)> gata) {
+template <class T> void InFundal(QObject* context, std::function<T()> lucru, std::function<void(T)> gata) {
     auto rezultat = std::make_shared<std::optional<T>>();
     QThread* fir = QThread::create([rezultat, lucru] { *rezultat = lucru(); });
     QObject::connect(fir, &QThread::finished, context, [rezultat, gata] {

@@ -3,8 +3,8 @@
 #include "ui/UiButoane.h"
 
 #include <QHBoxLayout>
-#include <QPushButton>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 frmUpdateLog::frmUpdateLog(const Updater::Mediu& mediu, QWidget* parinte) : QDialog(parinte) {

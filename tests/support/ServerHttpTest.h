@@ -53,8 +53,9 @@ private:
             const auto it = raspunsuri_.constFind(cale);
             const Raspuns r = it == raspunsuri_.constEnd() ? Raspuns{404, "lipsa", {}, false} : *it;
             if (r.tace) return;
-            QByteArray text = "HTTP/1.1 " + QByteArray::number(r.status) + " X\r\nContent-Length: " +
-                              QByteArray::number(r.corp.size()) + "\r\nConnection: close\r\n";
+            QByteArray text = "HTTP/1.1 " + QByteArray::number(r.status) +
+                              " X\r\nContent-Length: " + QByteArray::number(r.corp.size()) +
+                              "\r\nConnection: close\r\n";
             if (!r.locatie.isEmpty()) text += "Location: " + r.locatie + "\r\n";
             s->write(text + "\r\n" + r.corp);
             s->disconnectFromHost();

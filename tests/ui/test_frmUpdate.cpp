@@ -25,7 +25,7 @@ Updater::Mediu MediuPe(const ServerHttpTest& server, const QString& folder) {
 class FereastraActualizare : public TestBaza {};
 
 // Started after a hand-over: says so, removes the helper's file, stores the server's thresholds
-// and closes by itself, with the window painting all the while.
+// and closes by itself.
 TEST_P(FereastraActualizare, DupaPredareIaPragurileSiSeInchide) {
     BazaNoua();
     QTemporaryDir dir;
