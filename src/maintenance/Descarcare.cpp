@@ -18,7 +18,7 @@ bool Descarcare::AdresaPermisa(const QUrl& adresa) {
     return !ip.isNull() && ip.isLoopback();
 }
 
-Descarcare::Raspuns Descarcare::Descarca(const QUrl& adresa, int timpMaximMs) {
+Descarcare::Raspuns Descarcare::Descarca(const QUrl& adresa, int timpMaximMs, const Progres& progres) {
     Raspuns r;
     if (!AdresaPermisa(adresa)) {
         r.stare = Raspuns::Stare::Refuzat;
@@ -39,7 +39,10 @@ Descarcare::Raspuns Descarcare::Descarca(const QUrl& adresa, int timpMaximMs) {
         expirat = true;
         raspuns->abort();
     });
-    QObject::connect(raspuns, &QNetworkReply::downloadProgress, &ceas, [&] { ceas.start(timpMaximMs); });
+    QObject::connect(raspuns, &QNetworkReply::downloadProgress, &ceas, [&](qint64 primit, qint64 total) {
+        ceas.start(timpMaximMs);
+        if (progres) progres(primit, total);
+    });
     QObject::connect(raspuns, &QNetworkReply::finished, &bucla, &QEventLoop::quit);
     ceas.start(timpMaximMs);
     if (!raspuns->isFinished()) bucla.exec();

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QUrl>
+#include <functional>
 
 // Fetching one file from the update server. Every request is a GET with a time-out, only to an
 // address the program may trust, and it never follows a redirect to another place.
@@ -28,6 +29,8 @@ struct Raspuns {
 // Fetches `adresa` and waits for it on the calling thread's own event loop, so it belongs on a
 // thread other than the window's. A redirect is followed only to the same scheme, host and port.
 // `timpMaximMs` counts from the last byte received: a large file that keeps coming is not cut.
-Raspuns Descarca(const QUrl& adresa, int timpMaximMs = TimpMaximImplicitMs);
+// `progres`, when given, hears the bytes received and the total (-1 when unknown), on this thread.
+using Progres = std::function<void(qint64 primit, qint64 total)>;
+Raspuns Descarca(const QUrl& adresa, int timpMaximMs = TimpMaximImplicitMs, const Progres& progres = {});
 
 } // namespace Descarcare

@@ -57,7 +57,7 @@ bool numeSimplu(const QString& nume) {
 // The downloaded build, verified, saved as "new" and checked again on disk; then version.txt.
 // Returns the refusal, or nothing when the build is ready to take over.
 QString pregatesteBuild(const Updater::Mediu& m, const QString& versiune) {
-    const auto build = Descarcare::Descarca(m.AdresaBuild(), m.timpMaximMs);
+    const auto build = Descarcare::Descarca(m.AdresaBuild(), m.timpMaximMs, m.progresBuild);
     if (!build.Reusit()) return QStringLiteral("Versiunea noua nu a putut fi descarcata.");
     QUrl adresaSuma = m.AdresaBuild();
     adresaSuma.setPath(adresaSuma.path() + QStringLiteral(".sha256"));
@@ -150,6 +150,11 @@ QString Updater::Mediu::CaleVersiune() const {
 
 QString Updater::Mediu::CaleNou() const {
     return QDir(folderExecutabil).filePath(NumeExecutabil(Nou));
+}
+
+QString Updater::TextProgres(qint64 primit, qint64 total) {
+    if (total > 0) return QStringLiteral("Actualizare aplicatie . . . %1%").arg(primit * 100 / total);
+    return QStringLiteral("Actualizare aplicatie . . . %1 KB").arg(primit / 1024);
 }
 
 QString Updater::CuratareText(const QString& text) {

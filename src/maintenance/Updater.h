@@ -38,6 +38,7 @@ struct Mediu {
     QString folderExecutabil; // holds the executable and the downloaded build
     bool portabil = false;    // the executable is the office's own copy and may be replaced
     int timpMaximMs = Descarcare::TimpMaximImplicitMs;
+    Descarcare::Progres progresBuild; // hears the download of a new build, on the pass's thread
 
     // The running program with the server address of the settings. Portable when the data folder
     // is the executable's folder and that folder can be written.
@@ -55,6 +56,10 @@ struct Mediu {
 // The server address as written in the settings: a folder, so a missing final "/" is added;
 // blank or not a web address gives an empty one.
 QUrl BazaDinText(const QString& text);
+
+// What the update window says while a new build comes: the share received, or the amount when the
+// server does not tell the size.
+QString TextProgres(qint64 primit, qint64 total);
 
 // The lines of a text trimmed and joined with the line breaks gone.
 QString CuratareText(const QString& text);

@@ -30,7 +30,13 @@ void frmUpdate::Timer_Timer() {
         return;
     }
     poatePorni_ = false;
-    const Updater::Mediu mediu = mediu_;
+    Updater::Mediu mediu = mediu_;
+    // The window outlives the pass, and a report that comes after it is gone is dropped.
+    mediu.progresBuild = [this](qint64 primit, qint64 total) {
+        QMetaObject::invokeMethod(
+            this, [this, primit, total] { Label1->setText(Updater::TextProgres(primit, total)); },
+            Qt::QueuedConnection);
+    };
     const std::optional<QString> praguri = praguri_;
     Updater::InFundal<Updater::RezultatVerificare>(
         this, [mediu, praguri] { return Updater::Verifica(mediu, praguri); },

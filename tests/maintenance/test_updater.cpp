@@ -126,8 +126,11 @@ TEST_P(ActualizareProgram, VersiuneNouaInTreiPasi) {
     BazaNoua();
     Instalare i;
     const auto praguriInainte = Praguri();
+    qint64 primit = 0;
+    i.m.progresBuild = [&](qint64 p, qint64) { primit = p; };
 
     const auto r = Pas(i.m);
+    EXPECT_EQ(primit, BuildNou.size()) << "the window hears the build come in";
     ASSERT_TRUE(r.predare) << S(r.refuz);
     EXPECT_EQ(r.predare->program, i.Nou());
     EXPECT_EQ(r.predare->argumente, QStringList{T("--clone@ferolanta")});
