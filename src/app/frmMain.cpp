@@ -13,6 +13,8 @@
 #include "cases/frmAddCerere.h"
 #include "cases/frmAdeverinte.h"
 #include "cases/frmMembrii.h"
+#include "maintenance/FisiereWeb.h"
+#include "maintenance/frmUpdateLog.h"
 #include "reference/LunaLucru.h"
 #include "reference/frmChLunaAn.h"
 #include "reference/frmMotive.h"
@@ -466,9 +468,27 @@ void frmMain::resizeEvent(QResizeEvent* e) {
 void frmMain::TimerMSG_UPD_Timer() {
     ActivareComenzi();
     cmdPrintAncheta->setEnabled(cmdCerere->isEnabled());
+    const auto server = Updater::Mediu::DinProgram(p_.setari.ServerActualizare, p_.applicationPath);
+    const auto web = PunteWeb::MediuWeb::DinApplicationPath(p_.applicationPath, p_.setari.ServerCerere);
+    if (server.Activ())
+        Updater::InFundal<FisiereWeb::Rezultat>(
+            this, [server, web] { return FisiereWeb::Actualizeaza(server, web); },
+            [this](FisiereWeb::Rezultat r) {
+                if (!r.paginaScrisa && !r.interogariScrise) return;
+                ActivareComenzi();
+                cmdPrintAncheta->setEnabled(cmdCerere->isEnabled());
+            });
     // The printed forms use this font.
-    if (!FontInstalat(QStringLiteral("Monotype Corsiva")))
+    if (!FontInstalat(FisiereWeb::NumeFont)) {
         m_.Informatie(QStringLiteral("Fontul 'Monotype Corsiva' nu este instalat."));
+        // The system's font window installs it; the file comes from the server when the office has none.
+        const QString folder = p_.applicationPath;
+        Updater::InFundal<QString>(
+            this, [server, folder] { return FisiereWeb::DescarcaFont(server, folder); },
+            [](QString font) {
+                if (!font.isEmpty()) QDesktopServices::openUrl(QUrl::fromLocalFile(font));
+            });
+    }
 }
 
 bool frmMain::ScrieTitlul(bool cuMesaj) {
@@ -674,6 +694,10 @@ bool frmMain::eventFilter(QObject* obiect, QEvent* e) {
         }
     } else if (e->type() == QEvent::MouseButtonRelease && obiect == sbrMain[2]) {
         ArataLunaLucru(false);
+        return true;
+    } else if (e->type() == QEvent::MouseButtonRelease && obiect == sbrMain[4]) {
+        frmUpdateLog f(Updater::Mediu::DinProgram(p_.setari.ServerActualizare, p_.applicationPath), this);
+        f.exec();
         return true;
     } else if (e->type() == QEvent::MouseButtonRelease && obiect == picNotific) {
         picNotific_Click();

@@ -6,11 +6,15 @@
 #include "app/frmGeneral.h"
 #include "app/frmLogin.h"
 #include "app/frmMain.h"
+#include "maintenance/Updater.h"
+#include "maintenance/frmUpdate.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QLockFile>
+#include <QProcess>
 #include <QStandardPaths>
+#include <QThread>
 
 namespace {
 
@@ -22,6 +26,19 @@ int porneste(QApplication& app, UiMesaje& mesaje) {
         return 0;
     }
     if (pornire.stare != RezultatPornire::Stare::Deschisa) return 0;
+
+    if (!pornire.setari.OpresteActualizareAutomata) {
+        const auto mediu = Updater::Mediu::DinProgram(pornire.setari.ServerActualizare, pornire.applicationPath);
+        if (mediu.Activ()) {
+            frmUpdate actualizare(*pornire.bd, mediu, app.arguments().mid(1), mesaje);
+            actualizare.exec();
+            if (actualizare.predare) {
+                // The new build takes over from here; this one must be gone before it copies itself.
+                if (QProcess::startDetached(actualizare.predare->program, actualizare.predare->argumente)) return 0;
+                Updater::AnuleazaPredare(mediu, actualizare.rezultat);
+            }
+        }
+    }
 
     if (!pornire.setari.Parola.isEmpty()) {
         frmLogin login(pornire.setari.Parola, mesaje);
@@ -41,6 +58,23 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Ferolanta"));
     QApplication::setOrganizationName(QStringLiteral("Ferolanta"));
+
+    // The new build started by the old one to copy itself over it: no window, no lock, and it
+    // ends once the updated program is started.
+    if (const auto clonare = Updater::ClonareLaPornire(app.arguments().mid(1),
+                                                       QDir(Foldere::ApplicationPath()).filePath(Foldere::FisierSetari),
+                                                       QCoreApplication::applicationFilePath())) {
+        if (!clonare->reusit) {
+            UiMesaje mesaje;
+            mesaje.Critic(QStringLiteral("Programul %1 nu a putut fi inlocuit cu versiunea noua. Porneste versiunea "
+                                         "de pana acum.")
+                              .arg(QDir::toNativeSeparators(clonare->tinta)));
+        }
+        QThread::msleep(1000);
+        if (!clonare->urmator.program.isEmpty())
+            QProcess::startDetached(clonare->urmator.program, clonare->urmator.argumente);
+        return 0;
+    }
 
     // One copy per computer: a second one ends at once, silently.
     QString folderBlocare = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);

@@ -123,6 +123,7 @@ Setari IncarcaSetari(const QString& fisierIni, bool scrieImplicite) {
     const QString server = c.Text(Generale, QStringLiteral("ServerCerere")).trimmed();
     s.ServerCerere = server.isEmpty() ? ServerCerereImplicit : server;
     s.OpresteActualizareAutomata = c.Flag(Generale, QStringLiteral("OpresteActualizareAutomata"));
+    s.ServerActualizare = c.Text(Generale, QStringLiteral("ServerActualizare")).trimmed();
     // Read so that the options dialog shows the stored colour and its OK does not erase it.
     s.CuloareVenit = c.Text(Generale, QStringLiteral("CuloareVenit"));
     s.FolderExport = c.Text(Cale, QStringLiteral("FolderExport")).trimmed();

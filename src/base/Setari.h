@@ -16,6 +16,8 @@ struct Setari {
     QString CaleBD;
     QString Parola;
     bool OpresteActualizareAutomata = false;
+    // The folder of the update server; blank: the program never looks for a newer build.
+    QString ServerActualizare;
     // [Oblig]
     int NrCaractSerie = 0;
     bool ObligEmailPrimarie = false;

@@ -42,3 +42,9 @@ std::optional<QString> ContinutDateGen(BazaDate& db, const QString& denumire) {
     if (!q.Leaga(denumire).Exista()) return std::nullopt;
     return q.Valoare(0).toString();
 }
+
+int ScrieContinutDateGen(BazaDate& db, const QString& denumire, const QString& continut) {
+    Interogare q(db, QStringLiteral("UPDATE DateGen SET Continut = ? WHERE Denumire = ?"));
+    q.Leaga(continut).Leaga(denumire).Executa();
+    return q.RanduriAfectate();
+}

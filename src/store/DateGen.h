@@ -57,3 +57,5 @@ std::map<std::pair<TipDateGen, qint64>, QString> TexteDupaId(BazaDate& db, const
 QStringList ContinuturiDateGen(BazaDate& db, const QString& denumire);
 // The Continut of the row named `denumire`; nullopt without one.
 std::optional<QString> ContinutDateGen(BazaDate& db, const QString& denumire);
+// Sets the Continut of the rows named `denumire`; returns how many there were.
+int ScrieContinutDateGen(BazaDate& db, const QString& denumire, const QString& continut);

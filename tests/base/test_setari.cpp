@@ -78,6 +78,7 @@ TEST_F(FisierSetari, CheieCititaSiCeRamaneInFisier) {
         {"Afisari", "AfisCereri", "0", M(&Setari::AfisCereri), "1", nullptr},
         {"Generale", "AfisSerieStatPlata", "1", M(&Setari::AfisSerieStatPlata), "0", nullptr},
         {"Generale", "ServerCerere", "", M(&Setari::ServerCerere), S(ServerCerereImplicit), nullptr},
+        {"Generale", "ServerActualizare", "https://a.ro/u/", M(&Setari::ServerActualizare), "https://a.ro/u/", nullptr},
         {"Generale", "pass", "Secret 1", M(&Setari::Parola), "Secret 1", nullptr},
         {"Cale", "CaleWord", "C:\\Word", M(&Setari::CaleWord), "", nullptr},
         {"Fonturi", "FontSize0", "-3", M(&Setari::FontSize0), "10", nullptr},

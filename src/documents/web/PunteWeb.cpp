@@ -319,16 +319,21 @@ QString LiniePrefix(const QString& document, const QString& serverCerere) {
            PentruJs(server) + QStringLiteral("';");
 }
 
-QString JsonInterogari(BazaDate& db, const QString& continutFisier, qint64 cerereID) {
-    const std::vector<InterogareFisier> interogari = Interogari(continutFisier);
+std::optional<InterogareFisier> PrimaCareNuCiteste(const std::vector<InterogareFisier>& interogari) {
     static const QRegularExpression citire(QStringLiteral("^[\\s(]*(SELECT|WITH)\\b"),
                                            QRegularExpression::CaseInsensitiveOption);
     for (const auto& s : interogari)
-        if (!citire.match(s.text).hasMatch())
-            throw Eroare(QStringLiteral("Linia %1 a fisierului de interogari: sunt permise numai interogari care "
-                                        "citesc date (SELECT). Nu s-a rulat nimic.\n%2")
-                             .arg(s.linie)
-                             .arg(s.text));
+        if (!citire.match(s.text).hasMatch()) return s;
+    return std::nullopt;
+}
+
+QString JsonInterogari(BazaDate& db, const QString& continutFisier, qint64 cerereID) {
+    const std::vector<InterogareFisier> interogari = Interogari(continutFisier);
+    if (const auto s = PrimaCareNuCiteste(interogari))
+        throw Eroare(QStringLiteral("Linia %1 a fisierului de interogari: sunt permise numai interogari care "
+                                    "citesc date (SELECT). Nu s-a rulat nimic.\n%2")
+                         .arg(s->linie)
+                         .arg(s->text));
     TranzactieCitire doarCitire(db);
     QString json = QStringLiteral("[");
     int nr = 0;

@@ -57,6 +57,9 @@ struct InterogareFisier {
 // out. Blank statements are dropped.
 std::vector<InterogareFisier> Interogari(const QString& continutFisier);
 
+// The first statement that does not only read (a SELECT or WITH); nothing when all of them read.
+std::optional<InterogareFisier> PrimaCareNuCiteste(const std::vector<InterogareFisier>& interogari);
+
 // The settings file that the page is told about: a program name holding "318" picks setari318.ini,
 // else one holding "207" picks setari207.ini, in `folderProgram`; empty for neither or for a
 // missing file.
