@@ -83,55 +83,67 @@ void ScrieCuantumuri(BazaDate& db, const std::vector<std::pair<qint64, Bani>>& n
 
 Rezultat SchimbaIsr(BazaDate& db, const QString& valoare, Mesaje& m, const Progres& progres) {
     Rezultat rez;
-    Tranzactie t(db);
-    ScrieIsr(db, valoare);
-    // The scale, the thresholds and the ISR just written, read as the request editor reads them.
-    const ParametriCuantum p = IncarcaParametri(db);
-    CalculBarem calcul(p);
+    qint64 total = 0;
+    {
+        Tranzactie t(db);
+        ScrieIsr(db, valoare);
+        // The scale, the thresholds and the ISR just written, read as the request editor reads them.
+        const ParametriCuantum p = IncarcaParametri(db);
+        CalculBarem calcul(p);
 
-    const std::vector<Reduceri> reduceri = CitesteReduceri(db);
-    const qint64 total = NumarInPlata(db);
-    if (progres) progres(0, total);
+        const std::vector<Reduceri> reduceri = CitesteReduceri(db);
+        total = NumarInPlata(db);
+        if (progres) progres(0, total);
 
-    // Most requests are in payment: reading the table in the order of its key beats the index on Stare,
-    // whose rows would be fetched at random and then sorted (the unary plus keeps SQLite off that index).
-    Interogare q(db, QStringLiteral("SELECT CerereID, DataCerere, TipCerere, VenitpeMembru, NrCopii, Cuantum "
-                                    "FROM Cereri WHERE +Stare IN (?, ?, ?, ?) ORDER BY CerereID"));
-    for (int stare : {2, 6, 7, 8})
-        q.Leaga(stare);
-    q.Executa();
-    std::vector<std::pair<qint64, Bani>> noi;
-    auto red = reduceri.begin();
-    while (q.Urmator()) {
-        const qint64 id = q.Intreg(0);
-        DateBarem d;
-        d.Data = Data(q.Valoare(1));
-        d.TipCerere = int(q.Intreg(2));
-        d.VenitPeMembru = Bani::DinVariant(q.Valoare(3));
-        d.NrCopii = int(q.Intreg(4));
-        while (red != reduceri.end() && red->CerereID < id)
-            ++red;
-        if (red != reduceri.end() && red->CerereID == id) {
-            d.Diminuari20 = red->Diminuari20;
-            d.Diminuari50 = red->Diminuari50;
+        // Most requests are in payment: reading the table in the order of its key beats the index on
+        // Stare, whose rows would be fetched at random and then sorted (the unary plus keeps SQLite off
+        // that index).
+        Interogare q(db, QStringLiteral("SELECT CerereID, DataCerere, TipCerere, VenitpeMembru, NrCopii, Cuantum "
+                                        "FROM Cereri WHERE +Stare IN (?, ?, ?, ?) ORDER BY CerereID"));
+        for (int stare : {2, 6, 7, 8})
+            q.Leaga(stare);
+        q.Executa();
+        std::vector<std::pair<qint64, Bani>> noi;
+        auto red = reduceri.begin();
+        while (q.Urmator()) {
+            const qint64 id = q.Intreg(0);
+            DateBarem d;
+            d.Data = Data(q.Valoare(1));
+            d.TipCerere = int(q.Intreg(2));
+            d.VenitPeMembru = Bani::DinVariant(q.Valoare(3));
+            d.NrCopii = int(q.Intreg(4));
+            while (red != reduceri.end() && red->CerereID < id)
+                ++red;
+            if (red != reduceri.end() && red->CerereID == id) {
+                d.Diminuari20 = red->Diminuari20;
+                d.Diminuari50 = red->Diminuari50;
+            }
+            const RezultatBarem r = calcul.Calculeaza(d, m);
+            if (r.fel == RezultatBarem::Fel::FaraNivel) {
+                rez.Oprit = id;
+                break;
+            }
+            const Bani vechi = Bani::DinVariant(q.Valoare(5));
+            // A null amount becomes a stored 0 like any other change.
+            if (r.Cuantum != vechi || q.Valoare(5).isNull()) noi.emplace_back(id, r.Cuantum);
+            ++rez.Recalculate;
+            if (progres && rez.Recalculate % PasProgres == 0)
+                progres(rez.Recalculate, std::max(total, rez.Recalculate));
         }
-        const RezultatBarem r = calcul.Calculeaza(d, m);
-        if (r.fel == RezultatBarem::Fel::FaraNivel) {
-            m.Informatie(QStringLiteral("CerereID %1 fara copii sau data cerere mai mica de 01.11.2014 !").arg(id));
-            rez.Oprit = id;
-            rez.Recalculate = 0;
-            return rez;
+        if (!rez.Oprit) {
+            ScrieCuantumuri(db, noi);
+            t.Confirma();
+            rez.ok = true;
+            rez.Schimbate = qint64(noi.size());
         }
-        const Bani vechi = Bani::DinVariant(q.Valoare(5));
-        // A null amount becomes a stored 0 like any other change.
-        if (r.Cuantum != vechi || q.Valoare(5).isNull()) noi.emplace_back(id, r.Cuantum);
-        ++rez.Recalculate;
-        if (progres && rez.Recalculate % PasProgres == 0) progres(rez.Recalculate, std::max(total, rez.Recalculate));
     }
-    ScrieCuantumuri(db, noi);
-    t.Confirma();
-    rez.ok = true;
-    rez.Schimbate = qint64(noi.size());
+    // Told after the unit has ended, so that no other computer waits on the file while the box is open.
+    if (rez.Oprit) {
+        rez.Recalculate = 0;
+        m.Informatie(
+            QStringLiteral("CerereID %1 fara copii sau data cerere mai mica de 01.11.2014 !").arg(*rez.Oprit));
+        return rez;
+    }
     if (progres) progres(rez.Recalculate, std::max(total, rez.Recalculate));
     m.Informatie(QStringLiteral("A fost recalculat cuantumul pentru %1 cereri.").arg(rez.Recalculate));
     return rez;
