@@ -64,7 +64,8 @@ qint64 NumarInPlata(BazaDate& db) {
 void ScrieCuantumuri(BazaDate& db, const std::vector<std::pair<qint64, Bani>>& noi) {
     if (noi.empty()) return;
     const Dialect& d = db.dialect();
-    db.Executa(QStringLiteral("DROP TABLE IF EXISTS CuantumNou"));
+    // Made and dropped inside the caller's unit: a failure rolls its creation back with everything else,
+    // so none is ever left behind.
     db.Executa(QStringLiteral("CREATE TEMPORARY TABLE CuantumNou (CerereID %1 PRIMARY KEY, Cuantum %2)")
                    .arg(d.TipSql(TipCamp::Cheie, 0), d.TipSql(TipCamp::Currency, 0)));
     {
