@@ -110,4 +110,3 @@ TotaluriMembri RecalculTotaluri(int nrInLista, const std::optional<std::vector<M
 // point, no trailing zeros ("333.333333333333"). Empty when NrMembrii is not above 0: the box
 // then keeps its text.
 QString VenitPeMembruText(const Bani& venitTotal, int nrMembrii);
-

@@ -141,8 +141,7 @@ Rezultat SchimbaIsr(BazaDate& db, const QString& valoare, Mesaje& m, const Progr
     // Told after the unit has ended, so that no other computer waits on the file while the box is open.
     if (rez.Oprit) {
         rez.Recalculate = 0;
-        m.Informatie(
-            QStringLiteral("CerereID %1 fara copii sau data cerere mai mica de 01.11.2014 !").arg(*rez.Oprit));
+        m.Informatie(QStringLiteral("CerereID %1 fara copii sau data cerere mai mica de 01.11.2014 !").arg(*rez.Oprit));
         return rez;
     }
     if (progres) progres(rez.Recalculate, std::max(total, rez.Recalculate));

@@ -41,8 +41,8 @@ frmISR::frmISR(BazaDate& bd, Mesaje& m, QWidget* parinte) : QDialog(parinte), bd
     rand->addWidget(txtZecimale);
     rand->addStretch(1);
     principal->addLayout(rand);
-    principal->addWidget(new QLabel(QStringLiteral("La salvare se recalculeaza cuantumul tuturor cererilor in plata."),
-                                    this));
+    principal->addWidget(
+        new QLabel(QStringLiteral("La salvare se recalculeaza cuantumul tuturor cererilor in plata."), this));
     barProgres = new QProgressBar(this);
     barProgres->setObjectName(QStringLiteral("barProgres"));
     barProgres->setVisible(false);

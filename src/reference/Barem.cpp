@@ -87,9 +87,9 @@ RanduriNivele citesteRanduri(BazaDate& db) {
 
 const std::array<FamilieBarem, NrFamiliiBarem>& FamiliiBarem() {
     static const std::array<FamilieBarem, NrFamiliiBarem> f = {{{1, Bani::DinUnitati(4000)},
-                                                                 {1, Bani::DinUnitati(10600)},
-                                                                 {2, Bani::DinUnitati(4000)},
-                                                                 {2, Bani::DinUnitati(10600)}}};
+                                                                {1, Bani::DinUnitati(10600)},
+                                                                {2, Bani::DinUnitati(4000)},
+                                                                {2, Bani::DinUnitati(10600)}}};
     return f;
 }
 

@@ -33,14 +33,14 @@ struct CerereFixtura {
 // by hand from the seeded scale: ISR x coefficient rounded up, less 500 x coefficient of one child x
 // 0.2 or 0.5 per reduction, rounded half to even.
 const std::vector<CerereFixtura> Fixtura = {
-    {11, 2, 1, QDate(2024, 3, 15), "100", {0, 0}, "198"},                      // 0.328 -> 197.046
-    {12, 6, 2, QDate(2024, 3, 15), "300", {Dim20}, "103"},                     // 122.553 -> 123, less 20.4
-    {13, 7, 1, QDate(2024, 3, 15), "557.03", {0}, "91"},                       // upper limit: 1.06, 90.1125
-    {14, 8, 1, QDate(2024, 3, 15), "557.04", {0, 0}, "0"},                     // above the upper limit
-    {15, 2, 2, QDate(2013, 3, 10), "250", {0, 0, 0}, "163"},                   // constant limits: 0.74 x 3
+    {11, 2, 1, QDate(2024, 3, 15), "100", {0, 0}, "198"},                     // 0.328 -> 197.046
+    {12, 6, 2, QDate(2024, 3, 15), "300", {Dim20}, "103"},                    // 122.553 -> 123, less 20.4
+    {13, 7, 1, QDate(2024, 3, 15), "557.03", {0}, "91"},                      // upper limit: 1.06, 90.1125
+    {14, 8, 1, QDate(2024, 3, 15), "557.04", {0, 0}, "0"},                    // above the upper limit
+    {15, 2, 2, QDate(2013, 3, 10), "250", {0, 0, 0}, "163"},                  // constant limits: 0.74 x 3
     {16, 2, 1, QDate(2014, 1, 10), "210.2", {0, Dim50, Dim20, 0, 0}, "165"},  // lower limit, five count as four
-    {17, 2, 2, QDate(2015, 6, 1), "0", {0, Repetent | Dim50}, "75"},           // 128.5605 -> 129, less 53.5 -> 54
-    {18, 5, 1, QDate(2024, 3, 15), "100", {0}, nullptr},                       // refused: not recomputed
+    {17, 2, 2, QDate(2015, 6, 1), "0", {0, Repetent | Dim50}, "75"},          // 128.5605 -> 129, less 53.5 -> 54
+    {18, 5, 1, QDate(2024, 3, 15), "100", {0}, nullptr},                      // refused: not recomputed
     {19, 2, 2, QDate(2024, 3, 15), "210.2", {Dim20, Dim20, 0, Dim50}, "419"}, // 0.856: 514.242 -> 515, less 42.8 + 53.5
 };
 
@@ -90,9 +90,12 @@ protected:
         MesajeInregistrate m;
         const CerereIncarcata c = IncarcaCerere(Bd(), id, Luna, An, m);
         EXPECT_TRUE(c.Gasita) << id;
-        const IntrareCuantum intrare{c.Stare, int(c.Date.cboCerere[ElemCerere::cboTipCerere].id),
+        const IntrareCuantum intrare{c.Stare,
+                                     int(c.Date.cboCerere[ElemCerere::cboTipCerere].id),
                                      c.Date.dtpData[ElemCerere::dtpDataStare],
-                                     c.Date.txtCerere[ElemCerere::txtVenitPeMembru], Luna, An};
+                                     c.Date.txtCerere[ElemCerere::txtVenitPeMembru],
+                                     Luna,
+                                     An};
         return CalculCuantum(intrare, IncarcaParametri(Bd()), m).Cuantum;
     }
 
@@ -111,8 +114,9 @@ protected:
 // of payment keep theirs.
 TEST_P(RecalculIsrBaza, AceleasiSumeCaEditorul) {
     std::vector<std::pair<qint64, qint64>> progres;
-    const RecalculIsr::Rezultat r =
-        RecalculIsr::SchimbaIsr(Bd(), T("600.75"), mesaje, [&](qint64 f, qint64 t) { progres.push_back({f, t}); });
+    const RecalculIsr::Rezultat r = RecalculIsr::SchimbaIsr(Bd(), T("600.75"), mesaje, [&](qint64 f, qint64 t) {
+        progres.push_back({f, t});
+    });
     ASSERT_TRUE(r.ok) << S(mesaje.Texte().join(u'|'));
     EXPECT_EQ(r.Recalculate, 8);
     EXPECT_EQ(r.Schimbate, 8);
@@ -164,8 +168,8 @@ TEST_P(RecalculIsrBaza, OprireFaraSchimbari) {
         {"no family kind", [&] { cerere15("TipCerere", QVariant()); }, [&] { cerere15("TipCerere", 2); }, true},
         {"unreadable thresholds", [&] { praguri("x|y"); }, [&] { praguri("210.2|557.03"); }, false},
         // Request 11 finds its two-children row, then misses the one-child row of its reductions.
-        {"no one-child row",
-         [&] { ExecutaCu(Bd(), T("DELETE FROM Barem WHERE NrPers = ? AND Tip = ?"), 1, 1); }, [] {}, false},
+        {"no one-child row", [&] { ExecutaCu(Bd(), T("DELETE FROM Barem WHERE NrPers = ? AND Tip = ?"), 1, 1); }, [] {},
+         false},
     };
     for (const auto& c : cazuri) {
         SCOPED_TRACE(c.nume);
@@ -175,7 +179,8 @@ TEST_P(RecalculIsrBaza, OprireFaraSchimbari) {
             const RecalculIsr::Rezultat r = RecalculIsr::SchimbaIsr(Bd(), T("600.75"), mesaje);
             EXPECT_FALSE(r.ok);
             EXPECT_EQ(r.Oprit, 15);
-            EXPECT_EQ(mesaje.Texte(), QStringList{T("CerereID 15 fara copii sau data cerere mai mica de 01.11.2014 !")});
+            EXPECT_EQ(mesaje.Texte(),
+                      QStringList{T("CerereID 15 fara copii sau data cerere mai mica de 01.11.2014 !")});
         } else {
             EXPECT_THROW(RecalculIsr::SchimbaIsr(Bd(), T("600.75"), mesaje), Eroare);
         }
@@ -211,7 +216,7 @@ TEST(Isr, ValoareaSiCasetele) {
         const char* text;
         std::optional<QString> stocat;
     } intregi[] = {
-        {"550,3", T("550.3")}, {"550.3", T("550.3")}, {"550", T("550")},
+        {"550,3", T("550.3")},     {"550.3", T("550.3")},  {"550", T("550")},
         {"550.3.1", std::nullopt}, {"0.99", std::nullopt}, {"abc", std::nullopt},
     };
     for (const auto& c : intregi)
@@ -220,7 +225,8 @@ TEST(Isr, ValoareaSiCasetele) {
     const struct {
         const char *continut, *valoare, *zecimale;
     } casete[] = {
-        {"525.5", "525", "500"}, {"525", "525", "000"}, {"525.1234", "525", "1234"}, {"", "", "000"}, {"600,75", "600", "750"},
+        {"525.5", "525", "500"}, {"525", "525", "000"},    {"525.1234", "525", "1234"},
+        {"", "", "000"},         {"600,75", "600", "750"},
     };
     for (const auto& c : casete) {
         const CaseteIsr k = CaseteDinIsr(T(c.continut));

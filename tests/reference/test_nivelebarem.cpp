@@ -6,9 +6,9 @@
 #include "support/Texte.h"
 
 #include <functional>
+#include <gtest/gtest.h>
 #include <map>
 #include <tuple>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -35,8 +35,8 @@ TEST(NiveleBarem, VerificareaCasetelor) {
         {3, "0", zero},
         {0, "", zero},
         {7, "abc", zero},
-        {2, "0,164", zero},    // a comma ends a typed number
-        {1, "0.00004", zero},  // nothing left at four decimals
+        {2, "0,164", zero},   // a comma ends a typed number
+        {1, "0.00004", zero}, // nothing left at four decimals
         {15, "1e99", T("Nivelul de venit este prea mare.")},
         {9, " 0.25 ", std::nullopt},
         {9, "0.3abc", std::nullopt},
@@ -105,9 +105,8 @@ TEST_P(NiveleBaremBaza, FamilieNepotrivita) {
          }},
         {"a row twice", "Tip 1, Suma 1.06",
          [&] {
-             ExecutaCu(Bd(),
-                       T("INSERT INTO Barem (Tip, NrPers, Barem, Suma, DataInceput) VALUES (?, ?, ?, ?, ?)"), 1, 2,
-                       B("0.3"), B("1.06"), Noiembrie2014);
+             ExecutaCu(Bd(), T("INSERT INTO Barem (Tip, NrPers, Barem, Suma, DataInceput) VALUES (?, ?, ?, ?, ?)"), 1,
+                       2, B("0.3"), B("1.06"), Noiembrie2014);
          }},
     };
     for (const auto& c : cazuri) {
