@@ -11,7 +11,9 @@ namespace Cli {
 // was changed.
 int ComandaIsr(const QCommandLineParser& p, const QString& valoareText, QTextStream& out) {
     const std::optional<QString> valoare = ValoareIsr(valoareText);
-    if (!valoare) throw EroareArgumente{QStringLiteral("ISR invalid.")};
+    if (!valoare)
+        throw EroareArgumente{
+            QStringLiteral("ISR invalid: %1 (cel putin 1, cifre cu un punct, ca 525.5)").arg(valoareText)};
     const LocatieBD loc = Locatie(p);
     MesajeFlux m(out, out);
     try {
