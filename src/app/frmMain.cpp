@@ -11,11 +11,13 @@
 #include "cases/Adeverinte.h"
 #include "cases/ModelCereri.h"
 #include "cases/frmAddCerere.h"
+#include "cases/frmISR.h"
 #include "cases/frmAdeverinte.h"
 #include "cases/frmMembrii.h"
 #include "maintenance/FisiereWeb.h"
 #include "maintenance/frmUpdateLog.h"
 #include "reference/LunaLucru.h"
+#include "reference/frmBaremBun.h"
 #include "reference/frmChLunaAn.h"
 #include "reference/frmMotive.h"
 #include "reference/frmSate.h"
@@ -321,7 +323,10 @@ void frmMain::construiesteMeniurile() {
     QMenu* dataGen = meniuPrincipal("mnuDataGen", QStringLiteral("Date generale"));
     connect(meniu(dataGen, "mnuDatePrimarie", QStringLiteral("Datele primariei..."), true), &QAction::triggered, this,
             &frmMain::mnuDatePrimarie_Click);
-    meniu(dataGen, "mnuBarem", QStringLiteral("Nivel venituri..."), false);
+    connect(meniu(dataGen, "mnuBarem", QStringLiteral("Nivel venituri..."), true), &QAction::triggered, this, [this] {
+        frmBaremBun f(p_.bd, m_, this);
+        ArataModal(f);
+    });
     meniu(dataGen, "mnuJudete", QStringLiteral("Judete..."), true); // never had a window
     connect(meniu(dataGen, "mnuSate", QStringLiteral("Sate/strazi..."), true), &QAction::triggered, this, [this] {
         frmSate f(p_.bd, m_, this);
@@ -333,7 +338,10 @@ void frmMain::construiesteMeniurile() {
     });
     connect(meniu(dataGen, "mnuSetLunaCurenta", QStringLiteral("Setare luna curenta..."), true), &QAction::triggered,
             this, [this] { ArataLunaLucru(true); });
-    meniu(dataGen, "mnuISR", QStringLiteral("Valoare ISR"), false);
+    connect(meniu(dataGen, "mnuISR", QStringLiteral("Valoare ISR"), true), &QAction::triggered, this, [this] {
+        frmISR f(p_.bd, m_, this);
+        ArataModal(f);
+    });
     meniu(dataGen, "mnuGenAnNou", QStringLiteral("Generare An Nou..."), false);
     dataGen->addSeparator();
     connect(meniu(dataGen, "mnuExit", QStringLiteral("Iesire"), true), &QAction::triggered, this, &frmMain::Iesire);

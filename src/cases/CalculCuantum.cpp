@@ -31,25 +31,6 @@ const RandBarem* gasesteBarem(const ParametriCuantum& p, int nrPers, int tip, co
     return nullptr;
 }
 
-// The bracket key for the income, or nullopt when the income is above the upper limit.
-std::optional<Bani> treaptaVenit(const Bani& venit, const QDate& dataStare, const ParametriCuantum& p, Mesaje& m) {
-    if (!dataStare.isValid() || dataStare < DataPraguriVenit) {
-        if (venit <= Bani::DinLei(200)) return TreaptaJoasa;
-        if (venit <= Bani::DinLei(370)) return TreaptaMedieVeche;
-        return std::nullopt;
-    }
-    const QString praguri = VerificaPraguriVenit(p.PraguriVenit, m);
-    if (praguri.isEmpty())
-        throw Eroare(
-            QStringLiteral("Pragurile de venit (PRAGURI_VENIT) nu pot fi citite: cuantumul nu se poate calcula."));
-    const QStringList parti = praguri.split(u'|');
-    const Bani jos = SumaText(parti[0]);
-    const Bani sus = SumaText(parti[1]);
-    if (venit <= jos) return TreaptaJoasa;
-    if (venit <= sus) return TreaptaMedie;
-    return std::nullopt;
-}
-
 } // namespace
 
 ParametriCuantum IncarcaParametri(BazaDate& db) {
@@ -105,41 +86,97 @@ RezultatCuantum CalculCuantum(const IntrareCuantum& intrare, const ParametriCuan
     }
     if (valoareBunuri > Bani::DinLei(nrMembrii == 1 ? 1000 : 2500)) return r;
 
-    const Bani venit = SumaCaseta(intrare.VenitPeMembru);
-    const auto treapta = treaptaVenit(venit, intrare.DataStare, p, m);
-    if (!treapta) return r;
-
-    const RandBarem* barem = gasesteBarem(p, std::min(copii, 4), intrare.TipCerere, *treapta, intrare.DataStare);
-    if (!barem) {
+    DateBarem d;
+    d.TipCerere = intrare.TipCerere;
+    d.Data = intrare.DataStare;
+    d.VenitPeMembru = SumaCaseta(intrare.VenitPeMembru);
+    d.NrCopii = copii;
+    for (const MembruCerere& membru : membri) {
+        if (!membru.EsteCopil()) continue;
+        if (membru.Diminuare20 != 0) ++d.Diminuari20;
+        if (membru.Diminuare50 != 0) ++d.Diminuari50;
+    }
+    CalculBarem barem(p);
+    const RezultatBarem rb = barem.Calculeaza(d, m);
+    switch (rb.fel) {
+    case RezultatBarem::Fel::FaraNivel:
         m.Informatie(intrare.DataStare.year() < 2012
                          ? QStringLiteral("Modificati Data statut de la 2012 in sus!")
                          : QStringLiteral("A aparut o exceptie in CalculCuantum. Sunati la 0700-111222"));
         return r;
+    case RezultatBarem::Fel::PesteVenit:
+        return r;
+    case RezultatBarem::Fel::Calculat:
+        break;
     }
+    r.CuantumInainteDeReduceri = rb.InainteDeReduceri;
+    r.Cuantum = rb.Cuantum;
+    return r;
+}
 
-    const Bani isr = p.ISR.size() == 1 ? SumaText(p.ISR.front()) : IsrImplicit;
+const CalculBarem::Praguri& CalculBarem::praguri(Mesaje& m) {
+    if (!praguri_) {
+        const QString text = VerificaPraguriVenit(p_.PraguriVenit, m);
+        if (text.isEmpty())
+            throw Eroare(
+                QStringLiteral("Pragurile de venit (PRAGURI_VENIT) nu pot fi citite: cuantumul nu se poate calcula."));
+        const QStringList parti = text.split(u'|');
+        praguri_ = Praguri{SumaText(parti[0]), SumaText(parti[1])};
+    }
+    return *praguri_;
+}
+
+const Bani& CalculBarem::isr() {
+    if (!isr_) isr_ = p_.ISR.size() == 1 ? SumaText(p_.ISR.front()) : IsrImplicit;
+    return *isr_;
+}
+
+RezultatBarem CalculBarem::Calculeaza(const DateBarem& d, Mesaje& m) {
+    RezultatBarem r;
+    // The bracket: constant limits before the thresholds existed, then the stored ones. An income
+    // exactly on a limit stays in the lower bracket.
+    Bani treapta;
+    if (!d.Data.isValid() || d.Data < DataPraguriVenit) {
+        if (d.VenitPeMembru <= Bani::DinLei(200))
+            treapta = TreaptaJoasa;
+        else if (d.VenitPeMembru <= Bani::DinLei(370))
+            treapta = TreaptaMedieVeche;
+        else
+            r.fel = RezultatBarem::Fel::PesteVenit;
+    } else {
+        const Praguri& pr = praguri(m);
+        if (d.VenitPeMembru <= pr.jos)
+            treapta = TreaptaJoasa;
+        else if (d.VenitPeMembru <= pr.sus)
+            treapta = TreaptaMedie;
+        else
+            r.fel = RezultatBarem::Fel::PesteVenit;
+    }
+    if (r.fel == RezultatBarem::Fel::PesteVenit) return r;
+
+    const RandBarem* barem = gasesteBarem(p_, std::min(d.NrCopii, 4), d.TipCerere, treapta, d.Data);
+    if (!barem) return r; // FaraNivel
+
+    const Bani& valoare = isr();
     // An empty coefficient counts as 0.
-    Bani suma = isr.Inmultit(barem->Barem.value_or(Bani()));
-    if (isr != IsrImplicit && suma > Bani()) suma = Bani::DinLei(RotunjireSus(suma));
-    r.CuantumInainteDeReduceri = suma;
+    Bani suma = valoare.Inmultit(barem->Barem.value_or(Bani()));
+    if (valoare != IsrImplicit && suma > Bani()) suma = Bani::DinLei(RotunjireSus(suma));
 
-    // The reductions take the one-child coefficient of the same bracket, always with 500 and
-    // never with the ISR, for every child of the list, counted or not. There is a child here, so
-    // the row is always needed; the old program stopped with a run-time error without it.
-    const RandBarem* unCopil = gasesteBarem(p, 1, intrare.TipCerere, *treapta, intrare.DataStare);
+    // The reductions take the one-child coefficient of the same bracket, always with 500 and never
+    // with the ISR, for every child of the list, counted or not. There is a child here, so the row
+    // is always needed; the old program stopped with a run-time error without it.
+    const RandBarem* unCopil = gasesteBarem(p_, 1, d.TipCerere, treapta, d.Data);
     if (!unCopil)
         throw Eroare(QStringLiteral("Lipseste randul din Barem pentru un copil (NrPers = 1, Tip = %1, Suma = %2) "
                                     "valabil la %3: diminuarile nu se pot calcula.")
-                         .arg(intrare.TipCerere)
-                         .arg(FormatSuma(*treapta))
-                         .arg(FormatData(intrare.DataStare)));
+                         .arg(d.TipCerere)
+                         .arg(FormatSuma(treapta))
+                         .arg(FormatData(d.Data)));
     const Bani coeficientCopil = unCopil->Barem.value_or(Bani());
-    Bani reduceri;
-    for (const MembruCerere& membru : membri) {
-        if (!membru.EsteCopil()) continue;
-        if (membru.Diminuare20 != 0) reduceri += coeficientCopil * 100; // 0.2 x 500
-        if (membru.Diminuare50 != 0) reduceri += coeficientCopil * 250; // 0.5 x 500
-    }
+    const Bani reduceri = coeficientCopil * (100 * qint64(d.Diminuari20)) + // 0.2 x 500
+                          coeficientCopil * (250 * qint64(d.Diminuari50));  // 0.5 x 500
+    r.fel = RezultatBarem::Fel::Calculat;
+    r.InainteDeReduceri = suma;
     r.Cuantum = suma - Bani::DinLei(reduceri.RotunjitPar());
     return r;
 }
@@ -176,34 +213,4 @@ QString VenitPeMembruText(const Bani& venitTotal, int nrMembrii) {
         }
     }
     return t;
-}
-
-QString VerificaPraguriVenit(const std::optional<QString>& continut, Mesaje& m) {
-    const QString titlu = QStringLiteral("Eroare");
-    const QString formatGresit = QStringLiteral("Format praguri gresit!");
-    if (!continut) {
-        m.Critic(QStringLiteral("PRAGURI_VENIT nu exista!"), titlu);
-        return {};
-    }
-    const QString& praguri = *continut;
-    if (praguri.trimmed().isEmpty()) {
-        m.Critic(QStringLiteral("Nu sunt definite praguri venit!"), titlu);
-        return {};
-    }
-    if (!praguri.contains(u'|')) {
-        m.Critic(formatGresit, titlu);
-        return {};
-    }
-    // A blank part is no threshold: "210.2|" holds only one.
-    const auto parti = QStringView(praguri).split(u'|');
-    const auto pline = std::count_if(parti.begin(), parti.end(), [](QStringView p) { return !p.trimmed().isEmpty(); });
-    if (pline < 2) {
-        m.Critic(formatGresit + QStringLiteral("\nTrebuie cel putin doua praguri."), titlu);
-        return {};
-    }
-    return praguri;
-}
-
-QString PraguriVenit(BazaDate& db, Mesaje& m) {
-    return VerificaPraguriVenit(ContinutDateGen(db, QStringLiteral("PRAGURI_VENIT")), m);
 }

@@ -3,6 +3,7 @@
 #include "cases/StareCerere.h"
 #include "base/Bani.h"
 #include "reference/Barem.h"
+#include "reference/PraguriVenit.h"
 
 #include <QDate>
 #include <QString>
@@ -45,6 +46,49 @@ struct RezultatCuantum {
     std::optional<Bani> CuantumInainteDeReduceri;
 };
 
+// What the scale decides once the children are counted and the goods allowed: the family kind, the
+// date the scale is read at, the income per member, the children counted (more than four get the
+// amount of four) and how many children of the list carry each reduction, counted or not.
+struct DateBarem {
+    int TipCerere = 0;
+    QDate Data;
+    Bani VenitPeMembru;
+    int NrCopii = 0;
+    int Diminuari20 = 0, Diminuari50 = 0;
+};
+
+struct RezultatBarem {
+    enum class Fel {
+        Calculat,   // Cuantum and InainteDeReduceri hold the amount
+        PesteVenit, // the income is above the upper limit: 0
+        FaraNivel,  // no row of the scale for the kind, children, bracket and date: 0
+    };
+    Fel fel = Fel::FaraNivel;
+    Bani Cuantum;
+    Bani InainteDeReduceri; // the amount after the rounding up, before the reductions
+};
+
+// The one place where the scale, the ISR and the thresholds turn into an amount: the request
+// editor runs it for one request, the ISR change for every paying request. The thresholds and the
+// ISR are read from their texts at their first use and kept, so one object serves a whole run.
+class CalculBarem {
+public:
+    explicit CalculBarem(const ParametriCuantum& p) : p_(p) {}
+    // Throws Eroare as CalculCuantum does for the thresholds, the ISR and the one-child row.
+    RezultatBarem Calculeaza(const DateBarem& d, Mesaje& m);
+
+private:
+    struct Praguri {
+        Bani jos, sus;
+    };
+    const Praguri& praguri(Mesaje& m);
+    const Bani& isr();
+
+    const ParametriCuantum& p_;
+    std::optional<Praguri> praguri_;
+    std::optional<Bani> isr_;
+};
+
 // The monthly amount of a request. Shows the messages of the computation through m; throws
 // Eroare when VenitPeMembru, a threshold or the ISR value is not a number, when the income
 // thresholds are unusable on a date from 1 July 2013 (after their message), and when the
@@ -66,11 +110,3 @@ TotaluriMembri RecalculTotaluri(int nrInLista, const std::optional<std::vector<M
 // point, no trailing zeros ("333.333333333333"). Empty when NrMembrii is not above 0: the box
 // then keeps its text.
 QString VenitPeMembruText(const Bani& venitTotal, int nrMembrii);
-
-// The income thresholds text of DateGen ("210.2|557.03"); empty after a critical message when
-// it is missing, blank or not at least two values separated by "|".
-QString PraguriVenit(BazaDate& db, Mesaje& m);
-
-// The same checks over a Continut already read: nullopt stands for a missing row, and a null
-// Continut is an empty text.
-QString VerificaPraguriVenit(const std::optional<QString>& continut, Mesaje& m);

@@ -16,7 +16,7 @@ const QString Utilizare =
                    "[--tip-cerere 0|1|2] [--membri] [--nr-luni TEXT] [--stari ID,ID,...] [--nr-bord TEXT] "
                    "[--data-bord ZZ.LL.AAAA]}|"
                    "borderou --raport I --aloc J --out FISIER [--foaie] [--ord1 I] [--ord2 I] [--luna L --an A]|"
-                   "bas {a23|a25} --out FISIER.ods} "
+                   "bas {a23|a25} --out FISIER.ods|isr VALOARE} "
                    "[--dir DIR] "
                    "[--db postgresql://...]");
 
@@ -52,7 +52,7 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
     p.addOption({QStringLiteral("aloc"), QStringLiteral("felul alocatiei din borderou"), QStringLiteral("J")});
     p.addPositionalArgument(
         QStringLiteral("comanda"),
-        QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta, raport, borderou, bas"));
+        QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta, raport, borderou, bas, isr"));
     try {
         if (!p.parse(argumente)) throw EroareArgumente{p.errorText()};
         const QStringList poz = p.positionalArguments();
@@ -64,15 +64,17 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         const bool cuRaport = comanda == QLatin1String("raport");
         const bool cuBorderou = comanda == QLatin1String("borderou");
         const bool cuBas = comanda == QLatin1String("bas");
+        const bool cuIsr = comanda == QLatin1String("isr");
         if (cuRaport && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste raportul: lista sau indexul")};
         if (cuBas && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste formularul: a23 sau a25")};
+        if (cuIsr && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste valoarea ISR")};
         if (cuCerere && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
         if (cuDocument && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste felul documentului")};
         if (cuDocument && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul documentului")};
         if (cuWeb && poz.size() == 1)
             throw EroareArgumente{QStringLiteral("lipseste documentul: cerere, cerere_1a sau ancheta")};
         if (cuWeb && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
-        if (poz.size() != (cuDocument || cuWeb ? 3 : cuCerere || cuRaport || cuBas ? 2 : 1))
+        if (poz.size() != (cuDocument || cuWeb ? 3 : cuCerere || cuRaport || cuBas || cuIsr ? 2 : 1))
             throw EroareArgumente{QStringLiteral("prea multe argumente")};
         if (!cuDocument && (p.isSet(QStringLiteral("sablon")) || p.isSet(QStringLiteral("data"))))
             throw EroareArgumente{QStringLiteral("--sablon si --data sunt doar pentru document")};
@@ -111,6 +113,7 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (cuRaport) return ComandaRaport(p, poz[1], out);
         if (cuBorderou) return ComandaBorderou(p, out);
         if (cuBas) return ComandaBas(p, poz[1], out);
+        if (cuIsr) return ComandaIsr(p, poz[1], out);
         throw EroareArgumente{QStringLiteral("comanda necunoscuta: %1").arg(comanda)};
     } catch (const EroareArgumente& e) {
         err << e.text << ". " << Utilizare << Qt::endl;

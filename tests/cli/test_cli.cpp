@@ -191,6 +191,25 @@ TEST_P(Cli, BorderouSiFormulareleBas) {
     EXPECT_FALSE(QFile::exists(In("a25.ods")));
 }
 
+// A new ISR: the paying request counted on the standard output; a request without a level stops the
+// run with code 1, its message and the old value kept.
+TEST_P(Cli, IsrRecalculeazaSauOpreste) {
+    Redeschide();
+    ScriePrimarie(Bd(), PrimarieA());
+    ScrieCerere(Bd(), CerereA());
+    const IesireCli r = Ruleaza(T("isr 600,75"));
+    EXPECT_EQ(r.cod, 0) << r.out.toStdString();
+    EXPECT_EQ(r.out, T("A fost recalculat cuantumul pentru 1 cereri.\n"));
+    ExecutaCu(Bd(), T("UPDATE Cereri SET NrCopii = ?"), 0);
+    const IesireCli oprit = Ruleaza(T("isr 610"));
+    EXPECT_EQ(oprit.cod, 1);
+    EXPECT_TRUE(oprit.out.startsWith(T("CerereID 7 fara copii"))) << oprit.out.toStdString();
+    Interogare q(Bd(), T("SELECT Continut FROM DateGen WHERE Denumire = ?"));
+    q.Leaga(T("ISR"));
+    ASSERT_TRUE(q.Exista());
+    EXPECT_EQ(q.Text(T("Continut")), T("600.75"));
+}
+
 PE_AMBELE_MOTOARE(Cli);
 
 // Each wrong command line gives code 2, one line of usage on the error stream, nothing on the
@@ -214,7 +233,8 @@ TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
         "borderou --raport 0 --aloc 0 --out x.doc", "borderou --raport 0 --aloc 0 --out x.csv --ord2 4",
         "borderou --raport 0 --aloc 0 --out x.csv --an 2024", "borderou --raport 0 --aloc 0 --out x.csv --tip-cerere 1",
         "bas", "bas a24 --out x.ods", "bas a23", "bas a23 --out x.xlsx", "bas a23 a25 --out x.ods",
-        "bas a25 --out x.ods --foaie", "cuantum 5 --raport 1 --dir DIR"};
+        "bas a25 --out x.ods --foaie", "cuantum 5 --raport 1 --dir DIR", "isr", "isr 0.99 --dir DIR",
+        "isr 5a --dir DIR", "isr 600 700 --dir DIR", "isr 600 --out x.csv"};
     // clang-format on
     QTemporaryDir dir;
     for (const char* linie : linii) {

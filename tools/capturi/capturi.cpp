@@ -22,10 +22,12 @@
 #include "cases/frmAdeverinte.h"
 #include "cases/frmAnexa2.h"
 #include "cases/frmBife.h"
+#include "cases/frmISR.h"
 #include "cases/frmListaActeExpira.h"
 #include "cases/frmMembrii.h"
 #include "maintenance/Demo.h"
 #include "reference/DateReferinta.h"
+#include "reference/frmBaremBun.h"
 #include "reference/frmChLunaAn.h"
 #include "reference/frmDatePrimarie2.h"
 #include "reference/frmMotive.h"
@@ -278,6 +280,14 @@ int main(int argc, char** argv) {
     {
         frmChLunaAn f(program, m);
         captura(f, "frmChLunaAn");
+    }
+    {
+        frmBaremBun f(*db, m);
+        captura(f, "frmBaremBun");
+    }
+    {
+        frmISR f(*db, m);
+        captura(f, "frmISR");
     }
     editor.reject();
     return erori == 0 ? 0 : 1;

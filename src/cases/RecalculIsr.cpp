@@ -1,0 +1,152 @@
+#include "cases/RecalculIsr.h"
+
+#include "base/Eroare.h"
+#include "base/Mesaje.h"
+#include "cases/CalculCuantum.h"
+#include "reference/Isr.h"
+#include "store/BazaDate.h"
+#include "store/InserareInLot.h"
+
+#include <QVariant>
+#include <vector>
+
+namespace RecalculIsr {
+
+namespace {
+
+// How often the progress is told: often enough for a bar to move, rarely enough to cost nothing.
+constexpr qint64 PasProgres = 4096;
+
+// A stored date without going through the field's name for each of a million rows: the SQLite driver
+// gives ISO text, the PostgreSQL one a date.
+QDate Data(const QVariant& v) {
+    if (v.isNull()) return {};
+    if (v.typeId() == QMetaType::QDate) return v.toDate();
+    if (v.typeId() == QMetaType::QDateTime) return v.toDateTime().date();
+    return QDate::fromString(v.toString().left(10), Qt::ISODate);
+}
+
+struct Reduceri {
+    qint64 CerereID = 0;
+    int Diminuari20 = 0, Diminuari50 = 0;
+};
+
+// The children carrying a reduction, counted by request, in the order of the requests. Few rows carry
+// one, so they are all held; requests not in payment are passed over when the two lists are merged.
+std::vector<Reduceri> CitesteReduceri(BazaDate& db) {
+    std::vector<Reduceri> r;
+    // The unary plus keeps SQLite off the key's index, which would fetch every row of the table at random
+    // to test it; a plain scan and a sort of the few rows found is several times faster.
+    Interogare q(db, QStringLiteral("SELECT CerereID, Diminuare20, Diminuare50 FROM CereriMembrii "
+                                    "WHERE +RudenieID IN (?, ?, ?, ?, ?, ?) AND (Diminuare20 <> 0 OR Diminuare50 <> 0) "
+                                    "ORDER BY CerereID"));
+    for (int rudenie : {3, 6, 7, 8, 9, 10})
+        q.Leaga(rudenie);
+    q.Executa();
+    while (q.Urmator()) {
+        const qint64 id = q.Intreg(0);
+        if (r.empty() || r.back().CerereID != id) r.push_back({id, 0, 0});
+        if (q.Intreg(1) != 0) ++r.back().Diminuari20;
+        if (q.Intreg(2) != 0) ++r.back().Diminuari50;
+    }
+    return r;
+}
+
+qint64 NumarInPlata(BazaDate& db) {
+    Interogare q(db, QStringLiteral("SELECT COUNT(*) FROM Cereri WHERE Stare IN (?, ?, ?, ?)"));
+    for (int stare : {2, 6, 7, 8})
+        q.Leaga(stare);
+    return q.Exista() ? q.Intreg(0) : 0;
+}
+
+// Writes the amounts that changed in one statement: they go first into a temporary table of their own
+// connection, in bulk, and one UPDATE joins it to the requests.
+void ScrieCuantumuri(BazaDate& db, const std::vector<std::pair<qint64, Bani>>& noi) {
+    if (noi.empty()) return;
+    const Dialect& d = db.dialect();
+    // Made and dropped inside the caller's unit: a failure rolls its creation back with everything else,
+    // so none is ever left behind.
+    db.Executa(QStringLiteral("CREATE TEMPORARY TABLE CuantumNou (CerereID %1 PRIMARY KEY, Cuantum %2)")
+                   .arg(d.TipSql(TipCamp::Cheie, 0), d.TipSql(TipCamp::Currency, 0)));
+    {
+        InserareInLot ins(db, QStringLiteral("CuantumNou"), {QStringLiteral("CerereID"), QStringLiteral("Cuantum")});
+        for (const auto& [id, cuantum] : noi)
+            ins.Leaga(id).Leaga(cuantum).Executa();
+        ins.Scrie();
+    }
+    Interogare(db, QStringLiteral("UPDATE Cereri SET Cuantum = CuantumNou.Cuantum FROM CuantumNou "
+                                  "WHERE Cereri.CerereID = CuantumNou.CerereID"))
+        .Executa();
+    db.Executa(QStringLiteral("DROP TABLE CuantumNou"));
+}
+
+} // namespace
+
+Rezultat SchimbaIsr(BazaDate& db, const QString& valoare, Mesaje& m, const Progres& progres) {
+    Rezultat rez;
+    qint64 total = 0;
+    {
+        Tranzactie t(db);
+        ScrieIsr(db, valoare);
+        // The scale, the thresholds and the ISR just written, read as the request editor reads them.
+        const ParametriCuantum p = IncarcaParametri(db);
+        CalculBarem calcul(p);
+
+        const std::vector<Reduceri> reduceri = CitesteReduceri(db);
+        total = NumarInPlata(db);
+        if (progres) progres(0, total);
+
+        // Most requests are in payment: reading the table in the order of its key beats the index on
+        // Stare, whose rows would be fetched at random and then sorted (the unary plus keeps SQLite off
+        // that index).
+        Interogare q(db, QStringLiteral("SELECT CerereID, DataCerere, TipCerere, VenitpeMembru, NrCopii, Cuantum "
+                                        "FROM Cereri WHERE +Stare IN (?, ?, ?, ?) ORDER BY CerereID"));
+        for (int stare : {2, 6, 7, 8})
+            q.Leaga(stare);
+        q.Executa();
+        std::vector<std::pair<qint64, Bani>> noi;
+        auto red = reduceri.begin();
+        while (q.Urmator()) {
+            const qint64 id = q.Intreg(0);
+            DateBarem d;
+            d.Data = Data(q.Valoare(1));
+            d.TipCerere = int(q.Intreg(2));
+            d.VenitPeMembru = Bani::DinVariant(q.Valoare(3));
+            d.NrCopii = int(q.Intreg(4));
+            while (red != reduceri.end() && red->CerereID < id)
+                ++red;
+            if (red != reduceri.end() && red->CerereID == id) {
+                d.Diminuari20 = red->Diminuari20;
+                d.Diminuari50 = red->Diminuari50;
+            }
+            const RezultatBarem r = calcul.Calculeaza(d, m);
+            if (r.fel == RezultatBarem::Fel::FaraNivel) {
+                rez.Oprit = id;
+                break;
+            }
+            const Bani vechi = Bani::DinVariant(q.Valoare(5));
+            // A null amount becomes a stored 0 like any other change.
+            if (r.Cuantum != vechi || q.Valoare(5).isNull()) noi.emplace_back(id, r.Cuantum);
+            ++rez.Recalculate;
+            if (progres && rez.Recalculate % PasProgres == 0)
+                progres(rez.Recalculate, std::max(total, rez.Recalculate));
+        }
+        if (!rez.Oprit) {
+            ScrieCuantumuri(db, noi);
+            t.Confirma();
+            rez.ok = true;
+            rez.Schimbate = qint64(noi.size());
+        }
+    }
+    // Told after the unit has ended, so that no other computer waits on the file while the box is open.
+    if (rez.Oprit) {
+        rez.Recalculate = 0;
+        m.Informatie(QStringLiteral("CerereID %1 fara copii sau data cerere mai mica de 01.11.2014 !").arg(*rez.Oprit));
+        return rez;
+    }
+    if (progres) progres(rez.Recalculate, std::max(total, rez.Recalculate));
+    m.Informatie(QStringLiteral("A fost recalculat cuantumul pentru %1 cereri.").arg(rez.Recalculate));
+    return rez;
+}
+
+} // namespace RecalculIsr
