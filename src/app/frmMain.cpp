@@ -13,9 +13,11 @@
 #include "cases/frmAddCerere.h"
 #include "cases/frmAdeverinte.h"
 #include "cases/frmMembrii.h"
+#include "maintenance/frmMentenanta.h"
 #include "reference/LunaLucru.h"
 #include "reference/frmChLunaAn.h"
 #include "reference/frmMotive.h"
+#include "reference/frmGenerareAn.h"
 #include "reference/frmSate.h"
 #include "reports/frmBorderou.h"
 #include "reports/frmRapoarte.h"
@@ -332,7 +334,11 @@ void frmMain::construiesteMeniurile() {
     connect(meniu(dataGen, "mnuSetLunaCurenta", QStringLiteral("Setare luna curenta..."), true), &QAction::triggered,
             this, [this] { ArataLunaLucru(true); });
     meniu(dataGen, "mnuISR", QStringLiteral("Valoare ISR"), false);
-    meniu(dataGen, "mnuGenAnNou", QStringLiteral("Generare An Nou..."), false);
+    connect(meniu(dataGen, "mnuGenAnNou", QStringLiteral("Generare An Nou..."), true), &QAction::triggered, this,
+            [this] {
+                frmGenerareAn f(p_, m_, this);
+                ArataModal(f);
+            });
     dataGen->addSeparator();
     connect(meniu(dataGen, "mnuExit", QStringLiteral("Iesire"), true), &QAction::triggered, this, &frmMain::Iesire);
 
@@ -381,7 +387,11 @@ void frmMain::construiesteMeniurile() {
         frmParola f(p_, m_, this);
         f.exec();
     });
-    meniu(intretinere, "mnuMentenanta", QStringLiteral("Mentenanta..."), false);
+    connect(meniu(intretinere, "mnuMentenanta", QStringLiteral("Mentenanta..."), true), &QAction::triggered, this,
+            [this] {
+                frmMentenanta f(p_, m_, this);
+                ArataModal(f);
+            });
     connect(meniu(intretinere, "mnuOptiuni", QStringLiteral("Optiuni..."), true), &QAction::triggered, this, [this] {
         frmOptiuni f(p_.setari, p_.FisierSetari(), m_, this);
         f.exec();

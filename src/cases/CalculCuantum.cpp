@@ -1,10 +1,10 @@
 #include "cases/CalculCuantum.h"
 
 #include "base/Eroare.h"
-#include "base/Texte.h"
-#include "base/Sume.h"
 #include "base/Mesaje.h"
 #include "base/Setari.h"
+#include "base/Sume.h"
+#include "base/Texte.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
 #include "store/DateGen.h"
@@ -31,26 +31,43 @@ const RandBarem* gasesteBarem(const ParametriCuantum& p, int nrPers, int tip, co
     return nullptr;
 }
 
-// The bracket key for the income, or nullopt when the income is above the upper limit.
-std::optional<Bani> treaptaVenit(const Bani& venit, const QDate& dataStare, const ParametriCuantum& p, Mesaje& m) {
-    if (!dataStare.isValid() || dataStare < DataPraguriVenit) {
-        if (venit <= Bani::DinLei(200)) return TreaptaJoasa;
-        if (venit <= Bani::DinLei(370)) return TreaptaMedieVeche;
-        return std::nullopt;
-    }
+} // namespace
+
+std::vector<TreaptaVenit> TrepteVenit(const QDate& data, const ParametriCuantum& p, Mesaje& m) {
+    if (!data.isValid() || data < DataPraguriVenit)
+        return {{Bani::DinLei(200), TreaptaJoasa}, {Bani::DinLei(370), TreaptaMedieVeche}};
     const QString praguri = VerificaPraguriVenit(p.PraguriVenit, m);
     if (praguri.isEmpty())
         throw Eroare(
             QStringLiteral("Pragurile de venit (PRAGURI_VENIT) nu pot fi citite: cuantumul nu se poate calcula."));
     const QStringList parti = praguri.split(u'|');
-    const Bani jos = SumaText(parti[0]);
-    const Bani sus = SumaText(parti[1]);
-    if (venit <= jos) return TreaptaJoasa;
-    if (venit <= sus) return TreaptaMedie;
+    return {{SumaText(parti[0]), TreaptaJoasa}, {SumaText(parti[1]), TreaptaMedie}};
+}
+
+std::optional<Bani> TreaptaPentruVenit(const Bani& venit, const std::vector<TreaptaVenit>& trepte) {
+    for (const TreaptaVenit& t : trepte)
+        if (venit <= t.VenitMaxim) return t.Suma;
     return std::nullopt;
 }
 
-} // namespace
+Bani CuantumDinBarem(const RandBarem& barem, const ParametriCuantum& p) {
+    const Bani isr = p.ISR.size() == 1 ? SumaText(p.ISR.front()) : IsrImplicit;
+    // An empty coefficient counts as 0.
+    Bani suma = isr.Inmultit(barem.Barem.value_or(Bani()));
+    if (isr != IsrImplicit && suma > Bani()) suma = Bani::DinLei(RotunjireSus(suma));
+    return suma;
+}
+
+Bani CuantumTreapta(int tipCerere, int nrCopii, const Bani& treapta, const QDate& data, const ParametriCuantum& p) {
+    const RandBarem* barem = gasesteBarem(p, std::min(nrCopii, 4), tipCerere, treapta, data);
+    return barem ? CuantumDinBarem(*barem, p) : Bani();
+}
+
+Bani CuantumLaData(int tipCerere, const Bani& venitPeMembru, int nrCopii, const QDate& data, const ParametriCuantum& p,
+                   Mesaje& m) {
+    const auto treapta = TreaptaPentruVenit(venitPeMembru, TrepteVenit(data, p, m));
+    return treapta ? CuantumTreapta(tipCerere, nrCopii, *treapta, data, p) : Bani();
+}
 
 ParametriCuantum IncarcaParametri(BazaDate& db) {
     ParametriCuantum p;
@@ -106,7 +123,7 @@ RezultatCuantum CalculCuantum(const IntrareCuantum& intrare, const ParametriCuan
     if (valoareBunuri > Bani::DinLei(nrMembrii == 1 ? 1000 : 2500)) return r;
 
     const Bani venit = SumaCaseta(intrare.VenitPeMembru);
-    const auto treapta = treaptaVenit(venit, intrare.DataStare, p, m);
+    const auto treapta = TreaptaPentruVenit(venit, TrepteVenit(intrare.DataStare, p, m));
     if (!treapta) return r;
 
     const RandBarem* barem = gasesteBarem(p, std::min(copii, 4), intrare.TipCerere, *treapta, intrare.DataStare);
@@ -117,10 +134,7 @@ RezultatCuantum CalculCuantum(const IntrareCuantum& intrare, const ParametriCuan
         return r;
     }
 
-    const Bani isr = p.ISR.size() == 1 ? SumaText(p.ISR.front()) : IsrImplicit;
-    // An empty coefficient counts as 0.
-    Bani suma = isr.Inmultit(barem->Barem.value_or(Bani()));
-    if (isr != IsrImplicit && suma > Bani()) suma = Bani::DinLei(RotunjireSus(suma));
+    const Bani suma = CuantumDinBarem(*barem, p);
     r.CuantumInainteDeReduceri = suma;
 
     // The reductions take the one-child coefficient of the same bracket, always with 500 and

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cases/StareCerere.h"
 #include "base/Bani.h"
+#include "cases/StareCerere.h"
 #include "reference/Barem.h"
 
 #include <QDate>
@@ -50,6 +50,29 @@ struct RezultatCuantum {
 // thresholds are unusable on a date from 1 July 2013 (after their message), and when the
 // reductions need the one-child Barem row of the bracket and it is missing.
 RezultatCuantum CalculCuantum(const IntrareCuantum& intrare, const ParametriCuantum& p, Mesaje& m);
+
+// One income bracket: incomes per member up to VenitMaxim take the Barem rows whose Suma is Suma.
+struct TreaptaVenit {
+    Bani VenitMaxim;
+    Bani Suma;
+};
+
+// The brackets in force at `data`, lowest first: the fixed ones before 1 July 2013, the thresholds of
+// PRAGURI_VENIT from then on (throws Eroare, after their message, when those are unusable). An income
+// above the last one has no amount.
+std::vector<TreaptaVenit> TrepteVenit(const QDate& data, const ParametriCuantum& p, Mesaje& m);
+std::optional<Bani> TreaptaPentruVenit(const Bani& venit, const std::vector<TreaptaVenit>& trepte);
+
+// ISR x the row's coefficient, rounded up to whole lei when the ISR is not the default 500.
+Bani CuantumDinBarem(const RandBarem& barem, const ParametriCuantum& p);
+
+// The amount of the scale alone at `data` for a family kind, a number of children (more than four
+// count as four) and a bracket: no reductions, 0 when the scale has no row for them.
+Bani CuantumTreapta(int tipCerere, int nrCopii, const Bani& treapta, const QDate& data, const ParametriCuantum& p);
+
+// The same for an income per member: its bracket at `data` first, 0 above the last one.
+Bani CuantumLaData(int tipCerere, const Bani& venitPeMembru, int nrCopii, const QDate& data, const ParametriCuantum& p,
+                   Mesaje& m);
 
 // The total of the income array.
 Bani SumaVenituri(const std::array<Bani, 79>& venituri);

@@ -61,6 +61,7 @@ int ComandaDocument(const QCommandLineParser& p, const QString& fel, const QStri
 int ComandaRaport(const QCommandLineParser& p, const QString& ce, QTextStream& out);
 int ComandaBorderou(const QCommandLineParser& p, QTextStream& out);
 int ComandaBas(const QCommandLineParser& p, const QString& formular, QTextStream& out);
+int ComandaMentenanta(const QCommandLineParser& p, const QString& unealta, QTextStream& out);
 int ComandaWeb(const QCommandLineParser& p, const QString& document, const QString& idText, QTextStream& out,
                QTextStream& err);
 

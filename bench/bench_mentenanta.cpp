@@ -1,0 +1,67 @@
+#include "Comun.h"
+
+#include "maintenance/Mentenanta.h"
+#include "store/BazaDate.h"
+
+#include <QDir>
+#include <QFile>
+#include <benchmark/benchmark.h>
+
+// Each maintenance tool over the demo database of 1,000,000 requests (SQLite), on a copy made once.
+// Every run is undone by the transaction around it, so each iteration does the same work; the rollback
+// is not timed. Budget: under 10 s each.
+//   ferolanta_bench --benchmark_filter=mentenanta/
+
+namespace {
+
+using Mentenanta::Unealta;
+
+const LocatieBD& Copie(int cereri) {
+    static const LocatieBD loc = [&] {
+        LocatieBD l = BazaDemoSQLite(cereri, true);
+        // The goods list is reloaded from the catalogue delivered with the program.
+        QFile::remove(QDir(l.caleBD).filePath(QStringLiteral("bife.txt")));
+        QFile::copy(QStringLiteral(FEROLANTA_SURSA "/data/bife.txt"),
+                    QDir(l.caleBD).filePath(QStringLiteral("bife.txt")));
+        return l;
+    }();
+    return loc;
+}
+
+void Unealta_(benchmark::State& st, Unealta u, int cereri) {
+    const LocatieBD& loc = Copie(cereri);
+    auto db = BazaDate::Deschide(loc);
+    MesajeTacute m;
+    Mentenanta::Optiuni o;
+    // The demo requests are filed around the day they were generated: this month has them.
+    o.luna = QDate::currentDate().month();
+    o.an = QDate::currentDate().year();
+    o.suprascrieDataStare = true;
+    o.caleBD = loc.caleBD;
+    qint64 randuri = 0;
+    for (auto _ : st) {
+        auto t = std::make_unique<Tranzactie>(*db);
+        const Mentenanta::Rezultat r = Mentenanta::Aplica(*db, m, u, o);
+        randuri = r.randuri + r.randuri2;
+        st.PauseTiming();
+        t.reset();
+        st.ResumeTiming();
+    }
+    st.counters["randuri"] = double(randuri);
+}
+
+const bool inregistrate = [] {
+    const std::pair<const char*, Unealta> unelte[] = {
+        {"datastare", Unealta::DataStare}, {"stare", Unealta::Stare}, {"rudenie", Unealta::Rudenie},
+        {"acte", Unealta::Acte},           {"bife", Unealta::Bife},   {"cereri2014", Unealta::Cereri2014}};
+    for (const auto& [nume, u] : unelte)
+        benchmark::RegisterBenchmark(
+            QStringLiteral("mentenanta/%1/1000000").arg(QLatin1String(nume)).toStdString().c_str(), Unealta_, u,
+            1000000)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime()
+            ->Iterations(2);
+    return true;
+}();
+
+} // namespace
