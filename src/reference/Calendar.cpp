@@ -34,7 +34,7 @@ QString ListaLuni(const std::vector<int>& luni) {
 }
 
 // The messages for one year from how many rows each of its months has.
-QStringList Mesaje(int an, const std::map<int, qint64>& randuri) {
+QStringList Probleme(int an, const std::map<int, qint64>& randuri) {
     std::vector<int> lipsa, dublate;
     for (int l = 1; l <= 12; ++l) {
         const auto it = randuri.find(l);
@@ -98,7 +98,7 @@ std::optional<LunaPlata> CitesteLuna(BazaDate& db, qint64 statPlataID) {
 QStringList VerificaAn(BazaDate& db, int an) {
     const auto numere = Numere(db, an);
     const auto it = numere.find(an);
-    return Mesaje(an, it == numere.end() ? std::map<int, qint64>{} : it->second);
+    return Probleme(an, it == numere.end() ? std::map<int, qint64>{} : it->second);
 }
 
 QStringList VerificaToti(BazaDate& db) {
@@ -110,7 +110,7 @@ QStringList VerificaToti(BazaDate& db) {
         numere.try_emplace(int(ani.Intreg(0)));
     QStringList r;
     for (const auto& [an, luni] : numere)
-        r << Mesaje(an, luni);
+        r << Probleme(an, luni);
     return r;
 }
 
@@ -124,7 +124,7 @@ std::optional<int> GenereazaAn(BazaDate& db, Mesaje& m, const QString& anText) {
     const auto numere = Numere(db, an);
     if (!numere.empty()) {
         const std::map<int, qint64>& luni = numere.begin()->second;
-        const QStringList probleme = Mesaje(an, luni);
+        const QStringList probleme = Probleme(an, luni);
         if (probleme.isEmpty()) m.Informatie(QStringLiteral("Anul %1 exista.").arg(an));
         for (const QString& p : probleme)
             m.Informatie(p);

@@ -124,7 +124,7 @@ TEST_P(CalendarPlata, OLuna) {
          false},
         {"acelasi rand", {QStringLiteral("2024"), 5}, mai->StatPlataID, CampLuna::Niciunul, {}, true},
         {"mutat", {QStringLiteral("2024"), 4}, mai->StatPlataID, CampLuna::Niciunul, {}, true},
-        {"disparut", {QStringLiteral("2024"), 6}, maxim + 100, CampLuna::Niciunul, RandDisparut, false},
+        {"disparut", {QStringLiteral("2024"), 3}, maxim + 100, CampLuna::Niciunul, RandDisparut, false},
         {"nou", {QStringLiteral("2024"), 3}, std::nullopt, CampLuna::Niciunul, {}, true},
     };
     for (const auto& c : cazuri) {
