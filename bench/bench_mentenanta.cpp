@@ -16,11 +16,16 @@ namespace {
 
 using Mentenanta::Unealta;
 
+// A copy of its own, beside the demo database: the shared working copy may be in use by another benchmark.
 const LocatieBD& Copie(int cereri) {
     static const LocatieBD loc = [&] {
-        LocatieBD l = BazaDemoSQLite(cereri, true);
+        const LocatieBD demo = BazaDemoSQLite(cereri, false);
+        LocatieBD l{demo.caleBD + QStringLiteral("-mentenanta"), {}};
+        QDir().mkpath(l.caleBD);
+        for (const QString& f : {NumeBD, QStringLiteral("bife.txt")})
+            QFile::remove(QDir(l.caleBD).filePath(f));
+        QFile::copy(demo.FisierSQLite(), l.FisierSQLite());
         // The goods list is reloaded from the catalogue delivered with the program.
-        QFile::remove(QDir(l.caleBD).filePath(QStringLiteral("bife.txt")));
         QFile::copy(QStringLiteral(FEROLANTA_SURSA "/data/bife.txt"),
                     QDir(l.caleBD).filePath(QStringLiteral("bife.txt")));
         return l;
