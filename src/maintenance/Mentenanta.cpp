@@ -9,8 +9,11 @@
 #include "store/Cataloage.h"
 #include "store/CheiLista.h"
 #include "store/DateGen.h"
+#include "store/OperatiiSchema.h"
+#include "store/Schema.h"
 
 #include <QDir>
+#include <algorithm>
 #include <functional>
 #include <map>
 
@@ -55,6 +58,32 @@ void VerificaLuna(const Optiuni& o) {
     if (o.luna < 1 || o.luna > 12 || o.an < 1)
         throw Eroare(QStringLiteral("Luna de lucru %1/%2 nu este valida.").arg(o.luna).arg(o.an));
 }
+
+// A write over most rows of a large table costs less when the indexes on the fields it changes are built
+// again once at the end than when they are kept up row by row. Inside the tool's transaction: on a
+// failure the indexes come back with the rows.
+class IndexuriRefacute {
+public:
+    IndexuriRefacute(BazaDate& db, const QString& tabela, const QStringList& campuri) : schema_(db) {
+        for (const IndexSchema& ix : Schema::Indexuri()) {
+            const bool atins = std::any_of(campuri.begin(), campuri.end(), [&](const QString& c) {
+                return ix.campuri.contains(c, Qt::CaseInsensitive);
+            });
+            if (ix.tabela.compare(tabela, Qt::CaseInsensitive) == 0 && atins && schema_.IndexExista(ix)) {
+                schema_.StergeIndex(ix);
+                sterse_.push_back(ix);
+            }
+        }
+    }
+    void Reface() {
+        for (const IndexSchema& ix : sterse_)
+            schema_.CreazaIndex(ix);
+    }
+
+private:
+    OperatiiSchema schema_;
+    std::vector<IndexSchema> sterse_;
+};
 
 // Why bife.txt can't be loaded: missing, or empty; nothing when it can be tried.
 std::optional<QString> RefuzBife(const QString& caleBD) {
@@ -103,16 +132,24 @@ qint64 GenereazaCereri2014(BazaDate& db, Mesaje& m, const Optiuni& o) {
                        "X.Cuantum FROM Cuantum2014 X WHERE X.TipCerere = Cereri.TipCerere AND X.NrCopii = CASE WHEN "
                        "Cereri.NrCopii > 4 THEN 4 ELSE Cereri.NrCopii END AND X.Treapta = %2), 0) WHERE Stare IN (%3)")
             .arg(o.pastreazaDataCerere ? QString() : QStringLiteral("DataCerere = ?, "), treapta, StariBune);
+    // The registered requests are the ones that come into force: their certificates will say so.
+    db.Executa(
+        QStringLiteral("CREATE TEMPORARY TABLE Inregistrate2014 AS SELECT CerereID FROM Cereri WHERE Stare = 1"));
+    IndexuriRefacute indexuri(db, QStringLiteral("Cereri"),
+                              {QStringLiteral("Stare"), QStringLiteral("DataCerere"), QStringLiteral("DataStare"),
+                               QStringLiteral("Cuantum")});
     const qint64 n = Schimba(db, sql, [&](Interogare& q) {
         if (!o.pastreazaDataCerere) q.Leaga(Data2014);
         q.Leaga(MotivModificare).Leaga(Data2014);
         for (const TreaptaVenit& t : trepte)
             q.Leaga(t.VenitMaxim);
     });
+    indexuri.Reface();
+    IndexuriRefacute indexuriActe(db, QStringLiteral("Adeverinte"), {QStringLiteral("CerereInVigoare")});
+    CheiLista::ScrieAdeverinte(db, QStringLiteral("CerereID IN (SELECT CerereID FROM Inregistrate2014)"));
+    indexuriActe.Reface();
     db.Executa(QStringLiteral("DROP TABLE Cuantum2014"));
-    // The requests registered but not granted are now in force: their certificates say so.
-    CheiLista::ScrieAdeverinte(db, QStringLiteral("CerereInVigoare = 0 AND CerereID IN (SELECT CerereID FROM Cereri "
-                                                  "WHERE Stare = 7)"));
+    db.Executa(QStringLiteral("DROP TABLE Inregistrate2014"));
     return n;
 }
 
@@ -154,14 +191,26 @@ Rezultat Aplica(BazaDate& db, Mesaje& m, Unealta u, const Optiuni& o) {
     case Unealta::Stare:
         r.randuri = Schimba(db, QStringLiteral("UPDATE Cereri SET Stare = 5 WHERE Stare = 3"));
         break;
-    case Unealta::Rudenie:
-        // In this order: the other way round both groups would end as spouses.
-        r.randuri = Schimba(db, QStringLiteral("UPDATE CereriMembrii SET RudenieID = 2 WHERE RudenieID = 3"));
-        r.randuri2 = Schimba(db, QStringLiteral("UPDATE CereriMembrii SET RudenieID = 3 WHERE RudenieID = 4"));
+    case Unealta::Rudenie: {
+        Interogare n(db,
+                     QStringLiteral("SELECT SUM(CASE WHEN RudenieID = 3 THEN 1 ELSE 0 END), SUM(CASE WHEN "
+                                    "RudenieID = 4 THEN 1 ELSE 0 END) FROM CereriMembrii WHERE RudenieID IN (3, 4)"));
+        n.Exista();
+        r.randuri = n.Intreg(0);
+        r.randuri2 = n.Intreg(1);
+        n.query().finish();
+        // Both passes in one statement: each row is judged by the kinship it had, so a partner becomes a
+        // spouse and a pupil a pupil of the new list, and never a pupil a spouse.
+        Schimba(db, QStringLiteral("UPDATE CereriMembrii SET RudenieID = CASE WHEN RudenieID = 3 THEN 2 ELSE 3 END "
+                                   "WHERE RudenieID IN (3, 4)"));
         break;
-    case Unealta::Acte:
+    }
+    case Unealta::Acte: {
+        IndexuriRefacute indexuri(db, QStringLiteral("Adeverinte"), {QStringLiteral("AdvCurenta")});
         r.randuri = Raport::RecalculAdvCurenta(db, false);
+        indexuri.Reface();
         break;
+    }
     case Unealta::Bife:
         Cataloage::RefaListaBife(db, o.caleBD);
         r.randuri = Cataloage::RanduriBife;
