@@ -16,18 +16,21 @@ namespace {
 
 using Mentenanta::Unealta;
 
-// A copy of its own, beside the demo database: the shared working copy may be in use by another benchmark.
+// A copy of its own beside the demo database, made once through the engine (the demo file may be
+// written by another benchmark at that moment) and kept: every run here is rolled back.
 const LocatieBD& Copie(int cereri) {
     static const LocatieBD loc = [&] {
         const LocatieBD demo = BazaDemoSQLite(cereri, false);
         LocatieBD l{demo.caleBD + QStringLiteral("-mentenanta"), {}};
-        QDir().mkpath(l.caleBD);
-        for (const QString& f : {NumeBD, QStringLiteral("bife.txt")})
-            QFile::remove(QDir(l.caleBD).filePath(f));
-        QFile::copy(demo.FisierSQLite(), l.FisierSQLite());
+        if (!QFile::exists(l.FisierSQLite())) {
+            QDir().mkpath(l.caleBD);
+            auto db = BazaDate::Deschide(demo);
+            Interogare(*db, QStringLiteral("VACUUM INTO ?")).Leaga(l.FisierSQLite()).Executa();
+        }
         // The goods list is reloaded from the catalogue delivered with the program.
-        QFile::copy(QStringLiteral(FEROLANTA_SURSA "/data/bife.txt"),
-                    QDir(l.caleBD).filePath(QStringLiteral("bife.txt")));
+        const QString bife = QDir(l.caleBD).filePath(QStringLiteral("bife.txt"));
+        QFile::remove(bife);
+        QFile::copy(QStringLiteral(FEROLANTA_SURSA "/data/bife.txt"), bife);
         return l;
     }();
     return loc;

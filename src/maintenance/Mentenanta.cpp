@@ -60,8 +60,8 @@ void VerificaLuna(const Optiuni& o) {
 }
 
 // A write over most rows of a large table costs less when the indexes on the fields it changes are built
-// again once at the end than when they are kept up row by row. Inside the tool's transaction: on a
-// failure the indexes come back with the rows.
+// again once at the end than when they are kept up row by row (for a few rows it is the other way round). Inside the
+// tool's transaction: on a failure the indexes come back with the rows.
 class IndexuriRefacute {
 public:
     IndexuriRefacute(BazaDate& db, const QString& tabela, const QStringList& campuri) : schema_(db) {
@@ -145,9 +145,8 @@ qint64 GenereazaCereri2014(BazaDate& db, Mesaje& m, const Optiuni& o) {
             q.Leaga(t.VenitMaxim);
     });
     indexuri.Reface();
-    IndexuriRefacute indexuriActe(db, QStringLiteral("Adeverinte"), {QStringLiteral("CerereInVigoare")});
+    // A few of the certificates: their indexes are kept up as they change.
     CheiLista::ScrieAdeverinte(db, QStringLiteral("CerereID IN (SELECT CerereID FROM Inregistrate2014)"));
-    indexuriActe.Reface();
     db.Executa(QStringLiteral("DROP TABLE Cuantum2014"));
     db.Executa(QStringLiteral("DROP TABLE Inregistrate2014"));
     return n;
@@ -205,12 +204,10 @@ Rezultat Aplica(BazaDate& db, Mesaje& m, Unealta u, const Optiuni& o) {
                                    "WHERE RudenieID IN (3, 4)"));
         break;
     }
-    case Unealta::Acte: {
-        IndexuriRefacute indexuri(db, QStringLiteral("Adeverinte"), {QStringLiteral("AdvCurenta")});
+    case Unealta::Acte:
+        // Mostly a few lost marks among many: the indexes are kept up as they change.
         r.randuri = Raport::RecalculAdvCurenta(db, false);
-        indexuri.Reface();
         break;
-    }
     case Unealta::Bife:
         Cataloage::RefaListaBife(db, o.caleBD);
         r.randuri = Cataloage::RanduriBife;
