@@ -13,6 +13,7 @@
 #include "store/Schema.h"
 
 #include <QDir>
+#include <QSqlQuery>
 #include <algorithm>
 #include <functional>
 #include <map>
@@ -94,7 +95,8 @@ public:
         if (db_.dialect().EsteSQLite()) db_.Executa(QStringLiteral("PRAGMA cache_size = -262144"));
     }
     ~CacheMare() {
-        if (db_.dialect().EsteSQLite()) Interogare(db_, QStringLiteral("PRAGMA cache_size = -2000")).query().exec();
+        // Nothing to report from here: a failure only leaves the larger cache until the program ends.
+        if (db_.dialect().EsteSQLite()) QSqlQuery(db_.conexiune()).exec(QStringLiteral("PRAGMA cache_size = -2000"));
     }
     CacheMare(const CacheMare&) = delete;
     CacheMare& operator=(const CacheMare&) = delete;
