@@ -16,9 +16,11 @@
 #include "cases/frmMembrii.h"
 #include "maintenance/FisiereWeb.h"
 #include "maintenance/frmUpdateLog.h"
+#include "maintenance/frmMentenanta.h"
 #include "reference/LunaLucru.h"
 #include "reference/frmBaremBun.h"
 #include "reference/frmChLunaAn.h"
+#include "reference/frmGenerareAn.h"
 #include "reference/frmMotive.h"
 #include "reference/frmSate.h"
 #include "reports/frmBorderou.h"
@@ -342,7 +344,11 @@ void frmMain::construiesteMeniurile() {
         frmISR f(p_.bd, m_, this);
         ArataModal(f);
     });
-    meniu(dataGen, "mnuGenAnNou", QStringLiteral("Generare An Nou..."), false);
+    connect(meniu(dataGen, "mnuGenAnNou", QStringLiteral("Generare An Nou..."), true), &QAction::triggered, this,
+            [this] {
+                frmGenerareAn f(p_, m_, this);
+                ArataModal(f);
+            });
     dataGen->addSeparator();
     connect(meniu(dataGen, "mnuExit", QStringLiteral("Iesire"), true), &QAction::triggered, this, &frmMain::Iesire);
 
@@ -391,7 +397,11 @@ void frmMain::construiesteMeniurile() {
         frmParola f(p_, m_, this);
         f.exec();
     });
-    meniu(intretinere, "mnuMentenanta", QStringLiteral("Mentenanta..."), false);
+    connect(meniu(intretinere, "mnuMentenanta", QStringLiteral("Mentenanta..."), true), &QAction::triggered, this,
+            [this] {
+                frmMentenanta f(p_, m_, this);
+                ArataModal(f);
+            });
     connect(meniu(intretinere, "mnuOptiuni", QStringLiteral("Optiuni..."), true), &QAction::triggered, this, [this] {
         frmOptiuni f(p_.setari, p_.FisierSetari(), m_, this);
         f.exec();

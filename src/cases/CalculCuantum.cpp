@@ -131,36 +131,41 @@ const Bani& CalculBarem::isr() {
     return *isr_;
 }
 
+std::vector<TreaptaVenit> CalculBarem::Trepte(const QDate& data, Mesaje& m) {
+    // Constant limits before the thresholds existed, then the stored ones.
+    if (!data.isValid() || data < DataPraguriVenit)
+        return {{Bani::DinLei(200), TreaptaJoasa}, {Bani::DinLei(370), TreaptaMedieVeche}};
+    const Praguri& pr = praguri(m);
+    return {{pr.jos, TreaptaJoasa}, {pr.sus, TreaptaMedie}};
+}
+
+Bani CalculBarem::suma(const RandBarem& barem) {
+    const Bani& valoare = isr();
+    // An empty coefficient counts as 0.
+    Bani s = valoare.Inmultit(barem.Barem.value_or(Bani()));
+    if (valoare != IsrImplicit && s > Bani()) s = Bani::DinLei(RotunjireSus(s));
+    return s;
+}
+
+Bani CalculBarem::SumaTreapta(int tipCerere, int nrCopii, const Bani& treapta, const QDate& data) {
+    const RandBarem* barem = gasesteBarem(p_, std::min(nrCopii, 4), tipCerere, treapta, data);
+    return barem ? suma(*barem) : Bani();
+}
+
 RezultatBarem CalculBarem::Calculeaza(const DateBarem& d, Mesaje& m) {
     RezultatBarem r;
-    // The bracket: constant limits before the thresholds existed, then the stored ones. An income
-    // exactly on a limit stays in the lower bracket.
-    Bani treapta;
-    if (!d.Data.isValid() || d.Data < DataPraguriVenit) {
-        if (d.VenitPeMembru <= Bani::DinLei(200))
-            treapta = TreaptaJoasa;
-        else if (d.VenitPeMembru <= Bani::DinLei(370))
-            treapta = TreaptaMedieVeche;
-        else
-            r.fel = RezultatBarem::Fel::PesteVenit;
-    } else {
-        const Praguri& pr = praguri(m);
-        if (d.VenitPeMembru <= pr.jos)
-            treapta = TreaptaJoasa;
-        else if (d.VenitPeMembru <= pr.sus)
-            treapta = TreaptaMedie;
-        else
-            r.fel = RezultatBarem::Fel::PesteVenit;
+    // An income exactly on a limit stays in the lower bracket.
+    const std::optional<Bani> gasita = TreaptaPentruVenit(d.VenitPeMembru, Trepte(d.Data, m));
+    if (!gasita) {
+        r.fel = RezultatBarem::Fel::PesteVenit;
+        return r;
     }
-    if (r.fel == RezultatBarem::Fel::PesteVenit) return r;
+    const Bani treapta = *gasita;
 
     const RandBarem* barem = gasesteBarem(p_, std::min(d.NrCopii, 4), d.TipCerere, treapta, d.Data);
     if (!barem) return r; // FaraNivel
 
-    const Bani& valoare = isr();
-    // An empty coefficient counts as 0.
-    Bani suma = valoare.Inmultit(barem->Barem.value_or(Bani()));
-    if (valoare != IsrImplicit && suma > Bani()) suma = Bani::DinLei(RotunjireSus(suma));
+    const Bani suma = this->suma(*barem);
 
     // The reductions take the one-child coefficient of the same bracket, always with 500 and never
     // with the ISR, for every child of the list, counted or not. There is a child here, so the row
@@ -179,6 +184,27 @@ RezultatBarem CalculBarem::Calculeaza(const DateBarem& d, Mesaje& m) {
     r.InainteDeReduceri = suma;
     r.Cuantum = suma - Bani::DinLei(reduceri.RotunjitPar());
     return r;
+}
+
+std::vector<TreaptaVenit> TrepteVenit(const QDate& data, const ParametriCuantum& p, Mesaje& m) {
+    return CalculBarem(p).Trepte(data, m);
+}
+
+std::optional<Bani> TreaptaPentruVenit(const Bani& venit, const std::vector<TreaptaVenit>& trepte) {
+    for (const TreaptaVenit& t : trepte)
+        if (venit <= t.VenitMaxim) return t.Suma;
+    return std::nullopt;
+}
+
+Bani CuantumTreapta(int tipCerere, int nrCopii, const Bani& treapta, const QDate& data, const ParametriCuantum& p) {
+    return CalculBarem(p).SumaTreapta(tipCerere, nrCopii, treapta, data);
+}
+
+Bani CuantumLaData(int tipCerere, const Bani& venitPeMembru, int nrCopii, const QDate& data, const ParametriCuantum& p,
+                   Mesaje& m) {
+    CalculBarem calcul(p);
+    const auto treapta = TreaptaPentruVenit(venitPeMembru, calcul.Trepte(data, m));
+    return treapta ? calcul.SumaTreapta(tipCerere, nrCopii, *treapta, data) : Bani();
 }
 
 Bani SumaVenituri(const std::array<Bani, 79>& venituri) {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cases/StareCerere.h"
 #include "base/Bani.h"
+#include "cases/StareCerere.h"
 #include "reference/Barem.h"
 #include "reference/PraguriVenit.h"
 
@@ -68,6 +68,12 @@ struct RezultatBarem {
     Bani InainteDeReduceri; // the amount after the rounding up, before the reductions
 };
 
+// One income bracket: incomes per member up to VenitMaxim take the Barem rows whose Suma is Suma.
+struct TreaptaVenit {
+    Bani VenitMaxim;
+    Bani Suma;
+};
+
 // The one place where the scale, the ISR and the thresholds turn into an amount: the request
 // editor runs it for one request, the ISR change for every paying request. The thresholds and the
 // ISR are read from their texts at their first use and kept, so one object serves a whole run.
@@ -76,8 +82,14 @@ public:
     explicit CalculBarem(const ParametriCuantum& p) : p_(p) {}
     // Throws Eroare as CalculCuantum does for the thresholds, the ISR and the one-child row.
     RezultatBarem Calculeaza(const DateBarem& d, Mesaje& m);
+    // The brackets in force at a date, lowest first (see TrepteVenit).
+    std::vector<TreaptaVenit> Trepte(const QDate& data, Mesaje& m);
+    // The scale's amount for a kind, children (four at most counted) and bracket: ISR x the
+    // coefficient, rounded up to whole lei when the ISR is not 500; no reductions; 0 without a row.
+    Bani SumaTreapta(int tipCerere, int nrCopii, const Bani& treapta, const QDate& data);
 
 private:
+    Bani suma(const RandBarem& barem);
     struct Praguri {
         Bani jos, sus;
     };
@@ -94,6 +106,20 @@ private:
 // thresholds are unusable on a date from 1 July 2013 (after their message), and when the
 // reductions need the one-child Barem row of the bracket and it is missing.
 RezultatCuantum CalculCuantum(const IntrareCuantum& intrare, const ParametriCuantum& p, Mesaje& m);
+
+// The brackets in force at `data`, lowest first: the fixed ones before 1 July 2013, the thresholds of
+// PRAGURI_VENIT from then on (throws Eroare, after their message, when those are unusable). An income
+// above the last one has no amount.
+std::vector<TreaptaVenit> TrepteVenit(const QDate& data, const ParametriCuantum& p, Mesaje& m);
+std::optional<Bani> TreaptaPentruVenit(const Bani& venit, const std::vector<TreaptaVenit>& trepte);
+
+// The amount of the scale alone at `data` for a family kind, a number of children (more than four
+// count as four) and a bracket: no reductions, 0 when the scale has no row for them.
+Bani CuantumTreapta(int tipCerere, int nrCopii, const Bani& treapta, const QDate& data, const ParametriCuantum& p);
+
+// The same for an income per member: its bracket at `data` first, 0 above the last one.
+Bani CuantumLaData(int tipCerere, const Bani& venitPeMembru, int nrCopii, const QDate& data, const ParametriCuantum& p,
+                   Mesaje& m);
 
 // The total of the income array.
 Bani SumaVenituri(const std::array<Bani, 79>& venituri);

@@ -62,6 +62,7 @@ int ComandaRaport(const QCommandLineParser& p, const QString& ce, QTextStream& o
 int ComandaBorderou(const QCommandLineParser& p, QTextStream& out);
 int ComandaBas(const QCommandLineParser& p, const QString& formular, QTextStream& out);
 int ComandaIsr(const QCommandLineParser& p, const QString& valoare, QTextStream& out);
+int ComandaMentenanta(const QCommandLineParser& p, const QString& unealta, QTextStream& out);
 int ComandaWeb(const QCommandLineParser& p, const QString& document, const QString& idText, QTextStream& out,
                QTextStream& err);
 

@@ -16,7 +16,9 @@ const QString Utilizare =
                    "[--tip-cerere 0|1|2] [--membri] [--nr-luni TEXT] [--stari ID,ID,...] [--nr-bord TEXT] "
                    "[--data-bord ZZ.LL.AAAA]}|"
                    "borderou --raport I --aloc J --out FISIER [--foaie] [--ord1 I] [--ord2 I] [--luna L --an A]|"
-                   "bas {a23|a25} --out FISIER.ods|isr VALOARE} "
+                   "bas {a23|a25} --out FISIER.ods|isr VALOARE|"
+                   "mentenanta {datastare [--suprascrie]|stare|rudenie|acte|bife|cereri2014 [--data-veche]} [--da] "
+                   "[--luna L --an A]} "
                    "[--dir DIR] "
                    "[--db postgresql://...]");
 
@@ -50,9 +52,12 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
     p.addOption({QStringLiteral("data-bord"), QStringLiteral("data borderoului"), QStringLiteral("ZZ.LL.AAAA")});
     p.addOption({QStringLiteral("raport"), QStringLiteral("felul cererilor din borderou"), QStringLiteral("I")});
     p.addOption({QStringLiteral("aloc"), QStringLiteral("felul alocatiei din borderou"), QStringLiteral("J")});
+    p.addOption({QStringLiteral("da"), QStringLiteral("mentenanta: raspunde Da si face modificarea")});
+    p.addOption({QStringLiteral("suprascrie"), QStringLiteral("mentenanta datastare: si cererile cu DataStare")});
+    p.addOption({QStringLiteral("data-veche"), QStringLiteral("mentenanta cereri2014: pastreaza DataCerere")});
     p.addPositionalArgument(
         QStringLiteral("comanda"),
-        QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta, raport, borderou, bas, isr"));
+        QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta, raport, borderou, bas, isr, mentenanta"));
     try {
         if (!p.parse(argumente)) throw EroareArgumente{p.errorText()};
         const QStringList poz = p.positionalArguments();
@@ -65,6 +70,10 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         const bool cuBorderou = comanda == QLatin1String("borderou");
         const bool cuBas = comanda == QLatin1String("bas");
         const bool cuIsr = comanda == QLatin1String("isr");
+        const bool cuMentenanta = comanda == QLatin1String("mentenanta");
+        if (cuMentenanta && poz.size() == 1)
+            throw EroareArgumente{
+                QStringLiteral("lipseste unealta: datastare, stare, rudenie, acte, bife sau cereri2014")};
         if (cuRaport && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste raportul: lista sau indexul")};
         if (cuBas && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste formularul: a23 sau a25")};
         if (cuIsr && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste valoarea ISR")};
@@ -74,7 +83,7 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (cuWeb && poz.size() == 1)
             throw EroareArgumente{QStringLiteral("lipseste documentul: cerere, cerere_1a sau ancheta")};
         if (cuWeb && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
-        if (poz.size() != (cuDocument || cuWeb ? 3 : cuCerere || cuRaport || cuBas || cuIsr ? 2 : 1))
+        if (poz.size() != (cuDocument || cuWeb ? 3 : cuCerere || cuRaport || cuBas || cuIsr || cuMentenanta ? 2 : 1))
             throw EroareArgumente{QStringLiteral("prea multe argumente")};
         if (!cuDocument && (p.isSet(QStringLiteral("sablon")) || p.isSet(QStringLiteral("data"))))
             throw EroareArgumente{QStringLiteral("--sablon si --data sunt doar pentru document")};
@@ -82,8 +91,14 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
             throw EroareArgumente{QStringLiteral("--out este doar pentru document, web, raport, borderou si bas")};
         if (comanda != QLatin1String("demo") && (p.isSet(QStringLiteral("cereri")) || p.isSet(QStringLiteral("seed"))))
             throw EroareArgumente{QStringLiteral("--cereri si --seed sunt doar pentru demo")};
-        if (!cuCerere && !cuRaport && !cuBorderou && (p.isSet(QStringLiteral("luna")) || p.isSet(QStringLiteral("an"))))
-            throw EroareArgumente{QStringLiteral("--luna si --an sunt doar pentru cuantum, raport si borderou")};
+        if (!cuCerere && !cuRaport && !cuBorderou && !cuMentenanta &&
+            (p.isSet(QStringLiteral("luna")) || p.isSet(QStringLiteral("an"))))
+            throw EroareArgumente{
+                QStringLiteral("--luna si --an sunt doar pentru cuantum, raport, borderou si mentenanta")};
+        if (!cuMentenanta)
+            for (const char* o : {"da", "suprascrie", "data-veche"})
+                if (p.isSet(QLatin1String(o)))
+                    throw EroareArgumente{QStringLiteral("--%1 este doar pentru mentenanta").arg(QLatin1String(o))};
         if (comanda != QLatin1String("cauta"))
             for (const char* o : {"cnp", "nume", "prenume", "nr-cerere", "primele"})
                 if (p.isSet(QLatin1String(o)))
@@ -114,6 +129,7 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (cuBorderou) return ComandaBorderou(p, out);
         if (cuBas) return ComandaBas(p, poz[1], out);
         if (cuIsr) return ComandaIsr(p, poz[1], out);
+        if (cuMentenanta) return ComandaMentenanta(p, poz[1], out);
         throw EroareArgumente{QStringLiteral("comanda necunoscuta: %1").arg(comanda)};
     } catch (const EroareArgumente& e) {
         err << e.text << ". " << Utilizare << Qt::endl;

@@ -1,6 +1,7 @@
 #include "cli/ComenziCli.h"
 #include "documents/web/PunteWebTest.h"
 #include "support/BazaTest.h"
+#include "support/CereriTest.h"
 
 #include <QRegularExpression>
 #include <QTextStream>
@@ -212,6 +213,30 @@ TEST_P(Cli, IsrRecalculeazaSauOpreste) {
 
 PE_AMBELE_MOTOARE(Cli);
 
+// A maintenance tool only counts without --da; with it, it changes and says how many. A tool that stops
+// on its check ends with code 1.
+TEST_P(Cli, MentenantaNumaraApoiSchimba) {
+    Redeschide();
+    for (qint64 id : {1, 2}) {
+        CerereTest c;
+        c.cerereID = c.nrCerere = id;
+        c.stare = 3;
+        c.persoane = {{id, T("POP"), T("ION"), QString::number(id), 1}};
+        AdaugaCerereTest(Bd(), c);
+    }
+    const IesireCli numara = Ruleaza(T("mentenanta stare"));
+    EXPECT_EQ(numara.cod, 0) << numara.err.toStdString();
+    EXPECT_TRUE(numara.out.startsWith(T("Ar fi modificate 2 randuri."))) << numara.out.toStdString();
+    EXPECT_EQ(Numar(T("SELECT COUNT(*) FROM Cereri WHERE Stare = 3")), 2);
+    const IesireCli da = Ruleaza(T("mentenanta stare --da"));
+    EXPECT_EQ(da.cod, 0) << da.err.toStdString();
+    EXPECT_TRUE(da.out.contains(T("A fost modifcat Stare = 5 la 2 cereri"))) << da.out.toStdString();
+    EXPECT_EQ(Numar(T("SELECT COUNT(*) FROM Cereri WHERE Stare = 5")), 2);
+    const IesireCli luna = Ruleaza(T("mentenanta cereri2014 --da --luna 3 --an 2024"));
+    EXPECT_EQ(luna.cod, 1);
+    EXPECT_TRUE(luna.out.contains(T("Seteaza luna si an corect!"))) << luna.out.toStdString();
+}
+
 // Each wrong command line gives code 2, one line of usage on the error stream, nothing on the
 // other, and creates nothing in the folder it names (DIR).
 TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
@@ -234,7 +259,10 @@ TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
         "borderou --raport 0 --aloc 0 --out x.csv --an 2024", "borderou --raport 0 --aloc 0 --out x.csv --tip-cerere 1",
         "bas", "bas a24 --out x.ods", "bas a23", "bas a23 --out x.xlsx", "bas a23 a25 --out x.ods",
         "bas a25 --out x.ods --foaie", "cuantum 5 --raport 1 --dir DIR", "isr", "isr 0.99 --dir DIR",
-        "isr 5a --dir DIR", "isr 600 700 --dir DIR", "isr 600 --out x.csv"};
+        "isr 5a --dir DIR", "isr 600 700 --dir DIR", "isr 600 --out x.csv",
+        "bas a25 --out x.ods --foaie", "cuantum 5 --raport 1 --dir DIR", "mentenanta", "mentenanta curata --dir DIR",
+        "mentenanta stare acte --dir DIR", "mentenanta stare --suprascrie --dir DIR", "cauta --da",
+        "mentenanta acte --data-veche --dir DIR", "mentenanta datastare --luna 3 --dir DIR"};
     // clang-format on
     QTemporaryDir dir;
     for (const char* linie : linii) {

@@ -309,23 +309,42 @@ Grila ListaCereri6Luni(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const 
                        QStringLiteral("C.CerereID"), valori);
 }
 
-void RecalculAdvCurenta(BazaDate& db) {
+namespace {
+
+// Each person's latest certificate of each kind, for person numbers up to the number of certificates
+// and the kinds the catalogue has; of two alike, the first written.
+const QString AdvCurente = QStringLiteral(
+    "SELECT AdevID FROM (SELECT AdevID, ROW_NUMBER() OVER (PARTITION BY MembruID, TipAdeverinta ORDER BY CASE WHEN "
+    "DataExpAdev IS NULL THEN 1 ELSE 0 END, DataExpAdev DESC, AdevID) AS Loc FROM Adeverinte WHERE MembruID <= "
+    "(SELECT COUNT(*) FROM Adeverinte) AND TipAdeverinta >= 1 AND TipAdeverinta <= (SELECT COALESCE(MAX(DataID), 0) "
+    "FROM DateGen WHERE Tip = 30)) P WHERE Loc = 1");
+
+} // namespace
+
+qint64 RecalculAdvCurenta(BazaDate& db, bool stergeMarcileVechi) {
     Tranzactie t(db);
-    // Each person's latest certificate of each kind, for person numbers up to the number of
-    // certificates and the kinds the catalogue has; of two alike, the first written. Only the marks
-    // that change are written: month after month most stay as they were.
+    // Only the marks that change are written: month after month most stay as they were.
     db.Executa(QStringLiteral("CREATE TEMPORARY TABLE AdvCurente (AdevID BIGINT PRIMARY KEY)"));
-    db.Executa(QStringLiteral(
-        "INSERT INTO AdvCurente (AdevID) SELECT AdevID FROM (SELECT AdevID, ROW_NUMBER() OVER (PARTITION BY "
-        "MembruID, TipAdeverinta ORDER BY CASE WHEN DataExpAdev IS NULL THEN 1 ELSE 0 END, DataExpAdev DESC, AdevID) "
-        "AS Loc FROM Adeverinte WHERE MembruID <= (SELECT COUNT(*) FROM Adeverinte) AND TipAdeverinta >= 1 AND "
-        "TipAdeverinta <= (SELECT COALESCE(MAX(DataID), 0) FROM DateGen WHERE Tip = 30)) P WHERE Loc = 1"));
-    db.Executa(QStringLiteral("UPDATE Adeverinte SET AdvCurenta = NULL WHERE AdvCurenta IS NOT NULL AND NOT EXISTS "
-                              "(SELECT 1 FROM AdvCurente X WHERE X.AdevID = Adeverinte.AdevID)"));
-    db.Executa(QStringLiteral("UPDATE Adeverinte SET AdvCurenta = 1 WHERE (AdvCurenta IS NULL OR AdvCurenta <> 1) AND "
-                              "AdevID IN (SELECT AdevID FROM AdvCurente)"));
+    db.Executa(QStringLiteral("INSERT INTO AdvCurente (AdevID) ") + AdvCurente);
+    if (stergeMarcileVechi)
+        db.Executa(QStringLiteral("UPDATE Adeverinte SET AdvCurenta = NULL WHERE AdvCurenta IS NOT NULL AND NOT EXISTS "
+                                  "(SELECT 1 FROM AdvCurente X WHERE X.AdevID = Adeverinte.AdevID)"));
+    Interogare marcheaza(db, QStringLiteral("UPDATE Adeverinte SET AdvCurenta = 1 WHERE (AdvCurenta IS NULL OR "
+                                            "AdvCurenta <> 1) AND AdevID IN (SELECT AdevID FROM AdvCurente)"));
+    marcheaza.Executa();
+    const qint64 marcate = marcheaza.RanduriAfectate();
     db.Executa(QStringLiteral("DROP TABLE AdvCurente"));
     t.Confirma();
+    return marcate;
+}
+
+qint64 NumarAdvCurenteNemarcate(BazaDate& db) {
+    Interogare q(db,
+                 QStringLiteral("SELECT COUNT(*) FROM Adeverinte A WHERE (A.AdvCurenta IS NULL OR A.AdvCurenta <> 1) "
+                                "AND A.AdevID IN (") +
+                     AdvCurente + QStringLiteral(")"));
+    q.Exista();
+    return q.Intreg(0);
 }
 
 Grila ListaActeExpira(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a, bool foaie) {

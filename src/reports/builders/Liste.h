@@ -22,8 +22,12 @@ Grila ListaCereri6Luni(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const 
 // the current certificates first, the spreadsheet's lists them all.
 Grila ListaActeExpira(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a, bool foaie);
 // Marks, for each person and kind of certificate, the one that expires last (by the counter rule
-// the office has always had: person numbers up to the number of certificates).
-void RecalculAdvCurenta(BazaDate& db);
+// the office has always had: person numbers up to the number of certificates). Without
+// `stergeMarcileVechi` the marks of other rows stay. One transaction; returns how many rows were marked
+// that were not.
+qint64 RecalculAdvCurenta(BazaDate& db, bool stergeMarcileVechi = true);
+// How many rows RecalculAdvCurenta would mark that are not marked now.
+qint64 NumarAdvCurenteNemarcate(BazaDate& db);
 // Children (kinship 3, 6-9) or adults (1, 2, 4, 5) of the requests in force, with their age on the
 // first day of the next month.
 Grila ListaPersoane(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alegeri& a, bool copii);
