@@ -27,7 +27,9 @@
 #include "cases/frmMembrii.h"
 #include "maintenance/Demo.h"
 #include "reference/DateReferinta.h"
+#include "maintenance/frmMentenanta.h"
 #include "reference/frmBaremBun.h"
+#include "reference/frmGenerareAn.h"
 #include "reference/frmChLunaAn.h"
 #include "reference/frmDatePrimarie2.h"
 #include "reference/frmMotive.h"
@@ -288,6 +290,14 @@ int main(int argc, char** argv) {
     {
         frmISR f(*db, m);
         captura(f, "frmISR");
+    }
+    {
+        frmMentenanta f(program, m);
+        captura(f, "frmMentenanta");
+    }
+    {
+        frmGenerareAn f(program, m);
+        captura(f, "frmGenerareAn");
     }
     editor.reject();
     return erori == 0 ? 0 : 1;
