@@ -5,9 +5,12 @@
 #include "cases/CalculCuantum.h"
 #include "reference/Isr.h"
 #include "store/BazaDate.h"
+#include "store/CitireRapida.h"
 #include "store/InserareInLot.h"
+#include "store/LucruMare.h"
 
 #include <QVariant>
+#include <optional>
 #include <vector>
 
 namespace RecalculIsr {
@@ -16,15 +19,6 @@ namespace {
 
 // How often the progress is told: often enough for a bar to move, rarely enough to cost nothing.
 constexpr qint64 PasProgres = 4096;
-
-// A stored date without going through the field's name for each of a million rows: the SQLite driver
-// gives ISO text, the PostgreSQL one a date.
-QDate Data(const QVariant& v) {
-    if (v.isNull()) return {};
-    if (v.typeId() == QMetaType::QDate) return v.toDate();
-    if (v.typeId() == QMetaType::QDateTime) return v.toDateTime().date();
-    return QDate::fromString(v.toString().left(10), Qt::ISODate);
-}
 
 struct Reduceri {
     qint64 CerereID = 0;
@@ -59,6 +53,11 @@ qint64 NumarInPlata(BazaDate& db) {
     return q.Exista() ? q.Intreg(0) : 0;
 }
 
+qint64 NumarCereri(BazaDate& db) {
+    Interogare q(db, QStringLiteral("SELECT COUNT(*) FROM Cereri"));
+    return q.Exista() ? q.Intreg(0) : 0;
+}
+
 // Writes the amounts that changed in one statement: they go first into a temporary table of their own
 // connection, in bulk, and one UPDATE joins it to the requests.
 void ScrieCuantumuri(BazaDate& db, const std::vector<std::pair<qint64, Bani>>& noi) {
@@ -74,9 +73,13 @@ void ScrieCuantumuri(BazaDate& db, const std::vector<std::pair<qint64, Bani>>& n
             ins.Leaga(id).Leaga(cuantum).Executa();
         ins.Scrie();
     }
+    // Past a third of the table the amount's index is cheaper built again than kept up.
+    std::optional<IndexuriRefacute> indexuri;
+    if (qint64(noi.size()) * 3 > NumarCereri(db)) indexuri.emplace(db, QStringLiteral("Cereri"), QStringList{QStringLiteral("Cuantum")});
     Interogare(db, QStringLiteral("UPDATE Cereri SET Cuantum = CuantumNou.Cuantum FROM CuantumNou "
                                   "WHERE Cereri.CerereID = CuantumNou.CerereID"))
         .Executa();
+    if (indexuri) indexuri->Reface();
     db.Executa(QStringLiteral("DROP TABLE CuantumNou"));
 }
 
@@ -99,7 +102,7 @@ Rezultat SchimbaIsr(BazaDate& db, const QString& valoare, Mesaje& m, const Progr
         // Most requests are in payment: reading the table in the order of its key beats the index on
         // Stare, whose rows would be fetched at random and then sorted (the unary plus keeps SQLite off
         // that index).
-        Interogare q(db, QStringLiteral("SELECT CerereID, DataCerere, TipCerere, VenitpeMembru, NrCopii, Cuantum "
+        CitireRapida q(db, QStringLiteral("SELECT CerereID, DataCerere, TipCerere, VenitpeMembru, NrCopii, Cuantum "
                                         "FROM Cereri WHERE +Stare IN (?, ?, ?, ?) ORDER BY CerereID"));
         for (int stare : {2, 6, 7, 8})
             q.Leaga(stare);
@@ -109,9 +112,9 @@ Rezultat SchimbaIsr(BazaDate& db, const QString& valoare, Mesaje& m, const Progr
         while (q.Urmator()) {
             const qint64 id = q.Intreg(0);
             DateBarem d;
-            d.Data = Data(q.Valoare(1));
+            d.Data = q.Data(1);
             d.TipCerere = int(q.Intreg(2));
-            d.VenitPeMembru = Bani::DinVariant(q.Valoare(3));
+            d.VenitPeMembru = q.Suma(3);
             d.NrCopii = int(q.Intreg(4));
             while (red != reduceri.end() && red->CerereID < id)
                 ++red;
@@ -124,9 +127,8 @@ Rezultat SchimbaIsr(BazaDate& db, const QString& valoare, Mesaje& m, const Progr
                 rez.Oprit = id;
                 break;
             }
-            const Bani vechi = Bani::DinVariant(q.Valoare(5));
             // A null amount becomes a stored 0 like any other change.
-            if (r.Cuantum != vechi || q.Valoare(5).isNull()) noi.emplace_back(id, r.Cuantum);
+            if (q.EsteNul(5) || r.Cuantum != q.Suma(5)) noi.emplace_back(id, r.Cuantum);
             ++rez.Recalculate;
             if (progres && rez.Recalculate % PasProgres == 0)
                 progres(rez.Recalculate, std::max(total, rez.Recalculate));

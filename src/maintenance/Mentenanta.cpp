@@ -9,6 +9,7 @@
 #include "store/Cataloage.h"
 #include "store/CheiLista.h"
 #include "store/DateGen.h"
+#include "store/LucruMare.h"
 #include "store/OperatiiSchema.h"
 #include "store/Schema.h"
 
@@ -59,51 +60,6 @@ void VerificaLuna(const Optiuni& o) {
     if (o.luna < 1 || o.luna > 12 || o.an < 1)
         throw Eroare(QStringLiteral("Luna de lucru %1/%2 nu este valida.").arg(o.luna).arg(o.an));
 }
-
-// A write over most rows of a large table costs less when the indexes on the fields it changes are built
-// again once at the end than when they are kept up row by row (for a few rows it is the other way round). Inside the
-// tool's transaction: on a failure the indexes come back with the rows.
-class IndexuriRefacute {
-public:
-    IndexuriRefacute(BazaDate& db, const QString& tabela, const QStringList& campuri) : schema_(db) {
-        for (const IndexSchema& ix : Schema::Indexuri()) {
-            const bool atins = std::any_of(campuri.begin(), campuri.end(), [&](const QString& c) {
-                return ix.campuri.contains(c, Qt::CaseInsensitive);
-            });
-            if (ix.tabela.compare(tabela, Qt::CaseInsensitive) == 0 && atins && schema_.IndexExista(ix)) {
-                schema_.StergeIndex(ix);
-                sterse_.push_back(ix);
-            }
-        }
-    }
-    void Reface() {
-        for (const IndexSchema& ix : sterse_)
-            schema_.CreazaIndex(ix);
-    }
-
-private:
-    OperatiiSchema schema_;
-    std::vector<IndexSchema> sterse_;
-};
-
-// A tool that rewrites most of a large SQLite file would spill its changed pages to the file mid-way with
-// the engine's small default page cache; it gets a larger one while it works (the connection otherwise
-// keeps the default).
-class CacheMare {
-public:
-    explicit CacheMare(BazaDate& db) : db_(db) {
-        if (db_.dialect().EsteSQLite()) db_.Executa(QStringLiteral("PRAGMA cache_size = -262144"));
-    }
-    ~CacheMare() {
-        // Nothing to report from here: a failure only leaves the larger cache until the program ends.
-        if (db_.dialect().EsteSQLite()) QSqlQuery(db_.conexiune()).exec(QStringLiteral("PRAGMA cache_size = -2000"));
-    }
-    CacheMare(const CacheMare&) = delete;
-    CacheMare& operator=(const CacheMare&) = delete;
-
-private:
-    BazaDate& db_;
-};
 
 // Why bife.txt can't be loaded: missing, or empty; nothing when it can be tried.
 std::optional<QString> RefuzBife(const QString& caleBD) {

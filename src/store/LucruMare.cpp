@@ -1,0 +1,29 @@
+#include "store/LucruMare.h"
+
+#include <QSqlQuery>
+#include <algorithm>
+
+IndexuriRefacute::IndexuriRefacute(BazaDate& db, const QString& tabela, const QStringList& campuri) : schema_(db) {
+    for (const IndexSchema& ix : Schema::Indexuri()) {
+        const bool atins = std::any_of(campuri.begin(), campuri.end(),
+                                       [&](const QString& c) { return ix.campuri.contains(c, Qt::CaseInsensitive); });
+        if (ix.tabela.compare(tabela, Qt::CaseInsensitive) == 0 && atins && schema_.IndexExista(ix)) {
+            schema_.StergeIndex(ix);
+            sterse_.push_back(ix);
+        }
+    }
+}
+
+void IndexuriRefacute::Reface() {
+    for (const IndexSchema& ix : sterse_)
+        schema_.CreazaIndex(ix);
+}
+
+CacheMare::CacheMare(BazaDate& db) : db_(db) {
+    if (db_.dialect().EsteSQLite()) db_.Executa(QStringLiteral("PRAGMA cache_size = -262144"));
+}
+
+CacheMare::~CacheMare() {
+    // Nothing to report from here: a failure only leaves the larger cache until the program ends.
+    if (db_.dialect().EsteSQLite()) QSqlQuery(db_.conexiune()).exec(QStringLiteral("PRAGMA cache_size = -2000"));
+}
