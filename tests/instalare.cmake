@@ -1,0 +1,28 @@
+# Installs the build into a temporary prefix and makes a database with the installed command.
+set(radacina ${BUILD}/test-instalare)
+file(REMOVE_RECURSE ${radacina})
+set(prefix ${radacina}/prefix)
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${prefix} RESULT_VARIABLE r OUTPUT_QUIET)
+if(NOT r EQUAL 0)
+    message(FATAL_ERROR "cmake --install a esuat: ${r}")
+endif()
+foreach(f bin/ferolanta bin/ferolanta-cli share/applications/ferolanta.desktop
+          share/icons/hicolor/scalable/apps/ferolanta.svg share/ferolanta/Acte/ANEXA3.ods share/ferolanta/data/DateGen.tsv)
+    if(NOT EXISTS ${prefix}/${f})
+        message(FATAL_ERROR "lipseste din instalare: ${f}")
+    endif()
+endforeach()
+set(date ${radacina}/date)
+file(MAKE_DIRECTORY ${date})
+execute_process(COMMAND ${prefix}/bin/ferolanta-cli init --dir ${date} RESULT_VARIABLE r OUTPUT_VARIABLE out
+                ERROR_VARIABLE err)
+if(NOT r EQUAL 0 OR NOT EXISTS ${date}/Ferolanta.db)
+    message(FATAL_ERROR "ferolanta-cli init din prefix: ${r}\n${out}\n${err}")
+endif()
+# The catalogues were copied into the new folder from the installed share folder.
+foreach(f venituri.txt bife.txt acte.txt)
+    if(NOT EXISTS ${date}/${f})
+        message(FATAL_ERROR "init nu a copiat ${f} din prefix")
+    endif()
+endforeach()
+file(REMOVE_RECURSE ${radacina})
