@@ -75,7 +75,8 @@ void ScrieCuantumuri(BazaDate& db, const std::vector<std::pair<qint64, Bani>>& n
     }
     // Past a third of the table the amount's index is cheaper built again than kept up.
     std::optional<IndexuriRefacute> indexuri;
-    if (qint64(noi.size()) * 3 > NumarCereri(db)) indexuri.emplace(db, QStringLiteral("Cereri"), QStringList{QStringLiteral("Cuantum")});
+    if (qint64(noi.size()) * 3 > NumarCereri(db))
+        indexuri.emplace(db, QStringLiteral("Cereri"), QStringList{QStringLiteral("Cuantum")});
     Interogare(db, QStringLiteral("UPDATE Cereri SET Cuantum = CuantumNou.Cuantum FROM CuantumNou "
                                   "WHERE Cereri.CerereID = CuantumNou.CerereID"))
         .Executa();
@@ -103,7 +104,7 @@ Rezultat SchimbaIsr(BazaDate& db, const QString& valoare, Mesaje& m, const Progr
         // Stare, whose rows would be fetched at random and then sorted (the unary plus keeps SQLite off
         // that index).
         CitireRapida q(db, QStringLiteral("SELECT CerereID, DataCerere, TipCerere, VenitpeMembru, NrCopii, Cuantum "
-                                        "FROM Cereri WHERE +Stare IN (?, ?, ?, ?) ORDER BY CerereID"));
+                                          "FROM Cereri WHERE +Stare IN (?, ?, ?, ?) ORDER BY CerereID"));
         for (int stare : {2, 6, 7, 8})
             q.Leaga(stare);
         q.Executa();

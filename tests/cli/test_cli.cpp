@@ -262,7 +262,8 @@ TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
         "isr 5a --dir DIR", "isr 600 700 --dir DIR", "isr 600 --out x.csv",
         "bas a25 --out x.ods --foaie", "cuantum 5 --raport 1 --dir DIR", "mentenanta", "mentenanta curata --dir DIR",
         "mentenanta stare acte --dir DIR", "mentenanta stare --suprascrie --dir DIR", "cauta --da",
-        "mentenanta acte --data-veche --dir DIR", "mentenanta datastare --luna 3 --dir DIR"};
+        "mentenanta acte --data-veche --dir DIR", "mentenanta datastare --luna 3 --dir DIR",
+        "copie x --dir DIR", "restaurare --dir DIR", "restaurare a b --dir DIR", "copie --out x.db"};
     // clang-format on
     QTemporaryDir dir;
     for (const char* linie : linii) {
