@@ -2,6 +2,7 @@
 
 #include "base/Eroare.h"
 #include "store/BazaDate.h"
+#include "store/CitireRapida.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,6 +17,7 @@
 #include <QUuid>
 #include <algorithm>
 #include <set>
+#include <sqlite3.h>
 
 namespace Copii {
 
@@ -47,6 +49,32 @@ void Verifica(const QString& fisier) {
         throw Eroare(QStringLiteral("Copia %1 nu trece verificarea bazei de date (%2).")
                          .arg(QDir::toNativeSeparators(fisier),
                               rezultat.isEmpty() ? QStringLiteral("nu se deschide") : rezultat.left(200)));
+}
+
+// The engine copies the file's pages as of one moment in one step: writers of other connections wait
+// for it (a few seconds on a large office's file) rather than make it start over.
+void CopiazaPagini(BazaDate& db, const QString& fisier) {
+    sqlite3* dest = nullptr;
+    int rc = sqlite3_open_v2(QFile::encodeName(fisier).constData(), &dest, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE,
+                             nullptr);
+    QString eroare;
+    if (rc == SQLITE_OK) {
+        sqlite3_backup* b = sqlite3_backup_init(dest, "main", ConexiuneSQLite(db), "main");
+        if (b) {
+            // A writer in the middle of its unit holds the file a moment: the copy waits for it, up to a minute.
+            for (int incercari = 0; incercari < 600; ++incercari) {
+                rc = sqlite3_backup_step(b, -1);
+                if (rc != SQLITE_BUSY && rc != SQLITE_LOCKED) break;
+                sqlite3_sleep(100);
+            }
+            sqlite3_backup_finish(b);
+        }
+        if (rc != SQLITE_DONE || sqlite3_errcode(dest) != SQLITE_OK) eroare = QString::fromUtf8(sqlite3_errmsg(dest));
+    } else {
+        eroare = dest ? QString::fromUtf8(sqlite3_errmsg(dest)) : QStringLiteral("fisierul nu se poate crea");
+    }
+    sqlite3_close(dest);
+    if (!eroare.isEmpty()) throw Eroare(eroare);
 }
 
 QString FolderCopii(const LocatieBD& loc) {
@@ -111,8 +139,7 @@ QString FaCopie(BazaDate& db, const LocatieBD& loc, const QDateTime& acum) {
     if (QFile::exists(fisier))
         throw Eroare(QStringLiteral("Copia %1 exista deja.").arg(QDir::toNativeSeparators(fisier)));
     try {
-        // The engine writes a consistent image of the file as of one moment, while others go on writing.
-        Interogare(db, QStringLiteral("VACUUM INTO ?")).Leaga(fisier).Executa();
+        CopiazaPagini(db, fisier);
         Verifica(fisier);
     } catch (const Eroare& e) {
         QFile::remove(fisier);

@@ -12,14 +12,14 @@ struct CitireRapida::SQLite {
     ~SQLite() { sqlite3_finalize(stmt); }
 };
 
-namespace {
-
-sqlite3* conexiune(BazaDate& db) {
+sqlite3* ConexiuneSQLite(BazaDate& db) {
     const QVariant h = db.conexiune().driver()->handle();
     if (!h.isValid() || qstrcmp(h.typeName(), "sqlite3*") != 0)
         throw Eroare(QStringLiteral("Driverul bazei de date nu ofera conexiunea sqlite3"));
     return *static_cast<sqlite3* const*>(h.constData());
 }
+
+namespace {
 
 // "2014-11-01" and what follows it, read without the general date parser.
 QDate dataIso(const unsigned char* t, int n) {
@@ -43,7 +43,7 @@ QDate dataIso(const unsigned char* t, int n) {
 CitireRapida::CitireRapida(BazaDate& db, const QString& sql) : db_(db), sql_(sql) {
     if (db.dialect().EsteSQLite()) {
         lite_ = std::make_unique<SQLite>();
-        lite_->db = conexiune(db);
+        lite_->db = ConexiuneSQLite(db);
         if (sqlite3_prepare16_v2(lite_->db, sql.utf16(), int(sql.size() * 2), &lite_->stmt, nullptr) != SQLITE_OK)
             throw Eroare(QStringLiteral("%1\n[%2]").arg(QString::fromUtf8(sqlite3_errmsg(lite_->db)), sql));
     } else {
@@ -80,7 +80,8 @@ CitireRapida& CitireRapida::LeagaValoare(const QVariant& valoare) {
         }
         }
     }
-    if (rc != SQLITE_OK) throw Eroare(QStringLiteral("%1\n[%2]").arg(QString::fromUtf8(sqlite3_errmsg(lite_->db)), sql_));
+    if (rc != SQLITE_OK)
+        throw Eroare(QStringLiteral("%1\n[%2]").arg(QString::fromUtf8(sqlite3_errmsg(lite_->db)), sql_));
     return *this;
 }
 
@@ -135,7 +136,8 @@ qint64 CitireRapida::Intreg(int i) const {
 QString CitireRapida::Text(int i) const {
     if (q_) return q_->Valoare(i).toString();
     // A real number reads as the SQL module writes it ("12", not "12.0").
-    if (sqlite3_column_type(lite_->stmt, i) == SQLITE_FLOAT) return QVariant(sqlite3_column_double(lite_->stmt, i)).toString();
+    if (sqlite3_column_type(lite_->stmt, i) == SQLITE_FLOAT)
+        return QVariant(sqlite3_column_double(lite_->stmt, i)).toString();
     const void* t = sqlite3_column_text16(lite_->stmt, i);
     if (!t) return {};
     return QString(static_cast<const QChar*>(t), sqlite3_column_bytes16(lite_->stmt, i) / 2);

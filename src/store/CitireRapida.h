@@ -7,6 +7,11 @@
 #include <utility>
 #include <vector>
 
+struct sqlite3;
+
+// The engine's own connection under an SQLite database's SQL module connection; Eroare on PostgreSQL.
+sqlite3* ConexiuneSQLite(BazaDate& db);
+
 // The rows of a long read (a report of a million requests) read by field number, without a QVariant
 // for every value: on SQLite straight through the engine's own interface, on PostgreSQL through the
 // SQL module. For statements that only read; values are bound as Interogare binds them.
