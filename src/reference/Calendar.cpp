@@ -76,6 +76,11 @@ bool ExistaAltRand(BazaDate& db, int an, int luna, std::optional<qint64> excepta
 
 } // namespace
 
+int AnAfisat(const QString& anText, int anSetat) {
+    const int an = AnTastat(anText);
+    return an > 0 ? an : anSetat;
+}
+
 std::vector<LunaPlata> Luni(BazaDate& db, std::optional<int> an) {
     Interogare q(db, an ? QStringLiteral("SELECT StatPlataID, An, Luna FROM StatePlata WHERE An = ? ORDER BY Luna, "
                                          "StatPlataID")

@@ -20,6 +20,8 @@ struct LunaPlata {
 
 // Every row in the order of its key, or the rows of one year by month.
 std::vector<LunaPlata> Luni(BazaDate& db, std::optional<int> an);
+// The year the list shows when not all years are: the one typed, else the working year.
+int AnAfisat(const QString& anText, int anSetat);
 std::optional<LunaPlata> CitesteLuna(BazaDate& db, qint64 statPlataID);
 
 // What is wrong with the year's months: a message for the missing ones and one for the doubled ones;

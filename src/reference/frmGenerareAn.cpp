@@ -2,7 +2,6 @@
 
 #include "base/Mesaje.h"
 #include "base/Setari.h"
-#include "base/Val.h"
 #include "reference/Calendar.h"
 #include "reference/UiListe.h"
 #include "reference/frmAddLuna.h"
@@ -20,7 +19,6 @@
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-#include <cmath>
 
 using namespace Calendar;
 
@@ -115,10 +113,7 @@ frmGenerareAn::frmGenerareAn(Program& p, Mesaje& m, QWidget* parinte) : QDialog(
 void frmGenerareAn::Reincarca() {
     lvwLuni->clear();
     std::optional<int> an;
-    if (!chkTotiAnii->isChecked()) {
-        const double tastat = Val(txtAn->text());
-        an = tastat >= 1 && tastat <= 9999 ? int(std::floor(tastat)) : int(p_.setari.AnSetat);
-    }
+    if (!chkTotiAnii->isChecked()) an = AnAfisat(txtAn->text(), int(p_.setari.AnSetat));
     LaMargine(m_, [&] {
         for (const LunaPlata& l : Luni(p_.bd, an))
             lvwLuni->addTopLevelItem(new RandLista(l.StatPlataID, {QString::number(l.Luna), QString::number(l.An)}));
