@@ -58,12 +58,6 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-namespace {
-
-// The support line of the status bar.
-const QString ContactSuport = QStringLiteral(" Suport: suport@ferolanta.ro ");
-
-} // namespace
 
 frmMain::frmMain(Program& p, Mesaje& m, QWidget* parinte)
     : QMainWindow(parinte), p_(p), m_(m), model_(new ModelCereri(p.bd, this)) {
@@ -402,6 +396,10 @@ void frmMain::construiesteMeniurile() {
                 frmMentenanta f(p_, m_, this);
                 ArataModal(f);
             });
+    connect(meniu(intretinere, "mnuCopie", QStringLiteral("Copie de siguranta acum"), true), &QAction::triggered, this,
+            &frmMain::mnuCopie_Click);
+    connect(meniu(intretinere, "mnuRestaurare", QStringLiteral("Restaurare copie..."), true), &QAction::triggered,
+            this, &frmMain::mnuRestaurare_Click);
     connect(meniu(intretinere, "mnuOptiuni", QStringLiteral("Optiuni..."), true), &QAction::triggered, this, [this] {
         frmOptiuni f(p_.setari, p_.FisierSetari(), m_, this);
         f.exec();

@@ -10,6 +10,7 @@
 #include <array>
 #include <functional>
 
+class CopieInFundal;
 class Mesaje;
 class ModelCereri;
 struct Program;
@@ -26,6 +27,9 @@ class QTimer;
 class QTreeWidget;
 class UiDataOptionala;
 struct TiparireDocumente;
+
+// The support line of the status bar.
+inline const QString ContactSuport = QStringLiteral(" Suport: suport@ferolanta.ro ");
 
 // Captions of the bulk-printing menu entries; while they print, their caption is the stop command.
 namespace TextTiparire {
@@ -71,6 +75,16 @@ public:
     void cmdEditAncheta_Click();
     void cmdDelAncheta_Click();
     void mnuDatePrimarie_Click();
+
+    // The copy of the day, made while the clerk works; its progress and a failure show in the status bar.
+    void PornesteCopiaZilei();
+    // A copy before a tool that rewrites many rows: the window waits for the pages to be copied, the
+    // check goes on behind. A failure shows in the status bar and the tool goes on.
+    void CopieDeSiguranta(const QString& motiv);
+    void mnuCopie_Click();
+    void mnuRestaurare_Click();
+    // The copy chosen to be put back once the window has closed; empty otherwise.
+    QString RestaurareCeruta;
 
     // Shows a modal dialog; tests replace it to fill the dialog and press its buttons.
     std::function<int(QDialog&)> ArataModal = [](QDialog& d) { return d.exec(); };
@@ -147,9 +161,12 @@ private:
     void RescrieRandul(qint64 cerereID);
     // The lists under the request list, for the request (0: none, they are emptied).
     void ListeleCererii(qint64 cerereID);
+    CopieInFundal* pornesteCopia(const QString& motiv);
+    void anuntaCopia(const QString& eroare);
 
     Program& p_;
     Mesaje& m_;
     ModelCereri* model_;
     QTimer* timerNotificare_ = nullptr;
+    bool eroareCopieAratata_ = false;
 };

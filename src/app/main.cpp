@@ -6,17 +6,49 @@
 #include "app/frmGeneral.h"
 #include "app/frmLogin.h"
 #include "app/frmMain.h"
+#include "base/Eroare.h"
 #include "maintenance/Updater.h"
 #include "maintenance/frmUpdate.h"
+#include "maintenance/Copii.h"
+#include "store/CopieInainte.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
+#include <QProgressDialog>
 #include <QLockFile>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QThread>
 
 namespace {
+
+// The copy goes back on a thread of its own while a window says so: its check takes minutes on a large
+// office's file.
+void restaureaza(const QString& copie, const LocatieBD& loc, UiMesaje& mesaje) {
+    QProgressDialog d(QStringLiteral("Copia se verifica si se pune inapoi..."), QString(), 0, 0);
+    d.setWindowTitle(QStringLiteral("Restaurare copie"));
+    d.setMinimumDuration(0);
+    d.show();
+    QString deoparte, eroare;
+    std::unique_ptr<QThread> fir(QThread::create([&] {
+        try {
+            deoparte = Copii::Restaureaza(copie, loc);
+        } catch (const Eroare& e) {
+            eroare = e.text();
+        }
+    }));
+    QEventLoop bucla;
+    QObject::connect(fir.get(), &QThread::finished, &bucla, &QEventLoop::quit);
+    fir->start();
+    bucla.exec();
+    d.close();
+    if (!eroare.isEmpty())
+        mesaje.Critic(eroare);
+    else
+        mesaje.Informatie(QStringLiteral("Copia a fost pusa inapoi. Baza de date de dinainte este in %1")
+                              .arg(QDir::toNativeSeparators(deoparte)));
+}
 
 int porneste(QApplication& app, UiMesaje& mesaje) {
     RezultatPornire pornire = PornesteBaza(Foldere::ApplicationPath(), Foldere::FolderLivrat(), mesaje);
@@ -46,10 +78,24 @@ int porneste(QApplication& app, UiMesaje& mesaje) {
         if (!login.LoginSucceeded) return 0;
     }
 
-    Program program{*pornire.bd, pornire.setari, pornire.applicationPath};
-    frmMain fereastra(program, mesaje);
-    fereastra.show();
-    return app.exec();
+    QString deRestaurat;
+    int cod = 0;
+    {
+        Program program{*pornire.bd, pornire.setari, pornire.applicationPath};
+        frmMain fereastra(program, mesaje);
+        fereastra.show();
+        CopieInainte::Seteaza([&fereastra](BazaDate&, const QString& motiv) { fereastra.CopieDeSiguranta(motiv); });
+        fereastra.PornesteCopiaZilei();
+        cod = app.exec();
+        CopieInainte::Seteaza({});
+        deRestaurat = fereastra.RestaurareCeruta;
+    }
+    if (deRestaurat.isEmpty()) return cod;
+    // The connection is closed before its file is replaced; the program then starts again on it.
+    const LocatieBD loc = pornire.bd->locatie();
+    pornire.bd.reset();
+    restaureaza(deRestaurat, loc, mesaje);
+    return porneste(app, mesaje);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "cases/Dispozitii.h"
 
+#include "store/CopieInainte.h"
 #include "cases/RandDisponibil.h"
 #include "base/Ceas.h"
 #include "base/Eroare.h"
@@ -334,6 +335,7 @@ RezultatGenerare Dispozitii::Genereaza(BazaDate& db, Mesaje& m, const ParametriG
     if (anDisp == 0) return refuz(FaraAn, "txtDispoz_1");
     r.NrStart = numarDispozitie(p.NrStart);
     const QDate dinData(anDisp, *p.Luna, 1);
+    CopieInainte::Fa(db, QStringLiteral("inainte de generarea dispozitiilor"));
 
     // The messages wait until the transaction has ended: none holds the database while the
     // clerk reads it.

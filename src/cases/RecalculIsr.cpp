@@ -1,5 +1,6 @@
 #include "cases/RecalculIsr.h"
 
+#include "store/CopieInainte.h"
 #include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "cases/CalculCuantum.h"
@@ -89,6 +90,7 @@ void ScrieCuantumuri(BazaDate& db, const std::vector<std::pair<qint64, Bani>>& n
 Rezultat SchimbaIsr(BazaDate& db, const QString& valoare, Mesaje& m, const Progres& progres) {
     Rezultat rez;
     qint64 total = 0;
+    CopieInainte::Fa(db, QStringLiteral("inainte de recalcularea ISR"));
     {
         Tranzactie t(db);
         ScrieIsr(db, valoare);

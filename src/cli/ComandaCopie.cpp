@@ -12,7 +12,7 @@ int ComandaCopie(const QCommandLineParser& p, QTextStream& out) {
     const LocatieBD loc = Locatie(p);
     try {
         auto db = BazaDate::Deschide(loc);
-        out << QDir::toNativeSeparators(Copii::FaCopie(*db, loc)) << Qt::endl;
+        out << QDir::toNativeSeparators(Copii::FaCopie(loc)) << Qt::endl;
     } catch (const Eroare& e) {
         out << e.text() << Qt::endl;
         return 1;

@@ -2,6 +2,11 @@
 
 #include "base/Eroare.h"
 #include "cli/ArgumenteCli.h"
+#include "maintenance/Copii.h"
+#include "store/BazaDate.h"
+#include "store/CopieInainte.h"
+
+#include <QDir>
 
 using namespace Cli;
 
@@ -21,6 +26,43 @@ const QString Utilizare =
                    "[--luna L --an A]|copie|restaurare COPIE} "
                    "[--dir DIR] "
                    "[--db postgresql://...]");
+
+} // namespace
+
+namespace {
+
+// A tool that rewrites many rows is preceded by a copy of the database; the copy's check and the
+// removal of older copies wait until the tool has run, so that it does not wait for them.
+class CopiiInainte {
+public:
+    explicit CopiiInainte(QTextStream& err) : err_(err) {
+        CopieInainte::Seteaza([this](BazaDate& db, const QString& motiv) {
+            try {
+                const QString f = Copii::Copiaza(db.locatie(), QDateTime::currentDateTime());
+                facute_ << f;
+                err_ << "Copie de siguranta " << motiv << ": " << QDir::toNativeSeparators(f) << Qt::endl;
+            } catch (const Eroare& e) {
+                err_ << e.text() << Qt::endl;
+            }
+        });
+    }
+    ~CopiiInainte() {
+        CopieInainte::Seteaza({});
+        for (const QString& f : facute_) {
+            try {
+                Copii::VerificaSiRoteste(f);
+            } catch (const Eroare& e) {
+                err_ << e.text() << Qt::endl;
+            }
+        }
+    }
+    CopiiInainte(const CopiiInainte&) = delete;
+    CopiiInainte& operator=(const CopiiInainte&) = delete;
+
+private:
+    QTextStream& err_;
+    QStringList facute_;
+};
 
 } // namespace
 
@@ -120,6 +162,7 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
             for (const char* o : {"raport", "aloc"})
                 if (p.isSet(QLatin1String(o)))
                     throw EroareArgumente{QStringLiteral("--%1 este doar pentru borderou").arg(QLatin1String(o))};
+        const CopiiInainte copii(err);
         if (comanda == QLatin1String("init")) return ComandaInit(p, out, err);
         if (comanda == QLatin1String("cauta")) return ComandaCauta(p, out, err);
         if (comanda == QLatin1String("upgrade")) return ComandaUpgrade(p, out, err);

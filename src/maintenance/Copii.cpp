@@ -2,19 +2,15 @@
 
 #include "base/Eroare.h"
 #include "store/BazaDate.h"
-#include "store/CitireRapida.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QStandardPaths>
 #include <QUrl>
 #include <QUrlQuery>
-#include <QUuid>
 #include <algorithm>
 #include <set>
 #include <sqlite3.h>
@@ -30,50 +26,93 @@ QString NumeCopie(const QDateTime& acum, const QString& extensie) {
     return QStringLiteral("Ferolanta-") + acum.toString(QStringLiteral("yyyyMMdd-HHmmss")) + extensie;
 }
 
+// Rows and pages are checked by the engine on a connection of its own; a stop asked meanwhile
+// interrupts it between two of its steps.
+int Intrerupe(void* opreste) {
+    return static_cast<const std::atomic<bool>*>(opreste)->load() ? 1 : 0;
+}
+
 // A copy is good when SQLite finds nothing wrong in it.
-void Verifica(const QString& fisier) {
-    const QString nume = QStringLiteral("verificare-") + QUuid::createUuid().toString(QUuid::WithoutBraces);
+void Verifica(const QString& fisier, const Progres& progres = {}) {
+    sqlite3* c = nullptr;
     QString rezultat;
-    {
-        QSqlDatabase c = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), nume);
-        c.setDatabaseName(fisier);
-        c.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
-        if (c.open()) {
-            QSqlQuery q(c);
-            if (q.exec(QStringLiteral("PRAGMA integrity_check")) && q.next()) rezultat = q.value(0).toString();
+    if (sqlite3_open_v2(QFile::encodeName(fisier).constData(), &c, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK) {
+        if (progres.opreste) sqlite3_progress_handler(c, 100000, Intrerupe, const_cast<std::atomic<bool>*>(progres.opreste));
+        // Index entries are looked up in their tables: a large cache keeps that from reading pages again.
+        sqlite3_exec(c, "PRAGMA cache_size = -262144", nullptr, nullptr, nullptr);
+        sqlite3_stmt* st = nullptr;
+        if (sqlite3_prepare_v2(c, "PRAGMA integrity_check", -1, &st, nullptr) == SQLITE_OK) {
+            const int rc = sqlite3_step(st);
+            if (rc == SQLITE_ROW)
+                rezultat = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
+            else if (rc == SQLITE_INTERRUPT)
+                rezultat = QStringLiteral("verificarea a fost oprita");
+            else
+                rezultat = QString::fromUtf8(sqlite3_errmsg(c));
         }
-        c.close();
+        sqlite3_finalize(st);
     }
-    QSqlDatabase::removeDatabase(nume);
+    sqlite3_close(c);
     if (rezultat != QLatin1String("ok"))
         throw Eroare(QStringLiteral("Copia %1 nu trece verificarea bazei de date (%2).")
                          .arg(QDir::toNativeSeparators(fisier),
                               rezultat.isEmpty() ? QStringLiteral("nu se deschide") : rezultat.left(200)));
 }
 
-// The engine copies the file's pages as of one moment in one step: writers of other connections wait
-// for it (a few seconds on a large office's file) rather than make it start over.
-void CopiazaPagini(BazaDate& db, const QString& fisier) {
+// The engine copies the file's pages a slice at a time, so that the clerk's saves get in between.
+// A save of another connection makes it start over; after a few restarts it copies the rest in one
+// step, while writers wait for it (a few seconds on a large office's file).
+void CopiazaPagini(const QString& sursa, const QString& fisier, const Progres& progres) {
+    sqlite3* src = nullptr;
     sqlite3* dest = nullptr;
-    int rc = sqlite3_open_v2(QFile::encodeName(fisier).constData(), &dest, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE,
-                             nullptr);
     QString eroare;
-    if (rc == SQLITE_OK) {
-        sqlite3_backup* b = sqlite3_backup_init(dest, "main", ConexiuneSQLite(db), "main");
+    int rc = sqlite3_open_v2(QFile::encodeName(sursa).constData(), &src, SQLITE_OPEN_READONLY, nullptr);
+    if (rc != SQLITE_OK) {
+        eroare = src ? QString::fromUtf8(sqlite3_errmsg(src)) : QStringLiteral("baza de date nu se deschide");
+    } else {
+        sqlite3_busy_timeout(src, 60000);
+        // Pages read through the system's file cache, not copied into the engine's own first.
+        sqlite3_exec(src, "PRAGMA mmap_size = 1073741824", nullptr, nullptr, nullptr);
+        rc = sqlite3_open_v2(QFile::encodeName(fisier).constData(), &dest, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE,
+                             nullptr);
+        if (rc != SQLITE_OK)
+            eroare = dest ? QString::fromUtf8(sqlite3_errmsg(dest)) : QStringLiteral("fisierul nu se poate crea");
+    }
+    if (eroare.isEmpty()) {
+        sqlite3_backup* b = sqlite3_backup_init(dest, "main", src, "main");
         if (b) {
-            // A writer in the middle of its unit holds the file a moment: the copy waits for it, up to a minute.
-            for (int incercari = 0; incercari < 600; ++incercari) {
-                rc = sqlite3_backup_step(b, -1);
-                if (rc != SQLITE_BUSY && rc != SQLITE_LOCKED) break;
-                sqlite3_sleep(100);
+            constexpr int Felie = 16384; // 64 MB of 4 KB pages
+            int reluari = 0, ocupat = 0, ramase = -1;
+            for (;;) {
+                if (progres.opreste && progres.opreste->load()) {
+                    rc = SQLITE_INTERRUPT;
+                    break;
+                }
+                rc = sqlite3_backup_step(b, reluari >= 3 ? -1 : Felie);
+                if (rc == SQLITE_BUSY || rc == SQLITE_LOCKED) {
+                    // A writer in the middle of its unit holds the file a moment: wait, up to a minute.
+                    if (++ocupat > 600) break;
+                    sqlite3_sleep(100);
+                    continue;
+                }
+                if (rc != SQLITE_OK) break;
+                const int acum = sqlite3_backup_remaining(b);
+                if (ramase >= 0 && acum > ramase) ++reluari;
+                ramase = acum;
+                if (progres.pas) {
+                    const int total = sqlite3_backup_pagecount(b);
+                    progres.pas(total - acum, total);
+                }
             }
             sqlite3_backup_finish(b);
         }
-        if (rc != SQLITE_DONE || sqlite3_errcode(dest) != SQLITE_OK) eroare = QString::fromUtf8(sqlite3_errmsg(dest));
-    } else {
-        eroare = dest ? QString::fromUtf8(sqlite3_errmsg(dest)) : QStringLiteral("fisierul nu se poate crea");
+        if (rc == SQLITE_INTERRUPT)
+            eroare = QStringLiteral("copia a fost oprita");
+        else if (rc != SQLITE_DONE || sqlite3_errcode(dest) != SQLITE_OK)
+            eroare = QString::fromUtf8(sqlite3_errmsg(dest));
     }
     sqlite3_close(dest);
+    sqlite3_close(src);
     if (!eroare.isEmpty()) throw Eroare(eroare);
 }
 
@@ -90,23 +129,36 @@ void Roteste(const QString& folder) {
         QFile::remove(QDir(folder).filePath(f));
 }
 
-QString CopiePostgreSQL(const LocatieBD& loc, const QString& folder, const QDateTime& acum) {
-    const QString pgDump = QStandardPaths::findExecutable(QStringLiteral("pg_dump"));
-    if (pgDump.isEmpty())
-        throw Eroare(QStringLiteral("pg_dump nu este instalat pe acest calculator: copia bazei PostgreSQL nu se poate "
-                                    "face de aici."));
-    const QString fisier = QDir(folder).filePath(NumeCopie(acum, QStringLiteral(".dump")));
-    // The connection's own schema, when it names one, is the office's whole database.
-    QStringList argumente{QStringLiteral("--format=custom"), QStringLiteral("--file=") + fisier};
+// The server's address for the client tools: the connection's own schema, when it names one, is the
+// office's whole database; other options of the address are the program's, not theirs.
+QStringList ArgumenteServer(const LocatieBD& loc) {
+    QStringList a;
     const QString schema = QUrlQuery(QUrl(loc.url).query()).queryItemValue(QStringLiteral("schema"));
-    if (!schema.isEmpty()) argumente << QStringLiteral("--schema=") + schema;
-    argumente << loc.url.section(u'?', 0, 0);
+    if (!schema.isEmpty()) a << QStringLiteral("--schema=") + schema;
+    a << QStringLiteral("--dbname=") + loc.url.section(u'?', 0, 0);
+    return a;
+}
+
+void RuleazaUnealta(const QString& nume, const QStringList& argumente) {
+    const QString program = QStandardPaths::findExecutable(nume);
+    if (program.isEmpty())
+        throw Eroare(QStringLiteral("%1 nu este instalat pe acest calculator: copia bazei PostgreSQL nu se poate "
+                                    "face sau pune inapoi de aici.")
+                         .arg(nume));
     QProcess p;
-    p.start(pgDump, argumente);
-    if (!p.waitForFinished(-1) || p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0) {
+    p.start(program, argumente);
+    if (!p.waitForFinished(-1) || p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0)
+        throw Eroare(QStringLiteral("%1 a esuat: %2").arg(nume, QString::fromLocal8Bit(p.readAllStandardError()).trimmed()));
+}
+
+QString CopiePostgreSQL(const LocatieBD& loc, const QString& fisier) {
+    try {
+        RuleazaUnealta(QStringLiteral("pg_dump"),
+                       QStringList{QStringLiteral("--format=custom"), QStringLiteral("--file=") + fisier} +
+                           ArgumenteServer(loc));
+    } catch (const Eroare&) {
         QFile::remove(fisier);
-        throw Eroare(
-            QStringLiteral("pg_dump a esuat: %1").arg(QString::fromLocal8Bit(p.readAllStandardError()).trimmed()));
+        throw;
     }
     return fisier;
 }
@@ -132,36 +184,81 @@ QStringList DeSters(const QStringList& fisiere) {
     return sterse;
 }
 
-QString FaCopie(BazaDate& db, const LocatieBD& loc, const QDateTime& acum) {
+QString Copiaza(const LocatieBD& loc, const QDateTime& acum, const Progres& progres) {
     const QString folder = FolderCopii(loc);
-    if (loc.EstePostgreSQL()) return CopiePostgreSQL(loc, folder, acum);
-    const QString fisier = QDir(folder).filePath(NumeCopie(acum, QStringLiteral(".db")));
+    if (loc.EstePostgreSQL())
+        return CopiePostgreSQL(loc, QDir(folder).filePath(NumeCopie(acum, QStringLiteral(".dump"))));
+    // Two copies in one second (a tool run twice) are told apart by the next free second.
+    QString fisier;
+    for (int s = 0; s < 60 && (fisier.isEmpty() || QFile::exists(fisier)); ++s)
+        fisier = QDir(folder).filePath(NumeCopie(acum.addSecs(s), QStringLiteral(".db")));
     if (QFile::exists(fisier))
         throw Eroare(QStringLiteral("Copia %1 exista deja.").arg(QDir::toNativeSeparators(fisier)));
     try {
-        CopiazaPagini(db, fisier);
-        Verifica(fisier);
+        CopiazaPagini(loc.FisierSQLite(), fisier, progres);
     } catch (const Eroare& e) {
         QFile::remove(fisier);
         throw Eroare(QStringLiteral("Copia bazei de date nu a putut fi facuta in %1:\n%2")
                          .arg(QDir::toNativeSeparators(folder), e.text()));
     }
-    Roteste(folder);
     return fisier;
 }
 
+void VerificaSiRoteste(const QString& copie, const Progres& progres) {
+    if (copie.endsWith(QLatin1String(".db"))) {
+        try {
+            Verifica(copie, progres);
+        } catch (const Eroare&) {
+            QFile::remove(copie);
+            throw;
+        }
+    }
+    Roteste(QFileInfo(copie).path());
+}
+
+QString FaCopie(const LocatieBD& loc, const QDateTime& acum) {
+    const QString copie = Copiaza(loc, acum);
+    VerificaSiRoteste(copie);
+    return copie;
+}
+
+bool AreCopiaZilei(const LocatieBD& loc, const QDate& zi) {
+    const QString prefix = QStringLiteral("Ferolanta-") + zi.toString(QStringLiteral("yyyyMMdd")) + u'-';
+    const QStringList f = QDir(QDir(loc.caleBD).filePath(NumeFolder)).entryList({prefix + u'*'}, QDir::Files);
+    return std::any_of(f.begin(), f.end(), [](const QString& n) { return FormatNume.match(n).hasMatch(); });
+}
+
+std::vector<CopieGasita> Lista(const LocatieBD& loc) {
+    static const QRegularExpression oricare(QStringLiteral("^(?:Ferolanta|Inainte-de-restaurare)-(\\d{8}-\\d{6})\\.(db|dump)$"));
+    const QDir folder(QDir(loc.caleBD).filePath(NumeFolder));
+    std::vector<CopieGasita> r;
+    for (const QFileInfo& f : folder.entryInfoList(QDir::Files)) {
+        const auto m = oricare.match(f.fileName());
+        if (!m.hasMatch()) continue;
+        r.push_back({f.absoluteFilePath(), QDateTime::fromString(m.captured(1), QStringLiteral("yyyyMMdd-HHmmss")),
+                     f.size()});
+    }
+    std::sort(r.begin(), r.end(), [](const CopieGasita& a, const CopieGasita& b) { return a.cand > b.cand; });
+    return r;
+}
+
 QString Restaureaza(const QString& copie, const LocatieBD& loc, const QDateTime& acum) {
-    if (loc.EstePostgreSQL())
-        throw Eroare(QStringLiteral("Pe PostgreSQL copia se pune inapoi cu pg_restore, de catre administratorul "
-                                    "serverului."));
     if (!QFileInfo::exists(copie))
         throw Eroare(QStringLiteral("Copia %1 nu exista.").arg(QDir::toNativeSeparators(copie)));
+    const QString dinainte = QStringLiteral("Inainte-de-restaurare-") + acum.toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    if (loc.EstePostgreSQL()) {
+        const QString deoparte = CopiePostgreSQL(loc, QDir(FolderCopii(loc)).filePath(dinainte + QStringLiteral(".dump")));
+        // One transaction: a copy that does not go in leaves the tables as they were.
+        RuleazaUnealta(QStringLiteral("pg_restore"),
+                       QStringList{QStringLiteral("--clean"), QStringLiteral("--if-exists"), QStringLiteral("--no-owner"),
+                                   QStringLiteral("--single-transaction"), QStringLiteral("--exit-on-error")} +
+                           ArgumenteServer(loc) + QStringList{copie});
+        return deoparte;
+    }
     Verifica(copie);
     const QString baza = loc.FisierSQLite();
     const QString folder = FolderCopii(loc);
-    const QString deoparte =
-        QDir(folder).filePath(QStringLiteral("Inainte-de-restaurare-") +
-                              acum.toString(QStringLiteral("yyyyMMdd-HHmmss")) + QStringLiteral(".db"));
+    const QString deoparte = QDir(folder).filePath(dinainte + QStringLiteral(".db"));
     if (QFile::exists(baza) && !QFile::copy(baza, deoparte))
         throw Eroare(QStringLiteral("Baza de date curenta nu a putut fi pusa deoparte in %1: nimic nu a fost "
                                     "schimbat.")

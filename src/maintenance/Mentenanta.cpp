@@ -1,5 +1,6 @@
 #include "maintenance/Mentenanta.h"
 
+#include "store/CopieInainte.h"
 #include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "base/ServiciuFisiere.h"
@@ -155,6 +156,7 @@ Rezultat Aplica(BazaDate& db, Mesaje& m, Unealta u, const Optiuni& o) {
     if (u == Unealta::DataStare) VerificaLuna(o);
     if (u == Unealta::Bife)
         if (const auto refuz = RefuzBife(o.caleBD)) throw Eroare(*refuz);
+    CopieInainte::Fa(db, QStringLiteral("inainte de mentenanta"));
     const CacheMare cache(db);
     Tranzactie t(db);
     switch (u) {

@@ -1,4 +1,6 @@
+#include "maintenance/Copii.h"
 #include "maintenance/frmMentenanta.h"
+#include "maintenance/frmRestaurare.h"
 #include "reference/frmAddLuna.h"
 #include "reference/frmGenerareAn.h"
 #include "store/Program.h"
@@ -102,6 +104,22 @@ TEST_P(Ferestre, GenerareAn) {
     f.cmdDelete->click();
     EXPECT_EQ(f.lvwLuni->topLevelItemCount(), 0);
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM StatePlata WHERE An = 2041")), 0);
+}
+
+// The copies are listed newest first; the chosen one is handed back only after the question is answered Yes.
+TEST_P(Ferestre, Restaurare) {
+    Copii::FaCopie(Locatie(), QDateTime(QDate(2026, 11, 24), QTime(8, 0)));
+    const QString noua = Copii::FaCopie(Locatie(), QDateTime(QDate(2026, 11, 25), QTime(8, 0)));
+    frmRestaurare f(Locatie(), mesaje);
+    Activa(f);
+    ASSERT_EQ(f.lvwCopii->topLevelItemCount(), 2);
+    mesaje.raspunsuri = {false};
+    f.cmdRestaureaza->click();
+    EXPECT_TRUE(f.Aleasa.isEmpty());
+    EXPECT_TRUE(f.isVisible());
+    f.cmdRestaureaza->click();
+    EXPECT_EQ(f.Aleasa, noua);
+    EXPECT_EQ(f.result(), QDialog::Accepted);
 }
 
 PE_AMBELE_MOTOARE(Ferestre);

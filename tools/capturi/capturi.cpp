@@ -27,7 +27,9 @@
 #include "cases/frmMembrii.h"
 #include "maintenance/Demo.h"
 #include "reference/DateReferinta.h"
+#include "maintenance/Copii.h"
 #include "maintenance/frmMentenanta.h"
+#include "maintenance/frmRestaurare.h"
 #include "reference/frmBaremBun.h"
 #include "reference/frmGenerareAn.h"
 #include "reference/frmChLunaAn.h"
@@ -46,6 +48,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -149,6 +152,22 @@ int main(int argc, char** argv) {
                 break;
             }
         captura(f, "frmMain");
+        // A folder for the copies that can't be made: the day's copy fails, and says so once.
+        QFile blocat(QDir(loc.caleBD).filePath(Copii::NumeFolder));
+        if (blocat.open(QIODevice::WriteOnly)) blocat.close();
+        f.PornesteCopiaZilei();
+        QElapsedTimer t;
+        t.start();
+        while (t.elapsed() < 3000)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+        captura(f, "frmMain-copie-esuata");
+        QFile::remove(blocat.fileName());
+    }
+    {
+        Copii::FaCopie(loc, QDateTime::currentDateTime().addDays(-1));
+        Copii::FaCopie(loc);
+        frmRestaurare f(loc, m);
+        captura(f, "frmRestaurare");
     }
     frmAddCerere editor(*db, setari, m, DeschidereCerere{2, cerere});
     captura(editor, "frmAddCerere");
