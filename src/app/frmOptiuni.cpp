@@ -69,9 +69,12 @@ void frmOptiuni::AsazaControale() {
     cboNrCerere = Lista(general, "cboNrCerere", ListaNrCerere());
     txtServerCerere = Control(new QLineEdit(general), "txtServerCerere");
     txtServerCerere->setMinimumWidth(260);
+    txtServerActualizare = Control(new QLineEdit(general), "txtServerActualizare");
+    txtServerActualizare->setPlaceholderText(QStringLiteral("https://... (gol: fara actualizare)"));
     fGeneral->addRow(QStringLiteral("Denumire pentru strada / sat:"), txtStrSat);
     fGeneral->addRow(QStringLiteral("Numar pentru o cerere noua:"), cboNrCerere);
     fGeneral->addRow(QStringLiteral("Adresa serverului de cereri:"), txtServerCerere);
+    fGeneral->addRow(QStringLiteral("Adresa serverului de actualizare:"), txtServerActualizare);
     vGeneral->addLayout(fGeneral);
     auto* grupCuloare = new QGroupBox(QStringLiteral("Culoarea de fundal a ferestrei de venituri"), general);
     auto* hCuloare = new QHBoxLayout(grupCuloare);
@@ -197,6 +200,7 @@ void frmOptiuni::ArataValori(const ValoriOptiuni& v) {
     chkNrCerereInAncheta->setChecked(v.NrCerereInAncheta);
     chkNrCerere->setChecked(v.NrCerereTiparita);
     txtServerCerere->setText(v.ServerCerere);
+    txtServerActualizare->setText(v.ServerActualizare);
     culoareVenit_ = v.CuloareVenit;
     txtFolderExport->setText(v.FolderExport);
     ArataCuloare();
@@ -233,6 +237,7 @@ ValoriOptiuni frmOptiuni::CitesteValori() const {
     v.NrCerereInAncheta = chkNrCerereInAncheta->isChecked();
     v.NrCerereTiparita = chkNrCerere->isChecked();
     v.ServerCerere = txtServerCerere->text();
+    v.ServerActualizare = txtServerActualizare->text();
     v.CuloareVenit = culoareVenit_;
     v.FolderExport = txtFolderExport->text();
     return v;

@@ -74,6 +74,7 @@ private:
     QCheckBox* chkNrCerereInAncheta = nullptr;
     QCheckBox* chkNrCerere = nullptr;
     QLineEdit* txtServerCerere = nullptr;
+    QLineEdit* txtServerActualizare = nullptr;
     QLineEdit* txtFolderExport = nullptr;
     QPushButton* cmdFolderExport = nullptr;
     QCheckBox* chk_update_off = nullptr;

@@ -4,6 +4,7 @@
 #include "base/Val.h"
 
 #include <QStandardPaths>
+#include <QUrl>
 #include <cmath>
 #include <limits>
 
@@ -137,6 +138,7 @@ void ScrieSetare(const QString& fisierIni, const QString& sectiune, const QStrin
 void ScrieOptiuni(const QString& f, const Setari& s) {
     const auto numar = [](int n) { return QString::number(n); };
     ScrieSetare(f, Generale, QStringLiteral("OpresteActualizareAutomata"), Flag(s.OpresteActualizareAutomata));
+    ScrieSetare(f, Generale, QStringLiteral("ServerActualizare"), s.ServerActualizare);
     ScrieSetare(f, Ordonari, QStringLiteral("NrCerereAnexa3"), s.NrCerereAnexa3);
     ScrieSetare(f, Fonturi, QStringLiteral("FontSize0"), numar(s.FontSize0));
     ScrieSetare(f, Fonturi, QStringLiteral("FontName0"), s.FontName0);
@@ -200,6 +202,7 @@ ValoriOptiuni ValoriDinSetari(const Setari& s) {
     v.NrCerereInAncheta = s.NrCerereInAncheta;
     v.NrCerereTiparita = s.NrCerereTiparita;
     v.ServerCerere = s.ServerCerere;
+    v.ServerActualizare = s.ServerActualizare;
     v.CuloareVenit = s.CuloareVenit;
     v.FolderExport = s.FolderExport;
     return v;
@@ -212,7 +215,19 @@ std::optional<QString> VerificaMarimeFont(int marime) {
 }
 
 std::optional<QString> VerificaOptiuni(const ValoriOptiuni& v) {
-    return VerificaMarimeFont(v.FontSize0);
+    if (auto refuz = VerificaMarimeFont(v.FontSize0)) return refuz;
+    // A build is taken only over an encrypted link, or from this computer.
+    const QString server = v.ServerActualizare.trimmed();
+    if (!server.isEmpty()) {
+        const QUrl u(server, QUrl::StrictMode);
+        const QString gazda = u.host().toLower();
+        const bool local = gazda == QLatin1String("localhost") || gazda == QLatin1String("::1") ||
+                           gazda.startsWith(QLatin1String("127."));
+        if (!u.isValid() || gazda.isEmpty() ||
+            !(u.scheme() == QLatin1String("https") || (u.scheme() == QLatin1String("http") && local)))
+            return QStringLiteral("Adresa serverului de actualizare trebuie sa fie de forma https://server/folder/");
+    }
+    return std::nullopt;
 }
 
 Setari AplicaOptiuni(Setari s, const ValoriOptiuni& v) {
@@ -246,6 +261,7 @@ Setari AplicaOptiuni(Setari s, const ValoriOptiuni& v) {
     s.NrCerereTiparita = v.NrCerereTiparita;
     const QString server = v.ServerCerere.trimmed();
     s.ServerCerere = server.isEmpty() ? ServerCerereImplicit : server;
+    s.ServerActualizare = v.ServerActualizare.trimmed();
     s.CuloareVenit = v.CuloareVenit;
     s.FolderExport = v.FolderExport.trimmed();
     return s;

@@ -125,6 +125,7 @@ struct ValoriOptiuni {
     bool NrCerereInAncheta = false;
     bool NrCerereTiparita = false;
     QString ServerCerere;
+    QString ServerActualizare;
     QString CuloareVenit;
     QString FolderExport;
 };

@@ -11,6 +11,7 @@
 #include "store/LucruMare.h"
 
 #include <QVariant>
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -30,10 +31,10 @@ struct Reduceri {
 // one, so they are all held; requests not in payment are passed over when the two lists are merged.
 std::vector<Reduceri> CitesteReduceri(BazaDate& db) {
     std::vector<Reduceri> r;
-    // The unary plus keeps SQLite off the key's index, which would fetch every row of the table at random
-    // to test it; a plain scan and a sort of the few rows found is several times faster.
+    // The condition is written as the partial index on the reductions has it, so that both engines read
+    // only the index's few rows.
     Interogare q(db, QStringLiteral("SELECT CerereID, Diminuare20, Diminuare50 FROM CereriMembrii "
-                                    "WHERE +RudenieID IN (?, ?, ?, ?, ?, ?) AND (Diminuare20 <> 0 OR Diminuare50 <> 0) "
+                                    "WHERE (Diminuare20 <> 0 OR Diminuare50 <> 0) AND RudenieID IN (?, ?, ?, ?, ?, ?) "
                                     "ORDER BY CerereID"));
     for (int rudenie : {3, 6, 7, 8, 9, 10})
         q.Leaga(rudenie);
@@ -85,6 +86,35 @@ void ScrieCuantumuri(BazaDate& db, const std::vector<std::pair<qint64, Bani>>& n
     db.Executa(QStringLiteral("DROP TABLE CuantumNou"));
 }
 
+// On SQLite the amounts are computed and written in one pass of the engine over the table, in the order of
+// its pages: a read, then a write of each row by its key, visits every page twice. A request without a
+// level makes the statement fail; the caller's unit then rolls everything back.
+void ScrieInTrecere(BazaDate& db, qint64 inPlata, FunctieSQLite::Corp corp) {
+    // Past a third of the table the amount's index is cheaper built again than kept up.
+    std::optional<IndexuriRefacute> indexuri;
+    if (inPlata * 3 > NumarCereri(db))
+        indexuri.emplace(db, QStringLiteral("Cereri"), QStringList{QStringLiteral("Cuantum")});
+    bool oprit = false;
+    {
+        const FunctieSQLite f(db, "cuantum_recalculat", 6, [&](const ArgumenteSQLite& a) {
+            std::optional<Bani> r = corp(a);
+            oprit = !r;
+            return r;
+        });
+        Interogare u(db, QStringLiteral("UPDATE Cereri SET Cuantum = cuantum_recalculat(CerereID, DataCerere, TipCerere, "
+                                        "VenitpeMembru, NrCopii, Cuantum) WHERE +Stare IN (?, ?, ?, ?)"));
+        for (int stare : {2, 6, 7, 8})
+            u.Leaga(stare);
+        try {
+            u.Executa();
+        } catch (const Eroare&) {
+            if (!oprit) throw;
+            return;
+        }
+    }
+    if (indexuri) indexuri->Reface();
+}
+
 } // namespace
 
 Rezultat SchimbaIsr(BazaDate& db, const QString& valoare, Mesaje& m, const Progres& progres) {
@@ -92,6 +122,7 @@ Rezultat SchimbaIsr(BazaDate& db, const QString& valoare, Mesaje& m, const Progr
     qint64 total = 0;
     CopieInainte::Fa(db, QStringLiteral("inainte de recalcularea ISR"));
     {
+        const CacheMare cache(db);
         Tranzactie t(db);
         ScrieIsr(db, valoare);
         // The scale, the thresholds and the ISR just written, read as the request editor reads them.
@@ -102,45 +133,60 @@ Rezultat SchimbaIsr(BazaDate& db, const QString& valoare, Mesaje& m, const Progr
         total = NumarInPlata(db);
         if (progres) progres(0, total);
 
-        // Most requests are in payment: reading the table in the order of its key beats the index on
-        // Stare, whose rows would be fetched at random and then sorted (the unary plus keeps SQLite off
-        // that index).
-        CitireRapida q(db, QStringLiteral("SELECT CerereID, DataCerere, TipCerere, VenitpeMembru, NrCopii, Cuantum "
-                                          "FROM Cereri WHERE +Stare IN (?, ?, ?, ?) ORDER BY CerereID"));
-        for (int stare : {2, 6, 7, 8})
-            q.Leaga(stare);
-        q.Executa();
-        std::vector<std::pair<qint64, Bani>> noi;
-        auto red = reduceri.begin();
-        while (q.Urmator()) {
-            const qint64 id = q.Intreg(0);
-            DateBarem d;
-            d.Data = q.Data(1);
-            d.TipCerere = int(q.Intreg(2));
-            d.VenitPeMembru = q.Suma(3);
-            d.NrCopii = int(q.Intreg(4));
-            while (red != reduceri.end() && red->CerereID < id)
-                ++red;
+        // The reductions of a request, from the few requests that have any.
+        const auto calculeaza = [&](qint64 id, DateBarem d) {
+            const auto red = std::lower_bound(reduceri.begin(), reduceri.end(), id,
+                                              [](const Reduceri& r, qint64 c) { return r.CerereID < c; });
             if (red != reduceri.end() && red->CerereID == id) {
                 d.Diminuari20 = red->Diminuari20;
                 d.Diminuari50 = red->Diminuari50;
             }
-            const RezultatBarem r = calcul.Calculeaza(d, m);
-            if (r.fel == RezultatBarem::Fel::FaraNivel) {
-                rez.Oprit = id;
-                break;
-            }
-            // A null amount becomes a stored 0 like any other change.
-            if (q.EsteNul(5) || r.Cuantum != q.Suma(5)) noi.emplace_back(id, r.Cuantum);
+            return calcul.Calculeaza(d, m);
+        };
+        // A null amount becomes a stored 0 like any other change.
+        const auto numara = [&](bool schimbat) {
+            if (schimbat) ++rez.Schimbate;
             ++rez.Recalculate;
             if (progres && rez.Recalculate % PasProgres == 0)
                 progres(rez.Recalculate, std::max(total, rez.Recalculate));
+        };
+        if (db.dialect().EsteSQLite())
+            ScrieInTrecere(db, total, [&](const ArgumenteSQLite& a) -> std::optional<Bani> {
+                const qint64 id = a.Intreg(0);
+                const RezultatBarem r = calculeaza(id, DateBarem{int(a.Intreg(2)), a.Data(1), a.Suma(3), int(a.Intreg(4))});
+                if (r.fel == RezultatBarem::Fel::FaraNivel) {
+                    rez.Oprit = id;
+                    return std::nullopt;
+                }
+                numara(a.EsteNul(5) || r.Cuantum != a.Suma(5));
+                return r.Cuantum;
+            });
+        else {
+            // Most requests are in payment: reading the table in the order of its key beats the index on
+            // Stare, whose rows would be fetched at random and then sorted.
+            CitireRapida q(db, QStringLiteral("SELECT CerereID, DataCerere, TipCerere, VenitpeMembru, NrCopii, "
+                                              "Cuantum FROM Cereri WHERE Stare IN (?, ?, ?, ?) ORDER BY CerereID"));
+            for (int stare : {2, 6, 7, 8})
+                q.Leaga(stare);
+            q.Executa();
+            std::vector<std::pair<qint64, Bani>> noi;
+            while (q.Urmator()) {
+                const qint64 id = q.Intreg(0);
+                const RezultatBarem r =
+                    calculeaza(id, DateBarem{int(q.Intreg(2)), q.Data(1), q.Suma(3), int(q.Intreg(4))});
+                if (r.fel == RezultatBarem::Fel::FaraNivel) {
+                    rez.Oprit = id;
+                    break;
+                }
+                const bool schimbat = q.EsteNul(5) || r.Cuantum != q.Suma(5);
+                if (schimbat) noi.emplace_back(id, r.Cuantum);
+                numara(schimbat);
+            }
+            if (!rez.Oprit) ScrieCuantumuri(db, noi);
         }
         if (!rez.Oprit) {
-            ScrieCuantumuri(db, noi);
             t.Confirma();
             rez.ok = true;
-            rez.Schimbate = qint64(noi.size());
         }
     }
     // Told after the unit has ended, so that no other computer waits on the file while the box is open.

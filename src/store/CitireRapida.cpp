@@ -172,3 +172,59 @@ QVariant CitireRapida::Valoare(int i) const {
         return Text(i);
     }
 }
+
+bool ArgumenteSQLite::EsteNul(int i) const {
+    return i >= n_ || sqlite3_value_type(v_[i]) == SQLITE_NULL;
+}
+
+qint64 ArgumenteSQLite::Intreg(int i) const {
+    return i < n_ ? sqlite3_value_int64(v_[i]) : 0;
+}
+
+QDate ArgumenteSQLite::Data(int i) const {
+    if (EsteNul(i)) return {};
+    return dataIso(sqlite3_value_text(v_[i]), sqlite3_value_bytes(v_[i]));
+}
+
+Bani ArgumenteSQLite::Suma(int i) const {
+    if (EsteNul(i)) return {};
+    switch (sqlite3_value_type(v_[i])) {
+    case SQLITE_INTEGER:
+        return Bani::DinVariant(qint64(sqlite3_value_int64(v_[i])));
+    case SQLITE_FLOAT:
+        return Bani::DinVariant(sqlite3_value_double(v_[i]));
+    default:
+        return Bani::DinVariant(QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_value_text(v_[i])),
+                                                  sqlite3_value_bytes(v_[i])));
+    }
+}
+
+namespace {
+
+void apeleaza(sqlite3_context* ctx, int n, sqlite3_value** v) {
+    const auto& corp = *static_cast<const FunctieSQLite::Corp*>(sqlite3_user_data(ctx));
+    try {
+        const std::optional<Bani> r = corp(ArgumenteSQLite(n, v));
+        if (r)
+            sqlite3_result_double(ctx, r->ToDouble());
+        else
+            sqlite3_result_error(ctx, "oprit", -1);
+    } catch (const std::exception& e) {
+        sqlite3_result_error(ctx, e.what(), -1);
+    } catch (...) {
+        sqlite3_result_error(ctx, "eroare", -1);
+    }
+}
+
+} // namespace
+
+FunctieSQLite::FunctieSQLite(BazaDate& db, const char* nume, int argumente, Corp corp)
+    : db_(ConexiuneSQLite(db)), nume_(nume), argumente_(argumente), corp_(std::move(corp)) {
+    if (sqlite3_create_function_v2(db_, nume_, argumente_, SQLITE_UTF8, &corp_, apeleaza, nullptr, nullptr, nullptr) !=
+        SQLITE_OK)
+        throw Eroare(QString::fromUtf8(sqlite3_errmsg(db_)));
+}
+
+FunctieSQLite::~FunctieSQLite() {
+    sqlite3_create_function_v2(db_, nume_, argumente_, SQLITE_UTF8, nullptr, nullptr, nullptr, nullptr, nullptr);
+}

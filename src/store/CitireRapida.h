@@ -3,11 +3,14 @@
 #include "store/BazaDate.h"
 
 #include <QLatin1StringView>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
 struct sqlite3;
+struct sqlite3_value;
 
 // The engine's own connection under an SQLite database's SQL module connection; Eroare on PostgreSQL.
 sqlite3* ConexiuneSQLite(BazaDate& db);
@@ -52,4 +55,38 @@ private:
     std::unique_ptr<SQLite> lite_;
     std::unique_ptr<Interogare> q_; // PostgreSQL
     mutable std::vector<std::pair<const char*, int>> campuri_;
+};
+
+// The arguments of a function of the program called by SQLite for each row of a statement, read as
+// CitireRapida reads its fields.
+class ArgumenteSQLite {
+public:
+    ArgumenteSQLite(int n, sqlite3_value** v) : n_(n), v_(v) {}
+    bool EsteNul(int i) const;
+    qint64 Intreg(int i) const;
+    QDate Data(int i) const;
+    Bani Suma(int i) const;
+
+private:
+    int n_;
+    sqlite3_value** v_;
+};
+
+// A function of the program that an SQLite statement calls for each row, so that a rewrite of most rows
+// of a large table is one pass of the engine instead of a read, then a write of each row by key. It
+// gives the amount to store, or nullopt to stop the statement (which then fails and is rolled back with
+// its transaction). Known to the connection while the object lives; SQLite only.
+class FunctieSQLite {
+public:
+    using Corp = std::function<std::optional<Bani>(const ArgumenteSQLite&)>;
+    FunctieSQLite(BazaDate& db, const char* nume, int argumente, Corp corp);
+    ~FunctieSQLite();
+    FunctieSQLite(const FunctieSQLite&) = delete;
+    FunctieSQLite& operator=(const FunctieSQLite&) = delete;
+
+private:
+    sqlite3* db_;
+    const char* nume_;
+    int argumente_;
+    Corp corp_;
 };

@@ -20,10 +20,19 @@ void IndexuriRefacute::Reface() {
 }
 
 CacheMare::CacheMare(BazaDate& db) : db_(db) {
-    if (db_.dialect().EsteSQLite()) db_.Executa(QStringLiteral("PRAGMA cache_size = -262144"));
+    if (!db_.dialect().EsteSQLite()) return;
+    db_.Executa(QStringLiteral("PRAGMA cache_size = -262144"));
+    // Past that size the changed pages stay in memory rather than go to the file before the commit:
+    // spilled mid-way, each is written twice and the journal synced once more.
+    db_.Executa(QStringLiteral("PRAGMA cache_spill = OFF"));
+    db_.Executa(QStringLiteral("PRAGMA temp_store = MEMORY"));
 }
 
 CacheMare::~CacheMare() {
     // Nothing to report from here: a failure only leaves the larger cache until the program ends.
-    if (db_.dialect().EsteSQLite()) QSqlQuery(db_.conexiune()).exec(QStringLiteral("PRAGMA cache_size = -2000"));
+    if (!db_.dialect().EsteSQLite()) return;
+    QSqlQuery q(db_.conexiune());
+    q.exec(QStringLiteral("PRAGMA cache_size = -2000"));
+    q.exec(QStringLiteral("PRAGMA cache_spill = ON"));
+    q.exec(QStringLiteral("PRAGMA temp_store = DEFAULT"));
 }

@@ -124,8 +124,9 @@ void OperatiiSchema::CreazaIndex(const IndexSchema& ix) {
     if (ix.cautarePrefix)
         campuri[0] +=
             db_.dialect().EsteSQLite() ? QStringLiteral(" COLLATE NOCASE") : QStringLiteral(" varchar_pattern_ops");
-    db_.Executa(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2 (%3)")
-                    .arg(ix.Nume(), ix.tabela, campuri.join(QStringLiteral(", "))));
+    db_.Executa(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2 (%3)%4")
+                    .arg(ix.Nume(), ix.tabela, campuri.join(QStringLiteral(", ")),
+                         ix.conditie.isEmpty() ? QString() : QStringLiteral(" WHERE ") + ix.conditie));
 }
 
 void OperatiiSchema::StergeIndex(const IndexSchema& ix) {

@@ -286,6 +286,9 @@ std::vector<IndexSchema> construiesteIndexuri() {
         ix("CereriMembrii", {"MembruID"}),
         // The list of the children who come of age in a month.
         ix("CereriMembrii", {"Data18Ani"}),
+        // The few children carrying a reduction of the amount, which its recompute for every request reads.
+        IndexSchema{QStringLiteral("CereriMembrii"), chei({"CerereID"}), false,
+                    QStringLiteral("(Diminuare20 <> 0 OR Diminuare50 <> 0)"), QStringLiteral("diminuari")},
         ix("Membrii", {"CNP"}),
         prefix("Membrii", {"NumeCautare"}),
         prefix("Membrii", {"PrenumeCautare"}),

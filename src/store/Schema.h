@@ -34,9 +34,14 @@ struct IndexSchema {
     // Its first field is searched by a prefix LIKE: the index is built so that each engine serves
     // LIKE with it.
     bool cautarePrefix = false;
+    // A partial index holds only the rows meeting this condition (written the same on both engines),
+    // and `sufix` tells it from a whole index on the same fields.
+    QString conditie = {};
+    QString sufix = {};
     QString Nume() const {
-        return QStringLiteral("ix_%1_%2%3")
-            .arg(tabela, campuri.join(QLatin1Char('_')), cautarePrefix ? QStringLiteral("_like") : QString())
+        return QStringLiteral("ix_%1_%2%3%4")
+            .arg(tabela, campuri.join(QLatin1Char('_')), cautarePrefix ? QStringLiteral("_like") : QString(),
+                 sufix.isEmpty() ? QString() : u'_' + sufix)
             .toLower();
     }
 };

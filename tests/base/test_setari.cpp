@@ -167,6 +167,18 @@ TEST(Optiuni, VerificaSiAplicaCeSeTasteaza) {
         v.FontSize0 = marime;
         EXPECT_EQ(VerificaOptiuni(v).has_value(), !permisa) << marime;
     }
+    // A build comes only over an encrypted link or from this computer.
+    const std::pair<const char*, bool> servere[] = {{"", true},
+                                                    {"https://actualizari.ferolanta.ro/", true},
+                                                    {"http://127.0.0.1:8080/x/", true},
+                                                    {"http://actualizari.ferolanta.ro/", false},
+                                                    {"ftp://localhost/", false},
+                                                    {"actualizari", false}};
+    for (const auto& [server, permis] : servere) {
+        ValoriOptiuni v = ValoriDinSetari(Setari{});
+        v.ServerActualizare = QString::fromLatin1(server);
+        EXPECT_EQ(VerificaOptiuni(v).has_value(), !permis) << server;
+    }
     const std::pair<const char*, int> inaltimi[] = {{" 4 0 ", 40}, {"12,5", 12}, {"abc", 0}, {"255", 255}, {"256", 36}};
     for (const auto& [tastat, citit] : inaltimi) {
         ValoriOptiuni v = ValoriDinSetari(Setari{});
