@@ -49,9 +49,12 @@ void Grila::redimensioneaza(int randuri, int coloane) {
         // Rows given up are emptied, so that they come back empty if the grid grows again.
         for (int r = randuri; r < randuri_ && (size_t(r) >> BitiBloc) < blocuri; ++r)
             std::fill_n(&loc(r, 0), coloane_, Loc{});
+        // Only the blocks added are filled: a grid grown a row at a time would otherwise pass over all its
+        // blocks for every row.
+        const size_t vechi = blocuri_.size();
         blocuri_.resize(blocuri);
-        for (auto& b : blocuri_)
-            if (b.empty()) b.resize(PeBloc * size_t(coloane));
+        for (size_t b = vechi; b < blocuri; ++b)
+            blocuri_[b].resize(PeBloc * size_t(coloane));
     }
     const bool micsorata = randuri < randuri_ || coloane < coloane_;
     randuri_ = randuri;
