@@ -1,5 +1,6 @@
 #include "cases/Dispozitii.h"
 
+#include "cases/Istoric.h"
 #include "cases/RandDisponibil.h"
 #include "base/Ceas.h"
 #include "base/Eroare.h"
@@ -284,12 +285,17 @@ qint64 Dispozitii::Salveaza(BazaDate& db, const Dispozitie& d, ModDispozitie mod
     if (vechi || nou) r.push_back({QStringLiteral("CuantumVechi"), vechi ? Sql::Suma(*vechi) : QVariant()});
     r.push_back({QStringLiteral("Motiv"), textSauNul(d.Motiv)});
     const QString tabela = QStringLiteral("Dispozitii");
+    const std::vector<Schimbare> schimbari =
+        nou ? Istoric::Compara(tabela, r, {}) : Istoric::Diferente(db, tabela, QStringLiteral("DispozitieID"), id, r);
     if (nou) {
         r.insert(r.begin(), {{QStringLiteral("DispozitieID"), id}, {QStringLiteral("CerereID"), d.CerereID}});
         Sql::Insereaza(db, tabela, r);
     } else if (Sql::Actualizeaza(db, tabela, r, QStringLiteral("DispozitieID"), id) != 1) {
         throw Eroare(Stearsa);
     }
+    Istoric::ScrieSchimbari(db, d.CerereID, {}, nou ? FelSchimbare::Adaugare : FelSchimbare::Modificare,
+                            QStringLiteral("Dispozitie nr %1 %2").arg(nrDisp).arg(nou ? QStringLiteral("adaugata") : QStringLiteral("modificata")),
+                            schimbari);
     t.Confirma();
     return id;
 }
@@ -470,6 +476,8 @@ QString Dispozitii::TitluDispozitii(const QString& solicitant, size_t randuri) {
 
 bool Dispozitii::StergeDispozitie(BazaDate& db, qint64 dispozitieID) {
     Tranzactie t(db);
+    Istoric::StergereRand(db, QStringLiteral("Dispozitii"), QStringLiteral("DispozitieID"), dispozitieID,
+                          QStringLiteral("Dispozitie stearsa"));
     Interogare d(db, QStringLiteral("DELETE FROM Dispozitii WHERE DispozitieID = ?"));
     d.Leaga(dispozitieID).Executa();
     t.Confirma();

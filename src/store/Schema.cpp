@@ -219,8 +219,13 @@ std::vector<TabelaSchema> construiesteTabele() {
                   X("MembruOrdine", 101), I("CerereInVigoare")},
                  chei({"AdevID"}),
                  false});
-    t.push_back(
-        {"IstoricCereri", {K("CerereID"), B("Tranzactie"), D("DataTranzactie"), X("MotivTranzactie", 255)}, {}, false});
+    t.push_back({"IstoricCereri",
+                 {K("CerereID"), B("Tranzactie"), D("DataTranzactie"), X("MotivTranzactie", 255),
+                  // Who changed what and when. The request's number is kept apart from its key, which
+                  // the cascade clears, so that the history of a deleted request stays readable.
+                  L("IstoricID"), L("NrCerere"), X("DataOra", 19), X("Utilizator", 50), M("Detalii")},
+                 {},
+                 false});
     t.push_back({"Politii", {K("PolitiaID"), X("Denumire", 50), K("LocalitateID")}, chei({"PolitiaID"}), false});
     t.push_back({"Scoli", {K("ScoalaID"), X("Denumire", 50), K("LocalitateID")}, chei({"ScoalaID"}), false});
     t.push_back({"Motive", {K("MotivID"), X("Denumire", 50)}, chei({"MotivID"}), false});
@@ -309,6 +314,9 @@ std::vector<IndexSchema> construiesteIndexuri() {
         // Led by the flag, it also finds the certificates whose keys were never written.
         ix("Adeverinte", {"CerereInVigoare", "AdvCurenta", "MembruOrdine", "DataExpAdev"}),
         ix("IstoricCereri", {"CerereID"}),
+        // The history of a request read by its number, and the next history key.
+        ix("IstoricCereri", {"NrCerere"}),
+        ix("IstoricCereri", {"IstoricID"}),
         ix("BifeText", {"CerereID"}),
         ix("Politii", {"LocalitateID"}),
         ix("Scoli", {"LocalitateID"}),
