@@ -1,8 +1,10 @@
 #include "Comun.h"
 
 #include "cases/DateCerere.h"
+#include "cases/Istoric.h"
 #include "cases/SalvareCerere.h"
 #include "store/BazaDate.h"
+#include "store/Schema.h"
 
 #include <benchmark/benchmark.h>
 
@@ -131,6 +133,70 @@ void SalveazaCerereModificata(benchmark::State& st, int Cereri) {
     }
 }
 
+// A change of a stored request whose total income differs at each round: each save writes a history row.
+void SalveazaCerereCuIstoric(benchmark::State& st, int Cereri) {
+    auto db = BazaDate::Deschide(BazaDemoSQLite(Cereri, true));
+    MesajeTacute m;
+    OptiuniSalvare o;
+    o.LunaSetata = 6;
+    o.AnSetat = 2025;
+    DateCerere d;
+    StareCerere s;
+    FamilieDeOpt(d, s, 777778);
+    const RezultatSalvare r = SalveazaCerere(*db, d, s, {}, o, m);
+    CerereIncarcata c = IncarcaCerere(*db, r.CerereID, 6, 2025, m);
+    if (!c.Gasita) {
+        st.SkipWithError("cererea salvata nu se gaseste");
+        return;
+    }
+    int runda = 0;
+    for (auto _ : st) {
+        (*c.Stare.MatriceMembri)[0].Venit = Bani::DinLei(++runda % 1000);
+        c.Date.txtCerere[ElemCerere::txtVenitTotal] = QString::number(1000 + runda);
+        if (SalveazaCerere(*db, c.Date, c.Stare, c.Iesiti, o, m).stare != RezultatSalvare::Stare::Salvata) {
+            st.SkipWithError("salvarea s-a oprit");
+            return;
+        }
+    }
+    st.counters["randuri istoric"] = double(runda);
+}
+
+// The stored values of every field of a table's row, as a save would write them back.
+Sql::Rand RandStocat(BazaDate& db, const QString& tabela, const QString& cheie, qint64 id) {
+    QStringList campuri;
+    for (const CampSchema& c : Schema::Tabela(tabela)->campuri)
+        if (c.nume.compare(cheie, Qt::CaseInsensitive) != 0) campuri << c.nume;
+    Interogare q(db, QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ?").arg(campuri.join(QStringLiteral(", ")), tabela, cheie));
+    q.Leaga(id);
+    Sql::Rand r;
+    if (q.Exista())
+        for (int i = 0; i < campuri.size(); ++i)
+            r.push_back({campuri[i], q.Valoare(i)});
+    return r;
+}
+
+// What the history adds to a save: the household and the request read back and compared with the
+// values to write, one field changed, and the row written; each round undone.
+void IstoricLaSalvare(benchmark::State& st, int Cereri) {
+    auto db = BazaDate::Deschide(BazaDemoSQLite(Cereri, true));
+    qint64 pas = 0;
+    for (auto _ : st) {
+        const qint64 id = 1 + (pas++ * 7919) % Cereri;
+        st.PauseTiming();
+        Sql::Rand familie = RandStocat(*db, QStringLiteral("Familii"), QStringLiteral("FamilieID"), id);
+        Sql::Rand cerere = RandStocat(*db, QStringLiteral("Cereri"), QStringLiteral("CerereID"), id);
+        for (auto& [camp, valoare] : cerere)
+            if (camp == QLatin1String("VenitTotal")) valoare = QVariant::fromValue(Bani::DinLei(pas));
+        st.ResumeTiming();
+        Tranzactie t(*db);
+        auto schimbari = Istoric::Diferente(*db, QStringLiteral("Familii"), QStringLiteral("FamilieID"), id, familie);
+        const auto c = Istoric::Diferente(*db, QStringLiteral("Cereri"), QStringLiteral("CerereID"), id, cerere);
+        schimbari.insert(schimbari.end(), c.begin(), c.end());
+        Istoric::ScrieSchimbari(*db, id, {}, FelSchimbare::Modificare, QStringLiteral("Cerere modificata"), schimbari);
+        benchmark::DoNotOptimize(schimbari.size());
+    }
+}
+
 const bool inregistrate = [] {
     for (int cereri : {100000, 1000000})
         for (const auto& [nume, f] : {std::pair{"DeschideCerere", &DeschideCerere},
@@ -139,6 +205,11 @@ const bool inregistrate = [] {
             benchmark::RegisterBenchmark(QStringLiteral("%1/%2").arg(QLatin1String(nume)).arg(cereri).toStdString().c_str(),
                                          f, cereri)
                 ->Unit(benchmark::kMillisecond);
+    for (const auto& [nume, f] : {std::pair{"SalveazaCerereCuIstoric", &SalveazaCerereCuIstoric},
+                                  std::pair{"IstoricLaSalvare", &IstoricLaSalvare}})
+        benchmark::RegisterBenchmark(QStringLiteral("%1/100000").arg(QLatin1String(nume)).toStdString().c_str(), f,
+                                     100000)
+            ->Unit(benchmark::kMillisecond);
     return true;
 }();
 

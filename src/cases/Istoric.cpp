@@ -192,7 +192,10 @@ std::vector<RandIstoric> Istoric::Lista(BazaDate& db, qint64 cerereID) {
 }
 
 std::vector<RandIstoric> Istoric::ListaNumar(BazaDate& db, qint64 nrCerere) {
-    Interogare q(db, CampuriLista + QStringLiteral("CerereID IS NULL AND NrCerere = ?") + OrdineLista);
-    q.Leaga(nrCerere);
+    Interogare q(db, CampuriLista +
+                         QStringLiteral("(CerereID IS NULL AND NrCerere = ?) OR CerereID IN "
+                                        "(SELECT CerereID FROM Cereri WHERE NrCerere = ?)") +
+                         OrdineLista);
+    q.Leaga(nrCerere).Leaga(nrCerere);
     return Citeste(q);
 }

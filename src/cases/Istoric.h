@@ -85,7 +85,8 @@ void StergereRand(BazaDate& db, const QString& tabela, const QString& cheie, qin
 // The history of a request, newest first: its own rows and those kept under its number from a
 // request deleted before.
 std::vector<RandIstoric> Lista(BazaDate& db, qint64 cerereID);
-// The rows kept under a number, of requests deleted, newest first.
+// Everything under a request number, newest first: the rows of the requests that bear it now and
+// those kept under it from requests deleted.
 std::vector<RandIstoric> ListaNumar(BazaDate& db, qint64 nrCerere);
 
 } // namespace Istoric
