@@ -166,7 +166,8 @@ Sql::Rand RandStocat(BazaDate& db, const QString& tabela, const QString& cheie, 
     QStringList campuri;
     for (const CampSchema& c : Schema::Tabela(tabela)->campuri)
         if (c.nume.compare(cheie, Qt::CaseInsensitive) != 0) campuri << c.nume;
-    Interogare q(db, QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ?").arg(campuri.join(QStringLiteral(", ")), tabela, cheie));
+    Interogare q(
+        db, QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ?").arg(campuri.join(QStringLiteral(", ")), tabela, cheie));
     q.Leaga(id);
     Sql::Rand r;
     if (q.Exista())

@@ -417,8 +417,9 @@ qint64 Adeverinte::SalveazaAdeverintaScolara(BazaDate& db, const AdeverintaScola
                               {"DataExpAdev", dataSauNul(a.DataExpAdev)}};
     Tranzactie t(db);
     qint64 id = a.AdevID;
-    const std::vector<Schimbare> schimbari = adaugare ? Istoric::Compara(tabela, scrise, {})
-                                                      : Istoric::Diferente(db, tabela, QStringLiteral("AdevID"), id, scrise);
+    const std::vector<Schimbare> schimbari =
+        adaugare ? Istoric::Compara(tabela, scrise, {})
+                 : Istoric::Diferente(db, tabela, QStringLiteral("AdevID"), id, scrise);
     if (adaugare) {
         Interogare exista(db, QStringLiteral("SELECT COUNT(*) FROM Cereri C INNER JOIN Membrii M ON M.MembruID = ? "
                                              "WHERE C.CerereID = ?"));

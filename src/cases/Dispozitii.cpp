@@ -5,6 +5,7 @@
 #include "base/Ceas.h"
 #include "base/Eroare.h"
 #include "base/Mesaje.h"
+#include "base/Texte.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
 #include "store/DateGen.h"
@@ -294,7 +295,9 @@ qint64 Dispozitii::Salveaza(BazaDate& db, const Dispozitie& d, ModDispozitie mod
         throw Eroare(Stearsa);
     }
     Istoric::ScrieSchimbari(db, d.CerereID, {}, nou ? FelSchimbare::Adaugare : FelSchimbare::Modificare,
-                            QStringLiteral("Dispozitie nr %1 %2").arg(nrDisp).arg(nou ? QStringLiteral("adaugata") : QStringLiteral("modificata")),
+                            QStringLiteral("Dispozitie nr %1 %2")
+                                .arg(nrDisp)
+                                .arg(nou ? QStringLiteral("adaugata") : QStringLiteral("modificata")),
                             schimbari);
     t.Confirma();
     return id;
@@ -375,6 +378,7 @@ RezultatGenerare Dispozitii::Genereaza(BazaDate& db, Mesaje& m, const ParametriG
             sfarsit == Sfarsit::Scrise ? db.CheieNoua(QStringLiteral("Dispozitii"), QStringLiteral("DispozitieID")) : 0;
         Interogare lot(db, insertLot(RanduriPeLot));
         std::optional<Interogare> rest;
+        std::vector<IntrareIstoric> istoric;
         for (size_t i = 0; sfarsit == Sfarsit::Scrise && i < cereri.size();) {
             const size_t n = std::min(RanduriPeLot, cereri.size() - i);
             Interogare& q = n == RanduriPeLot ? lot : rest.emplace(db, insertLot(n));
@@ -387,12 +391,20 @@ RezultatGenerare Dispozitii::Genereaza(BazaDate& db, Mesaje& m, const ParametriG
                 else
                     q.Leaga(QVariant());
                 q.Leaga(anDisp).Leaga(*p.Luna);
+                const QString nr = QString::number(r.NrStart + qint64(k));
+                istoric.push_back({c.id, c.nr.isEmpty() ? QVariant() : QVariant(c.nr),
+                                   FelSchimbare::Adaugare, QStringLiteral("Dispozitie nr %1 adaugata").arg(nr),
+                                   QStringLiteral("Dispozitie nr %1 adaugata la generarea dispozitiilor: "
+                                                  "DataDisp: %2; DinData: %3; Cuantum: %4")
+                                       .arg(nr, FormatData(p.DataDisp), FormatData(dinData),
+                                            c.cuantum ? FormatSuma(*c.cuantum) : QStringLiteral("(gol)"))});
             }
             q.Executa();
             i += n;
             if (p.Progres && !p.Progres(qint64(i), total)) sfarsit = Sfarsit::Oprita;
         }
         if (sfarsit == Sfarsit::Scrise) {
+            Istoric::ScrieLot(db, istoric);
             t.Confirma();
             r.ok = true;
             r.Generate = total;

@@ -7,6 +7,9 @@
 #include "store/BazaDate.h"
 #include "store/Schema.h"
 
+#include <algorithm>
+#include <optional>
+
 namespace {
 
 const QString Tabela = QStringLiteral("IstoricCereri");
@@ -38,8 +41,8 @@ std::vector<RandIstoric> Citeste(Interogare& q) {
     while (q.Urmator()) {
         RandIstoric x;
         const QDateTime ora = QDateTime::fromString(q.Valoare(0).toString(), FormatStocat);
-        x.DataOra = ora.isValid() ? ora.toString(QStringLiteral("dd.MM.yyyy HH:mm:ss")) : FormatData(q.Data(
-                                                                                             QStringLiteral("DataTranzactie")));
+        x.DataOra = ora.isValid() ? ora.toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"))
+                                  : FormatData(q.Data(QStringLiteral("DataTranzactie")));
         x.Utilizator = q.Valoare(2).toString();
         x.Fel = int(q.Intreg(3));
         x.Motiv = q.Valoare(4).toString();
@@ -92,8 +95,8 @@ std::vector<Schimbare> Istoric::Compara(const QString& tabela, const Sql::Rand& 
 std::vector<Schimbare> Istoric::Diferente(BazaDate& db, const QString& tabela, const QString& cheie, qint64 id,
                                           const Sql::Rand& nou) {
     const QStringList campuri = Sql::Campuri(nou);
-    Interogare q(db, QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ?")
-                         .arg(campuri.join(QStringLiteral(", ")), tabela, cheie));
+    Interogare q(
+        db, QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ?").arg(campuri.join(QStringLiteral(", ")), tabela, cheie));
     q.Leaga(id);
     QVariantList vechi;
     if (q.Exista())
@@ -105,33 +108,62 @@ std::vector<Schimbare> Istoric::Diferente(BazaDate& db, const QString& tabela, c
 QString Istoric::TextSchimbari(const std::vector<Schimbare>& s, FelSchimbare fel) {
     QStringList parti;
     for (const Schimbare& x : s)
-        parti << (fel == FelSchimbare::Adaugare
-                      ? QStringLiteral("%1: %2").arg(x.Camp, Gol(x.Nou))
-                      : QStringLiteral("%1: %2 -> %3").arg(x.Camp, Gol(x.Vechi), Gol(x.Nou)));
+        parti << (fel == FelSchimbare::Adaugare ? QStringLiteral("%1: %2").arg(x.Camp, Gol(x.Nou))
+                                                : QStringLiteral("%1: %2 -> %3").arg(x.Camp, Gol(x.Vechi), Gol(x.Nou)));
     return parti.join(QStringLiteral("; "));
 }
 
 void Istoric::Scrie(BazaDate& db, const IntrareIstoric& i) {
     Tranzactie t(db);
-    QVariant nr = NumarSauNul(i.NrCerere);
-    if (nr.isNull() && i.CerereID > 0) {
+    IntrareIstoric cuNumar = i;
+    cuNumar.NrCerere = NumarSauNul(i.NrCerere);
+    if (cuNumar.NrCerere.isNull() && i.CerereID > 0) {
         Interogare q(db, QStringLiteral("SELECT NrCerere FROM Cereri WHERE CerereID = ?"));
         q.Leaga(i.CerereID);
-        if (q.Exista()) nr = NumarSauNul(q.Valoare(0));
+        if (q.Exista()) cuNumar.NrCerere = NumarSauNul(q.Valoare(0));
     }
-    const QDateTime acum = Ceas::Acum();
-    const Sql::Rand r = {
-        {QStringLiteral("IstoricID"), db.CheieNoua(Tabela, QStringLiteral("IstoricID"))},
-        {QStringLiteral("CerereID"), i.CerereID > 0 ? QVariant(i.CerereID) : QVariant()},
-        {QStringLiteral("NrCerere"), nr},
-        {QStringLiteral("Tranzactie"), qint64(i.Fel)},
-        {QStringLiteral("DataTranzactie"), acum.date()},
-        {QStringLiteral("DataOra"), acum.toString(FormatStocat)},
-        {QStringLiteral("Utilizator"), NumeUtilizator().left(50)},
-        {QStringLiteral("MotivTranzactie"), i.Motiv.left(255)},
-        {QStringLiteral("Detalii"), i.Detalii},
+    ScrieLot(db, {cuNumar});
+    t.Confirma();
+}
+
+void Istoric::ScrieLot(BazaDate& db, const std::vector<IntrareIstoric>& randuri) {
+    if (randuri.empty()) return;
+    const QStringList campuri = {QStringLiteral("IstoricID"),      QStringLiteral("CerereID"),
+                                 QStringLiteral("NrCerere"),       QStringLiteral("Tranzactie"),
+                                 QStringLiteral("DataTranzactie"), QStringLiteral("DataOra"),
+                                 QStringLiteral("Utilizator"),     QStringLiteral("MotivTranzactie"),
+                                 QStringLiteral("Detalii")};
+    const auto insert = [&](size_t n) {
+        QStringList valori;
+        for (size_t k = 0; k < n; ++k)
+            valori << QStringLiteral("(%1)").arg(Sql::Semne(campuri.size()));
+        return QStringLiteral("INSERT INTO IstoricCereri (%1) VALUES %2")
+            .arg(campuri.join(QStringLiteral(", ")), valori.join(QStringLiteral(", ")));
     };
-    Sql::Insereaza(db, Tabela, r);
+    constexpr size_t PeLot = 100;
+    Tranzactie t(db);
+    const QDateTime acum = Ceas::Acum();
+    const QString ora = acum.toString(FormatStocat);
+    const QString utilizator = NumeUtilizator().left(50);
+    qint64 cheie = db.CheieNoua(Tabela, QStringLiteral("IstoricID"));
+    std::optional<Interogare> lot;
+    for (size_t i = 0; i < randuri.size(); i += PeLot) {
+        const size_t n = std::min(PeLot, randuri.size() - i);
+        if (n < PeLot || !lot) lot.emplace(db, insert(n));
+        for (size_t k = i; k < i + n; ++k) {
+            const IntrareIstoric& r = randuri[k];
+            lot->Leaga(cheie++)
+                .Leaga(r.CerereID > 0 ? QVariant(r.CerereID) : QVariant())
+                .Leaga(NumarSauNul(r.NrCerere))
+                .Leaga(r.Fel)
+                .Leaga(acum.date())
+                .Leaga(ora)
+                .Leaga(utilizator)
+                .Leaga(r.Motiv.left(255))
+                .Leaga(r.Detalii);
+        }
+        lot->Executa();
+    }
     t.Confirma();
 }
 

@@ -67,6 +67,9 @@ QString TextSchimbari(const std::vector<Schimbare>& s, FelSchimbare fel);
 // transaction.
 void Scrie(BazaDate& db, const IntrareIstoric& i);
 
+// Many rows of one bulk run, written a hundred at a time: one statement for each hundred.
+void ScrieLot(BazaDate& db, const std::vector<IntrareIstoric>& randuri);
+
 // Writes the row of a save when it changed something: `prefix` then the changes ("Cerere
 // modificata: Stare: 1 -> 3"). Nothing for no change.
 void ScrieSchimbari(BazaDate& db, qint64 cerereID, const QVariant& nrCerere, FelSchimbare fel, const QString& prefix,

@@ -21,8 +21,8 @@ UiIstoricCerere::UiIstoricCerere(BazaDate& bd, Mesaje& m, std::function<qint64()
     lvwIstoric->setAllColumnsShowFocus(true);
     lvwIstoric->setSelectionMode(QAbstractItemView::SingleSelection);
     lvwIstoric->setWordWrap(true);
-    lvwIstoric->setHeaderLabels({QStringLiteral("Data si ora"), QStringLiteral("Utilizator"),
-                                 QStringLiteral("Ce s-a schimbat")});
+    lvwIstoric->setHeaderLabels(
+        {QStringLiteral("Data si ora"), QStringLiteral("Utilizator"), QStringLiteral("Ce s-a schimbat")});
     lvwIstoric->header()->setStretchLastSection(true);
     asezare->addWidget(lvwIstoric, 1);
 }
@@ -44,7 +44,8 @@ void UiIstoricCerere::Incarca() {
     lblIstoric->setText(randuri.empty() ? QStringLiteral("Nicio schimbare inregistrata pentru aceasta cerere.")
                                         : QStringLiteral("Schimbari inregistrate: %1").arg(randuri.size()));
     for (const RandIstoric& r : randuri) {
-        auto* rand = new QTreeWidgetItem(QStringList{r.DataOra, r.Utilizator, r.Detalii.isEmpty() ? r.Motiv : r.Detalii});
+        auto* rand =
+            new QTreeWidgetItem(QStringList{r.DataOra, r.Utilizator, r.Detalii.isEmpty() ? r.Motiv : r.Detalii});
         rand->setToolTip(2, r.Detalii);
         lvwIstoric->addTopLevelItem(rand);
     }

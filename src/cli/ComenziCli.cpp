@@ -55,9 +55,9 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
     p.addOption({QStringLiteral("da"), QStringLiteral("mentenanta: raspunde Da si face modificarea")});
     p.addOption({QStringLiteral("suprascrie"), QStringLiteral("mentenanta datastare: si cererile cu DataStare")});
     p.addOption({QStringLiteral("data-veche"), QStringLiteral("mentenanta cereri2014: pastreaza DataCerere")});
-    p.addPositionalArgument(
-        QStringLiteral("comanda"),
-        QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta, raport, borderou, bas, isr, istoric, mentenanta, copie, restaurare"));
+    p.addPositionalArgument(QStringLiteral("comanda"),
+                            QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta, raport, borderou, bas, "
+                                           "isr, istoric, mentenanta, copie, restaurare"));
     try {
         if (!p.parse(argumente)) throw EroareArgumente{p.errorText()};
         const QStringList poz = p.positionalArguments();
@@ -87,9 +87,8 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (cuWeb && poz.size() == 1)
             throw EroareArgumente{QStringLiteral("lipseste documentul: cerere, cerere_1a sau ancheta")};
         if (cuWeb && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
-        if (poz.size() != (cuDocument || cuWeb ? 3 : cuCerere || cuRaport || cuBas || cuIsr || cuIstoric || cuMentenanta || cuRestaurare
-                                              ? 2
-                                              : 1))
+        const bool cuArgument = cuCerere || cuRaport || cuBas || cuIsr || cuIstoric || cuMentenanta || cuRestaurare;
+        if (poz.size() != (cuDocument || cuWeb ? 3 : cuArgument ? 2 : 1))
             throw EroareArgumente{QStringLiteral("prea multe argumente")};
         if (!cuDocument && (p.isSet(QStringLiteral("sablon")) || p.isSet(QStringLiteral("data"))))
             throw EroareArgumente{QStringLiteral("--sablon si --data sunt doar pentru document")};

@@ -10,6 +10,7 @@
 #include "cases/ListaCereri.h"
 #include "cases/SalvareCerere.h"
 #include "support/BazaTest.h"
+#include "support/DispozitiiTest.h"
 #include "support/DosarTest.h"
 #include "support/SqlTest.h"
 
@@ -48,8 +49,13 @@ protected:
     void CerereCuActe() {
         BazaNoua();
         ASSERT_EQ(Salveaza(DosarComplet(Bd())).stare, RezultatSalvare::Stare::Salvata);
-        disp = Dispozitie{0, 1, QStringLiteral("12"), QDate(2015, 1, 5), 1, 1, QStringLiteral("2015"),
-                          QStringLiteral("173"), {}, QStringLiteral("Indeplineste conditiile")};
+        disp.CerereID = 1;
+        disp.NrDisp = QStringLiteral("12");
+        disp.DataDisp = QDate(2015, 1, 5);
+        disp.Actiune = disp.Luna = 1;
+        disp.An = QStringLiteral("2015");
+        disp.Suma = QStringLiteral("173");
+        disp.Motiv = QStringLiteral("Indeplineste conditiile");
         disp.DispozitieID = Dispozitii::Salveaza(Bd(), disp, ModDispozitie::Adaugare);
         ancheta.CerereID = 1;
         ancheta.DataAncheta = QDate(2015, 1, 8);
@@ -81,8 +87,10 @@ TEST_P(IstoricBaza, OSalvareScrieDoarCampurileSchimbate) {
         EXPECT_EQ(r.NrCerere, QVariant(qint64(77)));
         EXPECT_TRUE(r.DataOra.startsWith(QStringLiteral("20.01.2015 "))) << r.DataOra.toStdString();
     }
-    EXPECT_TRUE(adaugari.back().Detalii.contains(QStringLiteral("NrCerere: 77; "))) << adaugari.back().Detalii.toStdString();
-    EXPECT_TRUE(adaugari.back().Detalii.contains(QStringLiteral("VenitTotal: 600.50"))) << adaugari.back().Detalii.toStdString();
+    EXPECT_TRUE(adaugari.back().Detalii.contains(QStringLiteral("NrCerere: 77; ")))
+        << adaugari.back().Detalii.toStdString();
+    EXPECT_TRUE(adaugari.back().Detalii.contains(QStringLiteral("VenitTotal: 600.50")))
+        << adaugari.back().Detalii.toStdString();
 
     // Each saved again as it was read back.
     ASSERT_EQ(Salveaza(Redeschis(1)).stare, RezultatSalvare::Stare::Salvata);
@@ -217,7 +225,8 @@ TEST_P(IstoricBaza, StergereaPastreazaIstoriculSubNumar) {
     EXPECT_EQ(pastrate.front().Fel, int(FelSchimbare::Stergere));
     EXPECT_TRUE(pastrate.front().Detalii.startsWith(QStringLiteral("Cerere stearsa: NrCerere: 77; ")))
         << pastrate.front().Detalii.toStdString();
-    EXPECT_TRUE(pastrate.front().Detalii.contains(QStringLiteral("Cuantum: 173.00"))) << pastrate.front().Detalii.toStdString();
+    EXPECT_TRUE(pastrate.front().Detalii.contains(QStringLiteral("Cuantum: 173.00")))
+        << pastrate.front().Detalii.toStdString();
     EXPECT_EQ(pastrate.back().Fel, int(FelSchimbare::Adaugare));
     EXPECT_TRUE(Istoric::ListaNumar(Bd(), 78).empty());
 
@@ -228,6 +237,23 @@ TEST_P(IstoricBaza, StergereaPastreazaIstoriculSubNumar) {
     ASSERT_EQ(lista.size(), 7u);
     EXPECT_EQ(lista.front().Fel, int(FelSchimbare::Adaugare));
     EXPECT_EQ(lista[1].Detalii, pastrate.front().Detalii);
+}
+
+// A bulk run of grants leaves one row for each request it granted, each with its own key and number.
+TEST_P(IstoricBaza, GenerareaScrieUnRandPentruFiecareCerere) {
+    BazaNoua();
+    std::vector<CerereDisp> cereri;
+    for (qint64 i = 1; i <= 250; ++i)
+        cereri.push_back({.id = i, .nrCerere = 1000 + i});
+    AdaugaCereri(Bd(), cereri);
+    ASSERT_TRUE(Dispozitii::Genereaza(Bd(), mesaje, {"300", 1, QDate(2024, 6, 3), 7, "2024", {}, {}}).ok);
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(DISTINCT IstoricID) FROM IstoricCereri")), 250);
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(DISTINCT CerereID) FROM IstoricCereri")), 250);
+    const auto r = Istoric::ListaNumar(Bd(), 1005);
+    ASSERT_EQ(r.size(), 1u);
+    EXPECT_EQ(r[0].Motiv, QStringLiteral("Dispozitie nr 304 adaugata"));
+    EXPECT_TRUE(r[0].Detalii.endsWith(QStringLiteral("DinData: 01.07.2024; Cuantum: 164.00")))
+        << r[0].Detalii.toStdString();
 }
 
 PE_AMBELE_MOTOARE(IstoricBaza);
