@@ -450,7 +450,7 @@ bool Adeverinte::StergeAdeverintaScolara(BazaDate& db, Mesaje& m, qint64 adevID,
         return false;
     Tranzactie t(db);
     Istoric::StergereRand(db, QStringLiteral("Adeverinte"), QStringLiteral("AdevID"), adevID,
-                          QStringLiteral("Adeverinta %1 stearsa").arg(nrAdev).simplified());
+                          QStringLiteral("Adeverinta %1 stearsa"), QStringLiteral("NrAdev"));
     Interogare(db, QStringLiteral("DELETE FROM Adeverinte WHERE AdevID = ?")).Leaga(adevID).Executa();
     t.Confirma();
     return true;

@@ -288,7 +288,7 @@ bool Anchete::Sterge(BazaDate& db, Mesaje& m, qint64 anchetaID, const QString& t
     if (!m.Intrebare(IntrebareStergere(textRand))) return false;
     Tranzactie t(db);
     Istoric::StergereRand(db, QStringLiteral("Anchete"), QStringLiteral("AnchetaID"), anchetaID,
-                          QStringLiteral("Ancheta stearsa"));
+                          QStringLiteral("Ancheta din %1 stearsa"), QStringLiteral("DataAncheta"));
     Interogare d(db, QStringLiteral("DELETE FROM Anchete WHERE AnchetaID = ?"));
     d.Leaga(anchetaID).Executa();
     t.Confirma();

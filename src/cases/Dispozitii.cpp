@@ -489,7 +489,7 @@ QString Dispozitii::TitluDispozitii(const QString& solicitant, size_t randuri) {
 bool Dispozitii::StergeDispozitie(BazaDate& db, qint64 dispozitieID) {
     Tranzactie t(db);
     Istoric::StergereRand(db, QStringLiteral("Dispozitii"), QStringLiteral("DispozitieID"), dispozitieID,
-                          QStringLiteral("Dispozitie stearsa"));
+                          QStringLiteral("Dispozitie nr %1 stearsa"), QStringLiteral("NrDisp"));
     Interogare d(db, QStringLiteral("DELETE FROM Dispozitii WHERE DispozitieID = ?"));
     d.Leaga(dispozitieID).Executa();
     t.Confirma();

@@ -29,7 +29,7 @@ QString Gol(const QString& s) {
     return s.isEmpty() ? QStringLiteral("(gol)") : s;
 }
 
-// The columns a list reads, and one row of them.
+// The columns a list reads.
 const QString CampuriLista = QStringLiteral("SELECT DataOra, DataTranzactie, Utilizator, Tranzactie, MotivTranzactie, "
                                             "Detalii, NrCerere FROM IstoricCereri WHERE ");
 // The order of writing; rows that older programs wrote have no key and come last, by day.
@@ -205,13 +205,14 @@ void Istoric::StergereCerere(BazaDate& db, qint64 cerereID) {
 }
 
 void Istoric::StergereRand(BazaDate& db, const QString& tabela, const QString& cheie, qint64 id,
-                           const QString& descriere) {
-    Interogare q(db, QStringLiteral("SELECT CerereID FROM %1 WHERE %2 = ?").arg(tabela, cheie));
+                           const QString& descriere, const QString& camp) {
+    Interogare q(db, QStringLiteral("SELECT CerereID, %1 FROM %2 WHERE %3 = ?").arg(camp, tabela, cheie));
     q.Leaga(id);
     if (!q.Exista() || q.Intreg(0) <= 0) return;
     const qint64 cerereID = q.Intreg(0);
+    const QString text = descriere.arg(TextValoare(tabela, camp, q.Valoare(1))).simplified();
     q.query().finish();
-    Scrie(db, {cerereID, {}, FelSchimbare::Stergere, descriere, descriere});
+    Scrie(db, {cerereID, {}, FelSchimbare::Stergere, text, text});
 }
 
 std::vector<RandIstoric> Istoric::Lista(BazaDate& db, qint64 cerereID) {

@@ -81,9 +81,11 @@ void ScrieSchimbari(BazaDate& db, qint64 cerereID, const QVariant& nrCerere, Fel
 void StergereCerere(BazaDate& db, qint64 cerereID);
 
 // The delete of a row of a request (a disposition, an inquiry, a certificate): the row of the
-// history, with `descriere` ("Dispozitie nr 12 stearsa"). Reads the request from the row, which
-// must still be there; nothing when it is not.
-void StergereRand(BazaDate& db, const QString& tabela, const QString& cheie, qint64 id, const QString& descriere);
+// history, with `descriere` whose %1 takes the row's field `camp` as the clerk reads it
+// ("Dispozitie nr %1 stearsa", "NrDisp"). Reads the request from the row, which must still be
+// there; nothing when it is not.
+void StergereRand(BazaDate& db, const QString& tabela, const QString& cheie, qint64 id, const QString& descriere,
+                  const QString& camp);
 
 // The history of a request, newest first: its own rows and those kept under its number from a
 // request deleted before.

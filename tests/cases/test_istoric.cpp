@@ -216,6 +216,7 @@ TEST_P(IstoricBaza, StergereaPastreazaIstoriculSubNumar) {
     CerereCuActe();
     Anchete::Sterge(Bd(), mesaje, ancheta.AnchetaID, QStringLiteral("ancheta"));
     ASSERT_EQ(Istoric::Lista(Bd(), 1).front().Fel, int(FelSchimbare::Stergere));
+    EXPECT_EQ(Istoric::Lista(Bd(), 1).front().Motiv, QStringLiteral("Ancheta din 08.01.2015 stearsa"));
     ListaCereri::Sterge(Bd(), 1);
     EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM IstoricCereri WHERE CerereID IS NOT NULL")), 0)
         << "no row keeps the key of a request that is gone";
