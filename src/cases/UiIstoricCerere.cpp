@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -20,11 +21,19 @@ UiIstoricCerere::UiIstoricCerere(BazaDate& bd, Mesaje& m, std::function<qint64()
     lvwIstoric->setRootIsDecorated(false);
     lvwIstoric->setAllColumnsShowFocus(true);
     lvwIstoric->setSelectionMode(QAbstractItemView::SingleSelection);
-    lvwIstoric->setWordWrap(true);
     lvwIstoric->setHeaderLabels(
         {QStringLiteral("Data si ora"), QStringLiteral("Utilizator"), QStringLiteral("Ce s-a schimbat")});
     lvwIstoric->header()->setStretchLastSection(true);
-    asezare->addWidget(lvwIstoric, 1);
+    asezare->addWidget(lvwIstoric, 3);
+    txtDetalii = new QPlainTextEdit(this);
+    txtDetalii->setObjectName(QStringLiteral("txtDetalii"));
+    txtDetalii->setReadOnly(true);
+    asezare->addWidget(txtDetalii, 1);
+    connect(lvwIstoric, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* rand) {
+        // One change a line: the list's text joins them with "; ".
+        txtDetalii->setPlainText(rand ? rand->toolTip(2).replace(QStringLiteral("; "), QStringLiteral("\n"))
+                                      : QString());
+    });
 }
 
 void UiIstoricCerere::showEvent(QShowEvent* e) {
@@ -34,6 +43,7 @@ void UiIstoricCerere::showEvent(QShowEvent* e) {
 
 void UiIstoricCerere::Incarca() {
     lvwIstoric->clear();
+    txtDetalii->clear();
     const qint64 id = cerere_ ? cerere_() : 0;
     if (id <= 0) {
         lblIstoric->setText(QStringLiteral("Istoricul apare dupa prima salvare a cererii."));
@@ -44,11 +54,12 @@ void UiIstoricCerere::Incarca() {
     lblIstoric->setText(randuri.empty() ? QStringLiteral("Nicio schimbare inregistrata pentru aceasta cerere.")
                                         : QStringLiteral("Schimbari inregistrate: %1").arg(randuri.size()));
     for (const RandIstoric& r : randuri) {
-        auto* rand =
-            new QTreeWidgetItem(QStringList{r.DataOra, r.Utilizator, r.Detalii.isEmpty() ? r.Motiv : r.Detalii});
-        rand->setToolTip(2, r.Detalii);
+        const QString ce = r.Detalii.isEmpty() ? r.Motiv : r.Detalii;
+        auto* rand = new QTreeWidgetItem(QStringList{r.DataOra, r.Utilizator, ce});
+        rand->setToolTip(2, ce);
         lvwIstoric->addTopLevelItem(rand);
     }
+    if (lvwIstoric->topLevelItemCount() > 0) lvwIstoric->setCurrentItem(lvwIstoric->topLevelItem(0));
     lvwIstoric->resizeColumnToContents(0);
     lvwIstoric->resizeColumnToContents(1);
 }

@@ -6,10 +6,11 @@
 class BazaDate;
 class Mesaje;
 class QLabel;
+class QPlainTextEdit;
 class QTreeWidget;
 
 // The history page of the request editor: who changed what of the request and when, newest
-// first, read-only. Read from the database each time the page comes into view, so that it shows
+// first, read-only; the whole text of the selected change below the list. Read from the database each time the page comes into view, so that it shows
 // the saves made since the editor opened.
 class UiIstoricCerere : public QWidget {
     Q_OBJECT
@@ -21,6 +22,7 @@ public:
 
     QTreeWidget* lvwIstoric = nullptr;
     QLabel* lblIstoric = nullptr;
+    QPlainTextEdit* txtDetalii = nullptr;
 
 protected:
     void showEvent(QShowEvent* e) override;
