@@ -105,6 +105,37 @@ std::vector<Schimbare> Istoric::Diferente(BazaDate& db, const QString& tabela, c
     return Compara(tabela, nou, vechi);
 }
 
+std::vector<PersoanaIstoric> Istoric::Persoane(BazaDate& db, qint64 cerereID) {
+    Interogare q(db, QStringLiteral("SELECT CM.MembruID, M.Nume, M.Prenume FROM CereriMembrii CM "
+                                    "LEFT JOIN Membrii M ON M.MembruID = CM.MembruID WHERE CM.CerereID = ? "
+                                    "ORDER BY CM.MembruID"));
+    q.Leaga(cerereID).Executa();
+    std::vector<PersoanaIstoric> r;
+    while (q.Urmator())
+        r.push_back(
+            {q.Intreg(0), QStringLiteral("%1 %2").arg(q.Valoare(1).toString(), q.Valoare(2).toString()).trimmed()});
+    return r;
+}
+
+std::vector<Schimbare> Istoric::ComparaPersoane(const std::vector<PersoanaIstoric>& vechi,
+                                                const std::vector<PersoanaIstoric>& noi) {
+    const QString camp = QStringLiteral("Persoana");
+    std::vector<Schimbare> r;
+    auto gaseste = [](const std::vector<PersoanaIstoric>& l, qint64 id) {
+        return std::find_if(l.begin(), l.end(), [id](const PersoanaIstoric& p) { return p.MembruID == id; });
+    };
+    for (const PersoanaIstoric& p : noi) {
+        const auto v = gaseste(vechi, p.MembruID);
+        if (v == vechi.end())
+            r.push_back({camp, {}, p.Nume});
+        else if (v->Nume != p.Nume)
+            r.push_back({camp, v->Nume, p.Nume});
+    }
+    for (const PersoanaIstoric& p : vechi)
+        if (gaseste(noi, p.MembruID) == noi.end()) r.push_back({camp, p.Nume, {}});
+    return r;
+}
+
 QString Istoric::TextSchimbari(const std::vector<Schimbare>& s, FelSchimbare fel) {
     QStringList parti;
     for (const Schimbare& x : s)
@@ -128,11 +159,10 @@ void Istoric::Scrie(BazaDate& db, const IntrareIstoric& i) {
 
 void Istoric::ScrieLot(BazaDate& db, const std::vector<IntrareIstoric>& randuri) {
     if (randuri.empty()) return;
-    const QStringList campuri = {QStringLiteral("IstoricID"),      QStringLiteral("CerereID"),
-                                 QStringLiteral("NrCerere"),       QStringLiteral("Tranzactie"),
-                                 QStringLiteral("DataTranzactie"), QStringLiteral("DataOra"),
-                                 QStringLiteral("Utilizator"),     QStringLiteral("MotivTranzactie"),
-                                 QStringLiteral("Detalii")};
+    const QStringList campuri = {
+        QStringLiteral("IstoricID"),  QStringLiteral("CerereID"),        QStringLiteral("NrCerere"),
+        QStringLiteral("Tranzactie"), QStringLiteral("DataTranzactie"),  QStringLiteral("DataOra"),
+        QStringLiteral("Utilizator"), QStringLiteral("MotivTranzactie"), QStringLiteral("Detalii")};
     const auto insert = [&](size_t n) {
         QStringList valori;
         for (size_t k = 0; k < n; ++k)

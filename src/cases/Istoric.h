@@ -43,6 +43,12 @@ struct RandIstoric {
     QVariant NrCerere;
 };
 
+// A person of a request as its history names it.
+struct PersoanaIstoric {
+    qint64 MembruID = 0;
+    QString Nume; // "Nume Prenume"
+};
+
 namespace Istoric {
 
 // A value of a field of `tabela` as lists and boxes show it, by the field's type: amounts with two
@@ -58,6 +64,13 @@ std::vector<Schimbare> Compara(const QString& tabela, const Sql::Rand& nou, cons
 // transaction, before the row is written.
 std::vector<Schimbare> Diferente(BazaDate& db, const QString& tabela, const QString& cheie, qint64 id,
                                  const Sql::Rand& nou);
+
+// The persons of a stored request, read in one query.
+std::vector<PersoanaIstoric> Persoane(BazaDate& db, qint64 cerereID);
+// Who came onto the request ("Persoana: (gol) -> Pop Ana"), who left it ("Persoana: Pop Ion -> (gol)")
+// and whose name changed, in the order of the new list, those who left last.
+std::vector<Schimbare> ComparaPersoane(const std::vector<PersoanaIstoric>& vechi,
+                                       const std::vector<PersoanaIstoric>& noi);
 
 // "Stare: 1 -> 3; VenitTotal: 1200.00 -> 1350.00". For a new row the stored side is left out:
 // "NrCerere: 12; Stare: 1".

@@ -116,7 +116,10 @@ public:
         pas(PasSalvare::ListeReferinta);
         Familii();
         pas(PasSalvare::Familii);
+        const std::vector<PersoanaIstoric> persoaneVechi =
+            d_.Adaug == 1 ? std::vector<PersoanaIstoric>{} : Istoric::Persoane(db_, cerereID_);
         Membrii();
+        persoane_ = Istoric::ComparaPersoane(persoaneVechi, persoaneNoi());
         pas(PasSalvare::Membrii);
         Cereri();
         CheiListei();
@@ -354,8 +357,16 @@ private:
     void schimbari(std::vector<Schimbare> s) {
         schimbari_.insert(schimbari_.end(), std::make_move_iterator(s.begin()), std::make_move_iterator(s.end()));
     }
-    // The household's and the request's fields that this save changes, read before they were written.
+    std::vector<PersoanaIstoric> persoaneNoi() const {
+        std::vector<PersoanaIstoric> r;
+        for (size_t i = 0; i < membri_.size(); ++i)
+            r.push_back({iduri_[i], QStringLiteral("%1 %2").arg(membri_[i]->Nume, membri_[i]->Prenume).trimmed()});
+        return r;
+    }
+    // The household's and the request's fields that this save changes, read before they were written,
+    // then the persons who came, left or changed their names.
     void ScrieIstoric() {
+        schimbari(std::move(persoane_));
         const bool nou = d_.Adaug == 1;
         Istoric::ScrieSchimbari(db_, cerereID_, nrCerere_, nou ? FelSchimbare::Adaugare : FelSchimbare::Modificare,
                                 nou ? QStringLiteral("Cerere adaugata") : QStringLiteral("Cerere modificata"),
@@ -548,7 +559,7 @@ private:
     std::vector<qint64> iduri_; // MembruID of each person, in the order of the list
     qint64 cerereID_ = 0, familieID_ = 0, titular_ = 0, partener_ = 0;
     QVariant nrCerere_;
-    std::vector<Schimbare> schimbari_;
+    std::vector<Schimbare> schimbari_, persoane_;
 };
 
 } // namespace

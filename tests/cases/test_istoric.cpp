@@ -115,6 +115,12 @@ TEST_P(IstoricBaza, OSalvareScrieDoarCampurileSchimbate) {
          QStringLiteral("Cerere modificata: Stare: 2 -> 3; DataStare: 01.12.2014 -> 01.02.2015; "
                         "VenitTotal: 600.50 -> 650.50")},
         {[&] {
+             Dosar d = Redeschis(1);
+             (*d.stare.MatriceMembri)[0].Nume = QStringLiteral("Popescu-Radu");
+             ASSERT_EQ(Salveaza(d).stare, RezultatSalvare::Stare::Salvata);
+         },
+         QStringLiteral("Cerere modificata: Persoana: Popescu Ion -> Popescu-Radu Ion")},
+        {[&] {
              Dispozitie d = Dispozitii::DeschideModificare(Bd(), mesaje, disp.DispozitieID)->d;
              d.Suma = QStringLiteral("180");
              d.Motiv.clear();
