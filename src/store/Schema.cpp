@@ -221,8 +221,8 @@ std::vector<TabelaSchema> construiesteTabele() {
                  false});
     t.push_back({"IstoricCereri",
                  {K("CerereID"), B("Tranzactie"), D("DataTranzactie"), X("MotivTranzactie", 255),
-                  // Who changed what and when. The request's number is kept apart from its key, which
-                  // the cascade clears, so that the history of a deleted request stays readable.
+                  // Who changed what and when. The request's number is kept beside its key, which a
+                  // deleted request's rows give up to escape the cascade, so that they stay readable.
                   L("IstoricID"), L("NrCerere"), X("DataOra", 19), X("Utilizator", 50), M("Detalii")},
                  {},
                  false});
