@@ -19,16 +19,24 @@ LocatieBD BazaDemoSQLite(int cereri, bool copie) {
         o.cereri = cereri;
         Demo::Genereaza(*db, o);
     }
-    {
-        // A database made by an older build gets what the upgrade adds (indexes, say).
+    // A database made by an older build gets what the upgrade adds (indexes, say); a copy is
+    // upgraded alone, so that a benchmark that writes leaves the original as it found it.
+    const auto actualizeaza = [](const LocatieBD& l) {
         MesajeTacute m;
-        ActualizareBD(*BazaDate::Deschide(loc), loc.caleBD, m);
+        ActualizareBD(*BazaDate::Deschide(l), l.caleBD, m);
+    };
+    if (!copie) {
+        actualizeaza(loc);
+        return loc;
     }
-    if (!copie) return loc;
     LocatieBD lucru{folder + QStringLiteral("-lucru"), {}};
     QDir().mkpath(lucru.caleBD);
     QFile::remove(lucru.FisierSQLite());
     QFile::copy(loc.FisierSQLite(), lucru.FisierSQLite());
+    for (const QString& catalog : QDir(folder).entryList({QStringLiteral("*.txt")}, QDir::Files))
+        if (!QFile::exists(QDir(lucru.caleBD).filePath(catalog)))
+            QFile::copy(QDir(folder).filePath(catalog), QDir(lucru.caleBD).filePath(catalog));
+    actualizeaza(lucru);
     return lucru;
 }
 

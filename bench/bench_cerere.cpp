@@ -1,15 +1,21 @@
 #include "Comun.h"
 
 #include "cases/DateCerere.h"
+#include "cases/Istoric.h"
 #include "cases/SalvareCerere.h"
 #include "store/BazaDate.h"
+#include "store/Schema.h"
 
 #include <benchmark/benchmark.h>
 
 // The request editor on the demo databases of 100,000 and 1,000,000 requests (SQLite): opening a
 // stored request, and saving a case file of eight persons with their certificates, as a new request
 // and as a change of a stored one. Budgets: 50 ms for each.
-//   ferolanta_bench --benchmark_filter=Cerere
+// The history of a change on the 100,000 one: a save whose telephone changes at each round, so that
+// each writes a history row, against the same save whose row the database drops; and the history's
+// own part of a save (the stored household, request and persons read back, compared, and the row
+// written), undone at each round. Budget: 2 ms for the history's part.
+//   ferolanta_bench --benchmark_filter='Cerere|Istoric'
 
 namespace {
 
@@ -131,6 +137,81 @@ void SalveazaCerereModificata(benchmark::State& st, int Cereri) {
     }
 }
 
+// The change above with the family's telephone different at each round, so that each save writes a
+// history row; with `faraRand`, the same save whose history row the database drops as it comes
+// (what the history's reads and comparisons cost without the row's own pages).
+void SalveazaCerereTelefon(benchmark::State& st, int Cereri, bool faraRand) {
+    auto db = BazaDate::Deschide(BazaDemoSQLite(Cereri, true));
+    if (faraRand)
+        db->Executa(QStringLiteral("CREATE TRIGGER fara_istoric BEFORE INSERT ON IstoricCereri "
+                                   "BEGIN SELECT RAISE(IGNORE); END"));
+    MesajeTacute m;
+    OptiuniSalvare o;
+    o.LunaSetata = 6;
+    o.AnSetat = 2025;
+    DateCerere d;
+    StareCerere s;
+    FamilieDeOpt(d, s, 777778);
+    const RezultatSalvare r = SalveazaCerere(*db, d, s, {}, o, m);
+    CerereIncarcata c = IncarcaCerere(*db, r.CerereID, 6, 2025, m);
+    if (!c.Gasita) {
+        st.SkipWithError("cererea salvata nu se gaseste");
+        return;
+    }
+    int runda = 0;
+    for (auto _ : st) {
+        (*c.Stare.MatriceMembri)[0].Venit = Bani::DinLei(++runda % 1000);
+        c.Date.txtCerere[ElemCerere::txtTelefon] = QStringLiteral("07%1").arg(runda, 8, 10, QLatin1Char('0'));
+        if (SalveazaCerere(*db, c.Date, c.Stare, c.Iesiti, o, m).stare != RezultatSalvare::Stare::Salvata) {
+            st.SkipWithError("salvarea s-a oprit");
+            return;
+        }
+    }
+    Interogare n(*db, QStringLiteral("SELECT COUNT(*) FROM IstoricCereri"));
+    n.Exista();
+    st.counters["randuri istoric"] = double(n.Intreg(0));
+}
+
+// The stored values of every field of a table's row, as a save would write them back.
+Sql::Rand RandStocat(BazaDate& db, const QString& tabela, const QString& cheie, qint64 id) {
+    QStringList campuri;
+    for (const CampSchema& c : Schema::Tabela(tabela)->campuri)
+        if (c.nume.compare(cheie, Qt::CaseInsensitive) != 0) campuri << c.nume;
+    Interogare q(
+        db, QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ?").arg(campuri.join(QStringLiteral(", ")), tabela, cheie));
+    q.Leaga(id);
+    Sql::Rand r;
+    if (q.Exista())
+        for (int i = 0; i < campuri.size(); ++i)
+            r.push_back({campuri[i], q.Valoare(i)});
+    return r;
+}
+
+// What the history adds to a save: the household, the request and its persons read back and compared
+// with the values to write, one field changed, and the row written; each round undone.
+void IstoricLaSalvare(benchmark::State& st, int Cereri) {
+    auto db = BazaDate::Deschide(BazaDemoSQLite(Cereri, true));
+    qint64 pas = 0;
+    for (auto _ : st) {
+        const qint64 id = 1 + (pas++ * 7919) % Cereri;
+        st.PauseTiming();
+        Sql::Rand familie = RandStocat(*db, QStringLiteral("Familii"), QStringLiteral("FamilieID"), id);
+        Sql::Rand cerere = RandStocat(*db, QStringLiteral("Cereri"), QStringLiteral("CerereID"), id);
+        for (auto& [camp, valoare] : cerere)
+            if (camp == QLatin1String("VenitTotal")) valoare = QVariant::fromValue(Bani::DinLei(pas));
+        st.ResumeTiming();
+        Tranzactie t(*db);
+        auto schimbari = Istoric::Diferente(*db, QStringLiteral("Familii"), QStringLiteral("FamilieID"), id, familie);
+        const auto c = Istoric::Diferente(*db, QStringLiteral("Cereri"), QStringLiteral("CerereID"), id, cerere);
+        schimbari.insert(schimbari.end(), c.begin(), c.end());
+        const std::vector<PersoanaIstoric> persoane = Istoric::Persoane(*db, id);
+        const auto p = Istoric::ComparaPersoane(persoane, persoane);
+        schimbari.insert(schimbari.end(), p.begin(), p.end());
+        Istoric::ScrieSchimbari(*db, id, {}, FelSchimbare::Modificare, QStringLiteral("Cerere modificata"), schimbari);
+        benchmark::DoNotOptimize(schimbari.size());
+    }
+}
+
 const bool inregistrate = [] {
     for (int cereri : {100000, 1000000})
         for (const auto& [nume, f] : {std::pair{"DeschideCerere", &DeschideCerere},
@@ -139,6 +220,11 @@ const bool inregistrate = [] {
             benchmark::RegisterBenchmark(QStringLiteral("%1/%2").arg(QLatin1String(nume)).arg(cereri).toStdString().c_str(),
                                          f, cereri)
                 ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("SalveazaCerereCuIstoric/100000", &SalveazaCerereTelefon, 100000, false)
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("SalveazaCerereFaraRandIstoric/100000", &SalveazaCerereTelefon, 100000, true)
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("IstoricLaSalvare/100000", &IstoricLaSalvare, 100000)->Unit(benchmark::kMillisecond);
     return true;
 }();
 

@@ -11,3 +11,9 @@ QDate Ceas::Azi() {
 void Ceas::SeteazaAzi(const QDate& zi) {
     ziFixata = zi;
 }
+
+QDateTime Ceas::Acum() {
+    const QDateTime acum = QDateTime::currentDateTime();
+    const QTime ora = acum.time();
+    return QDateTime(Azi(), QTime(ora.hour(), ora.minute(), ora.second()));
+}

@@ -1,5 +1,6 @@
 #include "cases/Adeverinte.h"
 
+#include "cases/Istoric.h"
 #include "cases/DateCerere.h"
 #include "base/Eroare.h"
 #include "base/PaginiCitite.h"
@@ -416,6 +417,9 @@ qint64 Adeverinte::SalveazaAdeverintaScolara(BazaDate& db, const AdeverintaScola
                               {"DataExpAdev", dataSauNul(a.DataExpAdev)}};
     Tranzactie t(db);
     qint64 id = a.AdevID;
+    const std::vector<Schimbare> schimbari =
+        adaugare ? Istoric::Compara(tabela, scrise, {})
+                 : Istoric::Diferente(db, tabela, QStringLiteral("AdevID"), id, scrise);
     if (adaugare) {
         Interogare exista(db, QStringLiteral("SELECT COUNT(*) FROM Cereri C INNER JOIN Membrii M ON M.MembruID = ? "
                                              "WHERE C.CerereID = ?"));
@@ -429,6 +433,9 @@ qint64 Adeverinte::SalveazaAdeverintaScolara(BazaDate& db, const AdeverintaScola
         throw Eroare(TextRandNegasit);
     }
     CheiLista::ScrieAdeverinte(db, QStringLiteral("AdevID = ?"), {id});
+    Istoric::ScrieSchimbari(db, a.CerereID, {}, adaugare ? FelSchimbare::Adaugare : FelSchimbare::Modificare,
+                            adaugare ? QStringLiteral("Adeverinta adaugata") : QStringLiteral("Adeverinta modificata"),
+                            schimbari);
     t.Confirma();
     return id;
 }
@@ -442,6 +449,8 @@ bool Adeverinte::StergeAdeverintaScolara(BazaDate& db, Mesaje& m, qint64 adevID,
                      false))
         return false;
     Tranzactie t(db);
+    Istoric::StergereRand(db, QStringLiteral("Adeverinte"), QStringLiteral("AdevID"), adevID,
+                          QStringLiteral("Adeverinta %1 stearsa"), QStringLiteral("NrAdev"));
     Interogare(db, QStringLiteral("DELETE FROM Adeverinte WHERE AdevID = ?")).Leaga(adevID).Executa();
     t.Confirma();
     return true;

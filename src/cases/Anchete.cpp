@@ -1,5 +1,6 @@
 #include "cases/Anchete.h"
 
+#include "cases/Istoric.h"
 #include "cases/RandDisponibil.h"
 #include "base/Eroare.h"
 #include "base/Texte.h"
@@ -193,12 +194,17 @@ qint64 Anchete::Salveaza(BazaDate& db, Mesaje& m, Ancheta a, ModAncheta mod) {
         {"Aspecte", textSauNul(a.Aspecte)},
     };
     const QString tabela = QStringLiteral("Anchete");
+    const std::vector<Schimbare> schimbari =
+        nou ? Istoric::Compara(tabela, r, {})
+            : Istoric::Diferente(db, tabela, QStringLiteral("AnchetaID"), a.AnchetaID, r);
     if (nou) {
         r.insert(r.begin(), {{QStringLiteral("AnchetaID"), a.AnchetaID}, {QStringLiteral("CerereID"), a.CerereID}});
         Sql::Insereaza(db, tabela, r);
     } else if (Sql::Actualizeaza(db, tabela, r, QStringLiteral("AnchetaID"), a.AnchetaID) != 1) {
         throw Eroare(Stearsa);
     }
+    Istoric::ScrieSchimbari(db, a.CerereID, {}, nou ? FelSchimbare::Adaugare : FelSchimbare::Modificare,
+                            nou ? QStringLiteral("Ancheta adaugata") : QStringLiteral("Ancheta modificata"), schimbari);
     t.Confirma();
     return a.AnchetaID;
 }
@@ -281,6 +287,8 @@ bool Anchete::Sterge(BazaDate& db, Mesaje& m, qint64 anchetaID, const QString& t
     if (!AnchetaDisponibila(db, m, anchetaID, QStringLiteral("Selectati o ancheta!"))) return false;
     if (!m.Intrebare(IntrebareStergere(textRand))) return false;
     Tranzactie t(db);
+    Istoric::StergereRand(db, QStringLiteral("Anchete"), QStringLiteral("AnchetaID"), anchetaID,
+                          QStringLiteral("Ancheta din %1 stearsa"), QStringLiteral("DataAncheta"));
     Interogare d(db, QStringLiteral("DELETE FROM Anchete WHERE AnchetaID = ?"));
     d.Leaga(anchetaID).Executa();
     t.Confirma();

@@ -1,10 +1,12 @@
 #include "cases/Dispozitii.h"
 
+#include "cases/Istoric.h"
 #include "store/CopieInainte.h"
 #include "cases/RandDisponibil.h"
 #include "base/Ceas.h"
 #include "base/Eroare.h"
 #include "base/Mesaje.h"
+#include "base/Texte.h"
 #include "base/Val.h"
 #include "store/BazaDate.h"
 #include "store/DateGen.h"
@@ -285,12 +287,19 @@ qint64 Dispozitii::Salveaza(BazaDate& db, const Dispozitie& d, ModDispozitie mod
     if (vechi || nou) r.push_back({QStringLiteral("CuantumVechi"), vechi ? Sql::Suma(*vechi) : QVariant()});
     r.push_back({QStringLiteral("Motiv"), textSauNul(d.Motiv)});
     const QString tabela = QStringLiteral("Dispozitii");
+    const std::vector<Schimbare> schimbari =
+        nou ? Istoric::Compara(tabela, r, {}) : Istoric::Diferente(db, tabela, QStringLiteral("DispozitieID"), id, r);
     if (nou) {
         r.insert(r.begin(), {{QStringLiteral("DispozitieID"), id}, {QStringLiteral("CerereID"), d.CerereID}});
         Sql::Insereaza(db, tabela, r);
     } else if (Sql::Actualizeaza(db, tabela, r, QStringLiteral("DispozitieID"), id) != 1) {
         throw Eroare(Stearsa);
     }
+    Istoric::ScrieSchimbari(db, d.CerereID, {}, nou ? FelSchimbare::Adaugare : FelSchimbare::Modificare,
+                            QStringLiteral("Dispozitie nr %1 %2")
+                                .arg(nrDisp)
+                                .arg(nou ? QStringLiteral("adaugata") : QStringLiteral("modificata")),
+                            schimbari);
     t.Confirma();
     return id;
 }
@@ -371,6 +380,7 @@ RezultatGenerare Dispozitii::Genereaza(BazaDate& db, Mesaje& m, const ParametriG
             sfarsit == Sfarsit::Scrise ? db.CheieNoua(QStringLiteral("Dispozitii"), QStringLiteral("DispozitieID")) : 0;
         Interogare lot(db, insertLot(RanduriPeLot));
         std::optional<Interogare> rest;
+        std::vector<IntrareIstoric> istoric;
         for (size_t i = 0; sfarsit == Sfarsit::Scrise && i < cereri.size();) {
             const size_t n = std::min(RanduriPeLot, cereri.size() - i);
             Interogare& q = n == RanduriPeLot ? lot : rest.emplace(db, insertLot(n));
@@ -383,12 +393,20 @@ RezultatGenerare Dispozitii::Genereaza(BazaDate& db, Mesaje& m, const ParametriG
                 else
                     q.Leaga(QVariant());
                 q.Leaga(anDisp).Leaga(*p.Luna);
+                const QString nr = QString::number(r.NrStart + qint64(k));
+                istoric.push_back({c.id, c.nr.isEmpty() ? QVariant() : QVariant(c.nr),
+                                   FelSchimbare::Adaugare, QStringLiteral("Dispozitie nr %1 adaugata").arg(nr),
+                                   QStringLiteral("Dispozitie nr %1 adaugata la generarea dispozitiilor: "
+                                                  "DataDisp: %2; DinData: %3; Cuantum: %4")
+                                       .arg(nr, FormatData(p.DataDisp), FormatData(dinData),
+                                            c.cuantum ? FormatSuma(*c.cuantum) : QStringLiteral("(gol)"))});
             }
             q.Executa();
             i += n;
             if (p.Progres && !p.Progres(qint64(i), total)) sfarsit = Sfarsit::Oprita;
         }
         if (sfarsit == Sfarsit::Scrise) {
+            Istoric::ScrieLot(db, istoric);
             t.Confirma();
             r.ok = true;
             r.Generate = total;
@@ -472,6 +490,8 @@ QString Dispozitii::TitluDispozitii(const QString& solicitant, size_t randuri) {
 
 bool Dispozitii::StergeDispozitie(BazaDate& db, qint64 dispozitieID) {
     Tranzactie t(db);
+    Istoric::StergereRand(db, QStringLiteral("Dispozitii"), QStringLiteral("DispozitieID"), dispozitieID,
+                          QStringLiteral("Dispozitie nr %1 stearsa"), QStringLiteral("NrDisp"));
     Interogare d(db, QStringLiteral("DELETE FROM Dispozitii WHERE DispozitieID = ?"));
     d.Leaga(dispozitieID).Executa();
     t.Confirma();

@@ -1,5 +1,6 @@
 #include "cases/ListaCereri.h"
 
+#include "cases/Istoric.h"
 #include "base/PaginiCitite.h"
 #include "base/Texte.h"
 #include "base/Val.h"
@@ -266,6 +267,7 @@ void ListaCereri::Sterge(BazaDate& db, qint64 cerereID) {
     }
     const QVariant familie = cerere.Valoare(0);
     cerere.query().finish();
+    Istoric::StergereCerere(db, cerereID);
 
     // A person who is on another request stays.
     Interogare(db, QStringLiteral(

@@ -1,6 +1,7 @@
 #include "cases/SalvareCerere.h"
 
 #include "cases/CalculCuantum.h"
+#include "cases/Istoric.h"
 #include "base/BlocareFisier.h"
 #include "base/Eroare.h"
 #include "base/Texte.h"
@@ -115,10 +116,14 @@ public:
         pas(PasSalvare::ListeReferinta);
         Familii();
         pas(PasSalvare::Familii);
+        const std::vector<PersoanaIstoric> persoaneVechi =
+            d_.Adaug == 1 ? std::vector<PersoanaIstoric>{} : Istoric::Persoane(db_, cerereID_);
         Membrii();
+        persoane_ = Istoric::ComparaPersoane(persoaneVechi, persoaneNoi());
         pas(PasSalvare::Membrii);
         Cereri();
         CheiListei();
+        ScrieIstoric();
         pas(PasSalvare::Cereri);
         CereriMembrii();
         pas(PasSalvare::CereriMembrii);
@@ -201,10 +206,12 @@ private:
             Randuri cuCheie{{"FamilieID", familieID_}};
             cuCheie.insert(cuCheie.end(), r.begin(), r.end());
             Sql::Insereaza(db_, QStringLiteral("Familii"), cuCheie);
+            schimbari(Istoric::Compara(QStringLiteral("Familii"), r, {}));
             return;
         }
         familieID_ = d_.FamilieID;
         cerereID_ = d_.CerereID;
+        schimbari(Istoric::Diferente(db_, QStringLiteral("Familii"), QStringLiteral("FamilieID"), familieID_, r));
         if (Sql::Actualizeaza(db_, QStringLiteral("Familii"), r, QStringLiteral("FamilieID"), familieID_) == 0)
             throw Eroare(TextRandNegasit);
     }
@@ -290,8 +297,10 @@ private:
     void Cereri() {
         const auto& t = d_.txtCerere;
         auto text = [&](const char* camp, const QString& v) { return Text("Cereri", camp, v); };
+        const qint64 nrCerere =
+            Numar(t[txtNrCerere], std::numeric_limits<qint32>::max(), QStringLiteral("Numarul cererii"));
         const Randuri r = {
-            {"NrCerere", Numar(t[txtNrCerere], std::numeric_limits<qint32>::max(), QStringLiteral("Numarul cererii"))},
+            {"NrCerere", nrCerere},
             {"NrCerere2", text("NrCerere2", t[txtNrCerere2])},
             {"DataCerere", Data(d_.dtpData[dtpDataCerere])},
             {"MembruID1", Cheie(titular_)},
@@ -332,14 +341,36 @@ private:
             {"Supl", d_.chkSupl},
             {"A1Solicita", Cifra(d_.chkVmg_s) + Cifra(d_.chkIncalzire_s) + Cifra(d_.chkSupl_s)},
         };
+        nrCerere_ = nrCerere;
         if (d_.Adaug == 1) {
             Randuri cuCheie{{"CerereID", cerereID_}, {"FamilieID", familieID_}};
             cuCheie.insert(cuCheie.end(), r.begin(), r.end());
             Sql::Insereaza(db_, QStringLiteral("Cereri"), cuCheie);
+            schimbari(Istoric::Compara(QStringLiteral("Cereri"), r, {}));
             return;
         }
+        schimbari(Istoric::Diferente(db_, QStringLiteral("Cereri"), QStringLiteral("CerereID"), cerereID_, r));
         if (Sql::Actualizeaza(db_, QStringLiteral("Cereri"), r, QStringLiteral("CerereID"), cerereID_) == 0)
             throw Eroare(TextRandNegasit);
+    }
+
+    void schimbari(std::vector<Schimbare> s) {
+        schimbari_.insert(schimbari_.end(), std::make_move_iterator(s.begin()), std::make_move_iterator(s.end()));
+    }
+    std::vector<PersoanaIstoric> persoaneNoi() const {
+        std::vector<PersoanaIstoric> r;
+        for (size_t i = 0; i < membri_.size(); ++i)
+            r.push_back({iduri_[i], QStringLiteral("%1 %2").arg(membri_[i]->Nume, membri_[i]->Prenume).trimmed()});
+        return r;
+    }
+    // The household's and the request's fields that this save changes, read before they were written,
+    // then the persons who came, left or changed their names.
+    void ScrieIstoric() {
+        schimbari(std::move(persoane_));
+        const bool nou = d_.Adaug == 1;
+        Istoric::ScrieSchimbari(db_, cerereID_, nrCerere_, nou ? FelSchimbare::Adaugare : FelSchimbare::Modificare,
+                                nou ? QStringLiteral("Cerere adaugata") : QStringLiteral("Cerere modificata"),
+                                schimbari_);
     }
 
     // This request's titular and address may have changed, and so may those of the other requests of
@@ -527,6 +558,8 @@ private:
     std::vector<const MembruCerere*> membri_;
     std::vector<qint64> iduri_; // MembruID of each person, in the order of the list
     qint64 cerereID_ = 0, familieID_ = 0, titular_ = 0, partener_ = 0;
+    QVariant nrCerere_;
+    std::vector<Schimbare> schimbari_, persoane_;
 };
 
 } // namespace

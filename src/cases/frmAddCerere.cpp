@@ -1,6 +1,7 @@
 #include "cases/frmAddCerere.h"
 
 #include "cases/UiAdeverinte.h"
+#include "cases/UiIstoricCerere.h"
 #include "cases/frmAddActe.h"
 #include "cases/frmAddLocuinta.h"
 #include "cases/frmAddMembru.h"
@@ -32,6 +33,7 @@
 #include <QRegularExpressionValidator>
 #include <QSignalBlocker>
 #include <QStackedLayout>
+#include <QTabWidget>
 #include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -224,13 +226,21 @@ void frmAddCerere::asazaControale() {
     txtCerere[txtNrCerere]->installEventFilter(this);
 
     auto* asezare = new QVBoxLayout(this);
+    tabCerere = new QTabWidget(this);
+    tabCerere->setObjectName(QStringLiteral("tabCerere"));
+    auto* pagina = new QWidget(tabCerere);
+    auto* continut = new QVBoxLayout(pagina);
     auto* sus = new QHBoxLayout;
     sus->addWidget(construiesteCererea(), 4);
     sus->addWidget(construiesteAdresa(), 4);
     sus->addWidget(construiestePlata(), 3);
-    asezare->addLayout(sus);
-    asezare->addWidget(construiesteMembrii(), 1);
-    asezare->addWidget(construiesteTotalurile());
+    continut->addLayout(sus);
+    continut->addWidget(construiesteMembrii(), 1);
+    continut->addWidget(construiesteTotalurile());
+    tabCerere->addTab(pagina, QStringLiteral("Cerere"));
+    pagIstoric = new UiIstoricCerere(bd_, m_, [this] { return cerereID_; }, tabCerere);
+    tabCerere->addTab(pagIstoric, QStringLiteral("Istoric"));
+    asezare->addWidget(tabCerere, 1);
 
     auto* butoane = new QHBoxLayout;
     cmdVenituri = Buton(this, butoane, "cmdVenituri", QStringLiteral("Venituri..."));

@@ -23,9 +23,11 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QTabWidget;
 class QTimer;
 class QTreeWidget;
 class UiDataOptionala;
+class UiIstoricCerere;
 
 // How the main window opens the request editor.
 struct DeschidereCerere {
@@ -109,6 +111,9 @@ public:
     QPushButton* cmdOK = nullptr;
     QPushButton* cmdCancel = nullptr;
     QTimer* Timer1 = nullptr;
+    // The request on its first page, its history on the second.
+    QTabWidget* tabCerere = nullptr;
+    UiIstoricCerere* pagIstoric = nullptr;
 
 protected:
     bool eventFilter(QObject* obiect, QEvent* e) override;

@@ -63,6 +63,7 @@ int ComandaBorderou(const QCommandLineParser& p, QTextStream& out);
 int ComandaBas(const QCommandLineParser& p, const QString& formular, QTextStream& out);
 int ComandaIsr(const QCommandLineParser& p, const QString& valoare, QTextStream& out);
 int ComandaCopie(const QCommandLineParser& p, QTextStream& out);
+int ComandaIstoric(const QCommandLineParser& p, const QString& nrText, QTextStream& out);
 int ComandaRestaurare(const QCommandLineParser& p, const QString& copie, QTextStream& out);
 int ComandaMentenanta(const QCommandLineParser& p, const QString& unealta, QTextStream& out);
 int ComandaWeb(const QCommandLineParser& p, const QString& document, const QString& idText, QTextStream& out,

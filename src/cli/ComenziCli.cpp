@@ -21,7 +21,7 @@ const QString Utilizare =
                    "[--tip-cerere 0|1|2] [--membri] [--nr-luni TEXT] [--stari ID,ID,...] [--nr-bord TEXT] "
                    "[--data-bord ZZ.LL.AAAA]}|"
                    "borderou --raport I --aloc J --out FISIER [--foaie] [--ord1 I] [--ord2 I] [--luna L --an A]|"
-                   "bas {a23|a25} --out FISIER.ods|isr VALOARE|"
+                   "bas {a23|a25} --out FISIER.ods|isr VALOARE|istoric NR|"
                    "mentenanta {datastare [--suprascrie]|stare|rudenie|acte|bife|cereri2014 [--data-veche]} [--da] "
                    "[--luna L --an A]|copie|restaurare COPIE} "
                    "[--dir DIR] "
@@ -97,9 +97,9 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
     p.addOption({QStringLiteral("da"), QStringLiteral("mentenanta: raspunde Da si face modificarea")});
     p.addOption({QStringLiteral("suprascrie"), QStringLiteral("mentenanta datastare: si cererile cu DataStare")});
     p.addOption({QStringLiteral("data-veche"), QStringLiteral("mentenanta cereri2014: pastreaza DataCerere")});
-    p.addPositionalArgument(
-        QStringLiteral("comanda"),
-        QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta, raport, borderou, bas, isr, mentenanta, copie, restaurare"));
+    p.addPositionalArgument(QStringLiteral("comanda"),
+                            QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta, raport, borderou, bas, "
+                                           "isr, istoric, mentenanta, copie, restaurare"));
     try {
         if (!p.parse(argumente)) throw EroareArgumente{p.errorText()};
         const QStringList poz = p.positionalArguments();
@@ -112,6 +112,7 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         const bool cuBorderou = comanda == QLatin1String("borderou");
         const bool cuBas = comanda == QLatin1String("bas");
         const bool cuIsr = comanda == QLatin1String("isr");
+        const bool cuIstoric = comanda == QLatin1String("istoric");
         const bool cuMentenanta = comanda == QLatin1String("mentenanta");
         const bool cuRestaurare = comanda == QLatin1String("restaurare");
         if (cuRestaurare && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste copia de pus inapoi")};
@@ -121,13 +122,15 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (cuRaport && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste raportul: lista sau indexul")};
         if (cuBas && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste formularul: a23 sau a25")};
         if (cuIsr && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste valoarea ISR")};
+        if (cuIstoric && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste numarul cererii")};
         if (cuCerere && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
         if (cuDocument && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste felul documentului")};
         if (cuDocument && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul documentului")};
         if (cuWeb && poz.size() == 1)
             throw EroareArgumente{QStringLiteral("lipseste documentul: cerere, cerere_1a sau ancheta")};
         if (cuWeb && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
-        if (poz.size() != (cuDocument || cuWeb ? 3 : cuCerere || cuRaport || cuBas || cuIsr || cuMentenanta || cuRestaurare ? 2 : 1))
+        const bool cuArgument = cuCerere || cuRaport || cuBas || cuIsr || cuIstoric || cuMentenanta || cuRestaurare;
+        if (poz.size() != (cuDocument || cuWeb ? 3 : cuArgument ? 2 : 1))
             throw EroareArgumente{QStringLiteral("prea multe argumente")};
         if (!cuDocument && (p.isSet(QStringLiteral("sablon")) || p.isSet(QStringLiteral("data"))))
             throw EroareArgumente{QStringLiteral("--sablon si --data sunt doar pentru document")};
@@ -174,6 +177,7 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (cuBorderou) return ComandaBorderou(p, out);
         if (cuBas) return ComandaBas(p, poz[1], out);
         if (cuIsr) return ComandaIsr(p, poz[1], out);
+        if (cuIstoric) return ComandaIstoric(p, poz[1], out);
         if (cuMentenanta) return ComandaMentenanta(p, poz[1], out);
         if (comanda == QLatin1String("copie")) return ComandaCopie(p, out);
         if (cuRestaurare) return ComandaRestaurare(p, poz[1], out);

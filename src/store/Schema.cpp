@@ -219,8 +219,13 @@ std::vector<TabelaSchema> construiesteTabele() {
                   X("MembruOrdine", 101), I("CerereInVigoare")},
                  chei({"AdevID"}),
                  false});
-    t.push_back(
-        {"IstoricCereri", {K("CerereID"), B("Tranzactie"), D("DataTranzactie"), X("MotivTranzactie", 255)}, {}, false});
+    t.push_back({"IstoricCereri",
+                 {K("CerereID"), B("Tranzactie"), D("DataTranzactie"), X("MotivTranzactie", 255),
+                  // Who changed what and when. The request's number is kept beside its key, which a
+                  // deleted request's rows give up to escape the cascade, so that they stay readable.
+                  L("IstoricID"), L("NrCerere"), X("DataOra", 19), X("Utilizator", 50), M("Detalii")},
+                 {},
+                 false});
     t.push_back({"Politii", {K("PolitiaID"), X("Denumire", 50), K("LocalitateID")}, chei({"PolitiaID"}), false});
     t.push_back({"Scoli", {K("ScoalaID"), X("Denumire", 50), K("LocalitateID")}, chei({"ScoalaID"}), false});
     t.push_back({"Motive", {K("MotivID"), X("Denumire", 50)}, chei({"MotivID"}), false});
@@ -311,7 +316,11 @@ std::vector<IndexSchema> construiesteIndexuri() {
         ix("Adeverinte", {"DataExpAdev", "AdvCurenta", "CerereInVigoare"}),
         // Led by the flag, it also finds the certificates whose keys were never written.
         ix("Adeverinte", {"CerereInVigoare", "AdvCurenta", "MembruOrdine", "DataExpAdev"}),
+        // A request's history by its key; the rows of deleted requests, kept under their numbers, are
+        // those of no key, few enough to be read through it too. One index less to write at each save.
         ix("IstoricCereri", {"CerereID"}),
+        // The next history key.
+        ix("IstoricCereri", {"IstoricID"}),
         ix("BifeText", {"CerereID"}),
         ix("Politii", {"LocalitateID"}),
         ix("Scoli", {"LocalitateID"}),

@@ -1,3 +1,5 @@
+#include "cases/Dispozitii.h"
+#include "cases/ListaCereri.h"
 #include "cli/ComenziCli.h"
 #include "documents/web/PunteWebTest.h"
 #include "support/BazaTest.h"
@@ -211,6 +213,23 @@ TEST_P(Cli, IsrRecalculeazaSauOpreste) {
     EXPECT_EQ(q.Text(T("Continut")), T("600.75"));
 }
 
+// The history under a number, that of a request since deleted included, newest first.
+TEST_P(Cli, IstoricSubNumarulCererii) {
+    Redeschide();
+    ScriePrimarie(Bd(), PrimarieA());
+    ScrieCerere(Bd(), CerereA());
+    const Dispozitie d{0, 7, T("5"), QDate(2015, 3, 1), 1, 3, T("2015"), T("82"), {}, {}};
+    Dispozitii::Salveaza(Bd(), d, ModDispozitie::Adaugare);
+    ListaCereri::Sterge(Bd(), 7);
+    const IesireCli r = Ruleaza(T("istoric 125"));
+    EXPECT_EQ(r.cod, 0) << r.err.toStdString();
+    const QStringList linii = r.out.split(u'\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(linii.size(), 2) << r.out.toStdString();
+    EXPECT_EQ(linii[0].section(u'\t', 2).section(u';', 0, 0), T("Cerere stearsa: NrCerere: 125"));
+    EXPECT_TRUE(linii[1].section(u'\t', 2).startsWith(T("Dispozitie nr 5 adaugata: "))) << linii[1].toStdString();
+    EXPECT_EQ(Ruleaza(T("istoric 126")).out, QString());
+}
+
 PE_AMBELE_MOTOARE(Cli);
 
 // A maintenance tool only counts without --da; with it, it changes and says how many. A tool that stops
@@ -263,7 +282,8 @@ TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
         "bas a25 --out x.ods --foaie", "cuantum 5 --raport 1 --dir DIR", "mentenanta", "mentenanta curata --dir DIR",
         "mentenanta stare acte --dir DIR", "mentenanta stare --suprascrie --dir DIR", "cauta --da",
         "mentenanta acte --data-veche --dir DIR", "mentenanta datastare --luna 3 --dir DIR",
-        "copie x --dir DIR", "restaurare --dir DIR", "restaurare a b --dir DIR", "copie --out x.db"};
+        "copie x --dir DIR", "restaurare --dir DIR", "restaurare a b --dir DIR", "copie --out x.db", "istoric",
+        "istoric x --dir DIR", "istoric 5 6 --dir DIR", "istoric 5 --luna 3 --dir DIR"};
     // clang-format on
     QTemporaryDir dir;
     for (const char* linie : linii) {

@@ -1,10 +1,13 @@
 #include "base/Eroare.h"
+#include "cases/Istoric.h"
+#include "cases/UiIstoricCerere.h"
 #include "cases/frmAddCerere.h"
 #include "cases/frmAddVenituri.h"
 #include "ui/FormaDosar.h"
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTreeWidget>
 
@@ -91,6 +94,16 @@ TEST_P(FormaCerere, DeschideSalveazaSiRenunta) {
     ASSERT_EQ(persoane.size(), 2u);
     EXPECT_EQ(persoane[1].Mod, 2);
     EXPECT_EQ(persoane[1].Index, 3);
+
+    // The history page, once in view, lists the request's changes, the save above first.
+    f = std::make_unique<frmAddCerere>(Bd(), setari, mesaje, DeschidereCerere{2, cerereID});
+    f->show();
+    EXPECT_EQ(f->pagIstoric->lvwIstoric->topLevelItemCount(), 0);
+    f->tabCerere->setCurrentWidget(f->pagIstoric);
+    const auto istoric = Istoric::Lista(Bd(), cerereID);
+    ASSERT_FALSE(istoric.empty());
+    EXPECT_EQ(f->pagIstoric->lvwIstoric->topLevelItemCount(), int(istoric.size()));
+    EXPECT_TRUE(f->pagIstoric->lvwIstoric->topLevelItem(0)->text(2).contains(QStringLiteral("0219999999")));
 
     // A new request: the boxes that OK needs and a titular, saved under a key of its own.
     f = std::make_unique<frmAddCerere>(Bd(), setari, mesaje, DeschidereCerere{});
