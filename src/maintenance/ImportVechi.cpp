@@ -22,6 +22,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <tuple>
 
 namespace {
 
@@ -52,7 +53,7 @@ private:
 std::optional<QVariant> Valoare(const CampSchema& c, const QString& text, const Dialect& d) {
     if (text.isNull()) return QVariant();
     if (c.tip == TipCamp::Text || c.tip == TipCamp::Memo) return QVariant(text);
-    const QString t = text.trimmed();
+    const QStringView t = QStringView(text).trimmed();
     if (t.isEmpty()) return QVariant();
     const bool lite = d.EsteSQLite();
     auto intreg = [&](qint64 minim, qint64 maxim) -> std::optional<QVariant> {
@@ -60,7 +61,7 @@ std::optional<QVariant> Valoare(const CampSchema& c, const QString& text, const 
         qint64 v = t.toLongLong(&ok);
         if (!ok) {
             // Some exports write whole numbers with decimals ("3.0", "3,00").
-            const double x = QString(t).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&ok);
+            const double x = t.toString().replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&ok);
             if (!ok || x != std::floor(x) || std::abs(x) > 9e15) return std::nullopt;
             v = qint64(x);
         }
@@ -87,24 +88,38 @@ std::optional<QVariant> Valoare(const CampSchema& c, const QString& text, const 
     }
     case TipCamp::Single: {
         bool ok = false;
-        const double x = QString(t).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&ok);
+        const double x = t.toString().replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&ok);
         return ok ? std::optional<QVariant>(x) : std::nullopt;
     }
     case TipCamp::Currency:
     case TipCamp::Zecimal: {
         if (const auto b = Bani::DinText(t)) return QVariant::fromValue(*b);
         bool ok = false;
-        const double x = QString(t).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&ok);
+        const double x = t.toString().replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&ok);
         if (!ok || std::abs(x) > 9e14) return std::nullopt;
         return QVariant::fromValue(Bani::DinUnitati(std::llround(x * double(Bani::Scala))));
     }
     case TipCamp::Data: {
+        // The export's own form, read by hand: the general parser below costs more than all the rest of a row.
+        if (t.size() >= 10 && t[4] == u'-' && t[7] == u'-') {
+            const auto numar = [&](qsizetype de, qsizetype cate) {
+                int v = 0;
+                for (qsizetype i = de; i < de + cate; ++i) {
+                    if (!t[i].isDigit()) return -1;
+                    v = v * 10 + t[i].digitValue();
+                }
+                return v;
+            };
+            const QDate z(numar(0, 4), numar(5, 2), numar(8, 2));
+            if (z.isValid() && (t.size() == 10 || t[10] == u' ' || t[10] == u'T'))
+                return z == QDate(1899, 12, 30) ? QVariant() : QVariant(z);
+        }
         static const QStringList formate = {QStringLiteral("yyyy-MM-dd HH:mm:ss"), QStringLiteral("yyyy-MM-dd"),
                                             QStringLiteral("MM/dd/yy HH:mm:ss"), QStringLiteral("MM/dd/yyyy HH:mm:ss"),
                                             QStringLiteral("MM/dd/yyyy"), QStringLiteral("dd.MM.yyyy")};
         for (const QString& f : formate) {
-            QDate z = QDateTime::fromString(t, f).date();
-            if (!z.isValid()) z = QDate::fromString(t, f);
+            QDate z = QDateTime::fromString(t.toString(), f).date();
+            if (!z.isValid()) z = QDate::fromString(t.toString(), f);
             if (!z.isValid()) continue;
             // Two-digit years are the engine's: 30 to 99 are the last century.
             if (f.contains(QLatin1String("/yy ")) && z.year() < 1930) z = z.addYears(100);
@@ -304,6 +319,11 @@ private:
                     if (p.campuri[size_t(i)].camp.nume.compare(r.camp, Qt::CaseInsensitive) == 0)
                         pastrate.emplace_back(i, &chei_[cheieReferinta(r.tabela, r.camp)]);
         QSet<std::pair<qint64, qint64>> vazute;
+        // The parents' keys, for the references to tables the file holds (the others can't be checked).
+        std::vector<std::tuple<int, const RelatieSchema*, const QSet<qint64>*>> referinte;
+        for (const auto& [i, r] : p.referinte)
+            if (inPlan(r->tabela)) referinte.emplace_back(i, r, &chei_[cheieReferinta(r->tabela, r->camp)]);
+        const bool latimi = !db_.dialect().EsteSQLite();
 
         InserareInLot ins(db_, p.tinta, nume);
         auto tabela = sursa_.Deschide(p.sursa);
@@ -332,11 +352,10 @@ private:
                 rand[i] = *v;
             }
             if (motiv.isEmpty()) motiv = verificaCheie(p, rand, vazute);
-            for (const auto& [i, r] : p.referinte) {
+            for (const auto& [i, r, parinti] : referinte) {
                 if (!motiv.isEmpty()) break;
                 const QVariant& v = rand[size_t(i)];
-                if (v.isNull() || !inPlan(r->tabela)) continue;
-                if (!chei_[cheieReferinta(r->tabela, r->camp)].contains(v.toLongLong()))
+                if (!v.isNull() && !parinti->contains(v.toLongLong()))
                     motiv = QStringLiteral("%1 = %2 nu exista in %3").arg(p.campuri[size_t(i)].camp.nume, v.toString(), r->tabela);
             }
             if (!motiv.isEmpty()) {
@@ -346,7 +365,7 @@ private:
             for (const auto& [i, set] : pastrate)
                 set->insert(rand[size_t(i)].toLongLong());
             for (size_t i = 0; i < p.campuri.size(); ++i) {
-                if (p.campuri[i].latime > 0 && !rand[i].isNull())
+                if (latimi && p.campuri[i].latime > 0 && !rand[i].isNull())
                     maxim[i] = std::max(maxim[i], int(rand[i].toString().size()));
                 ins.Leaga(rand[i]);
             }
