@@ -20,15 +20,16 @@
 namespace {
 
 // Fields the old program never had: the import has to write them.
-const QStringList CampuriNoi = {QStringLiteral("TitularNume"),    QStringLiteral("TitularPrenume"),
-                                QStringLiteral("TitularCNP"),     QStringLiteral("AdresaOrdine"),
-                                QStringLiteral("NumeCautare"),    QStringLiteral("PrenumeCautare"),
-                                QStringLiteral("MembruOrdine"),   QStringLiteral("CerereInVigoare")};
+const QStringList CampuriNoi = {QStringLiteral("TitularNume"),  QStringLiteral("TitularPrenume"),
+                                QStringLiteral("TitularCNP"),   QStringLiteral("AdresaOrdine"),
+                                QStringLiteral("NumeCautare"),  QStringLiteral("PrenumeCautare"),
+                                QStringLiteral("MembruOrdine"), QStringLiteral("CerereInVigoare")};
 
 QByteArray TextCsv(const CampSchema* c, const QVariant& v) {
     if (v.isNull()) return {};
     if (c && c->tip == TipCamp::Data) {
-        const QDate d = v.typeId() == QMetaType::QDate ? v.toDate() : QDate::fromString(v.toString().left(10), Qt::ISODate);
+        const QDate d =
+            v.typeId() == QMetaType::QDate ? v.toDate() : QDate::fromString(v.toString().left(10), Qt::ISODate);
         return d.toString(QStringLiteral("yyyy-MM-dd 00:00:00")).toUtf8();
     }
     if (c && (c->tip == TipCamp::Text || c->tip == TipCamp::Memo)) {

@@ -132,8 +132,7 @@ bool CitesteRandCsv(const QString& text, qsizetype& poz, QStringList& campuri, q
 }
 
 SursaCsv::SursaCsv(const QString& folder) : dir_(folder) {
-    if (!dir_.exists())
-        throw Eroare(QStringLiteral("Folderul %1 nu exista.").arg(QDir::toNativeSeparators(folder)));
+    if (!dir_.exists()) throw Eroare(QStringLiteral("Folderul %1 nu exista.").arg(QDir::toNativeSeparators(folder)));
     for (const QFileInfo& fi : dir_.entryInfoList(QDir::Files, QDir::Name))
         if (fi.suffix().compare(QLatin1String("csv"), Qt::CaseInsensitive) == 0) fisiere_ << fi.fileName();
     if (fisiere_.isEmpty())

@@ -72,7 +72,8 @@ std::optional<QVariant> Valoare(const CampSchema& c, const QString& text, const 
     case TipCamp::Cheie:
         return intreg(std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max());
     case TipCamp::Byte:
-        return intreg(lite ? std::numeric_limits<qint64>::min() : -32768, lite ? std::numeric_limits<qint64>::max() : 32767);
+        return intreg(lite ? std::numeric_limits<qint64>::min() : -32768,
+                      lite ? std::numeric_limits<qint64>::max() : 32767);
     case TipCamp::Integer:
     case TipCamp::Long:
         return intreg(std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max());
@@ -114,9 +115,9 @@ std::optional<QVariant> Valoare(const CampSchema& c, const QString& text, const 
             if (z.isValid() && (t.size() == 10 || t[10] == u' ' || t[10] == u'T'))
                 return z == QDate(1899, 12, 30) ? QVariant() : QVariant(z);
         }
-        static const QStringList formate = {QStringLiteral("yyyy-MM-dd HH:mm:ss"), QStringLiteral("yyyy-MM-dd"),
-                                            QStringLiteral("MM/dd/yy HH:mm:ss"), QStringLiteral("MM/dd/yyyy HH:mm:ss"),
-                                            QStringLiteral("MM/dd/yyyy"), QStringLiteral("dd.MM.yyyy")};
+        static const QStringList formate = {
+            QStringLiteral("yyyy-MM-dd HH:mm:ss"), QStringLiteral("yyyy-MM-dd"), QStringLiteral("MM/dd/yy HH:mm:ss"),
+            QStringLiteral("MM/dd/yyyy HH:mm:ss"), QStringLiteral("MM/dd/yyyy"), QStringLiteral("dd.MM.yyyy")};
         for (const QString& f : formate) {
             QDate z = QDateTime::fromString(t.toString(), f).date();
             if (!z.isValid()) z = QDate::fromString(t.toString(), f);
@@ -147,7 +148,7 @@ struct PlanTabela {
     QString tinta;              // created under this name (the old name of a renamed table)
     const TabelaSchema* schema; // the table of the present shape it becomes
     std::vector<CampImport> campuri;
-    std::vector<int> cheie;                    // indexes in campuri of the primary key
+    std::vector<int> cheie;                                      // indexes in campuri of the primary key
     std::vector<std::pair<int, const RelatieSchema*>> referinte; // fields that reference a parent
     int nivel = 0;
 };
@@ -287,10 +288,12 @@ private:
             p.campuri.push_back({i, *c, latime});
         }
         for (const QString& k : t.cheiePrimara) {
-            const auto it = std::find_if(p.campuri.begin(), p.campuri.end(),
-                                         [&](const CampImport& c) { return c.camp.nume.compare(k, Qt::CaseInsensitive) == 0; });
+            const auto it = std::find_if(p.campuri.begin(), p.campuri.end(), [&](const CampImport& c) {
+                return c.camp.nume.compare(k, Qt::CaseInsensitive) == 0;
+            });
             if (it == p.campuri.end())
-                throw Eroare(QStringLiteral("Tabela %1 din %2 nu are campul %3, cheia ei.").arg(nume, sursa_.Descriere(), k));
+                throw Eroare(
+                    QStringLiteral("Tabela %1 din %2 nu are campul %3, cheia ei.").arg(nume, sursa_.Descriere(), k));
             p.cheie.push_back(int(it - p.campuri.begin()));
         }
         for (int i = 0; i < int(p.campuri.size()); ++i)
@@ -300,8 +303,9 @@ private:
     }
 
     bool inPlan(const QString& tabela) const {
-        return std::any_of(plan_.begin(), plan_.end(),
-                           [&](const PlanTabela& p) { return p.schema->nume.compare(tabela, Qt::CaseInsensitive) == 0; });
+        return std::any_of(plan_.begin(), plan_.end(), [&](const PlanTabela& p) {
+            return p.schema->nume.compare(tabela, Qt::CaseInsensitive) == 0;
+        });
     }
 
     void copiaza(PlanTabela& p) {
@@ -346,7 +350,8 @@ private:
                 const QString& text = valori[p.campuri[i].sursa];
                 const auto v = Valoare(p.campuri[i].camp, text, db_.dialect());
                 if (!v) {
-                    motiv = QStringLiteral("%1 = \"%2\" nu este o valoare a campului").arg(p.campuri[i].camp.nume, text);
+                    motiv =
+                        QStringLiteral("%1 = \"%2\" nu este o valoare a campului").arg(p.campuri[i].camp.nume, text);
                     break;
                 }
                 rand[i] = *v;
@@ -356,7 +361,8 @@ private:
                 if (!motiv.isEmpty()) break;
                 const QVariant& v = rand[size_t(i)];
                 if (!v.isNull() && !parinti->contains(v.toLongLong()))
-                    motiv = QStringLiteral("%1 = %2 nu exista in %3").arg(p.campuri[size_t(i)].camp.nume, v.toString(), r->tabela);
+                    motiv = QStringLiteral("%1 = %2 nu exista in %3")
+                                .arg(p.campuri[size_t(i)].camp.nume, v.toString(), r->tabela);
             }
             if (!motiv.isEmpty()) {
                 ti.refuzate.push_back({locRand(*tabela, p, rand), motiv});
@@ -408,7 +414,8 @@ private:
             if (maxim[i] <= p.campuri[i].latime) continue;
             ops_.LargesteText(p.tinta, p.campuri[i].camp.nume, maxim[i]);
             p.campuri[i].latime = maxim[i];
-            ti.campuriLargite.removeIf([&](const QString& s) { return s.startsWith(p.campuri[i].camp.nume + QLatin1Char(' ')); });
+            ti.campuriLargite.removeIf(
+                [&](const QString& s) { return s.startsWith(p.campuri[i].camp.nume + QLatin1Char(' ')); });
             ti.campuriLargite << QStringLiteral("%1 la %2 caractere").arg(p.campuri[i].camp.nume).arg(maxim[i]);
         }
     }

@@ -55,7 +55,7 @@ RaportImport ImportaBazaVeche(BazaDate& db, SursaVeche& sursa, const QString& ca
 
 struct RezultatImport {
     RaportImport raport;
-    QString copie;      // the copy taken of the SQLite database before the import; empty when none
+    QString copie;       // the copy taken of the SQLite database before the import; empty when none
     bool creata = false; // the database was made for the import
 };
 

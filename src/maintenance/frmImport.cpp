@@ -57,8 +57,8 @@ frmImport::frmImport(BazaDate& bd, Mesaje& m, const QString& folderDate, QWidget
         if (!f.isEmpty()) txtSursa->setText(QDir::toNativeSeparators(f));
     });
     connect(cmdFolder, &QPushButton::clicked, this, [this] {
-        const QString d = QFileDialog::getExistingDirectory(this, QStringLiteral("Folderul cu fisierele .csv"),
-                                                            txtSursa->text());
+        const QString d =
+            QFileDialog::getExistingDirectory(this, QStringLiteral("Folderul cu fisierele .csv"), txtSursa->text());
         if (!d.isEmpty()) txtSursa->setText(QDir::toNativeSeparators(d));
     });
 }

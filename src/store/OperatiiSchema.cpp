@@ -131,7 +131,8 @@ void OperatiiSchema::VerificaReferinte() {
         randuri << QStringLiteral("%1, randul %2: lipseste randul din %3")
                        .arg(q.Valoare(0).toString(), q.Valoare(1).toString(), q.Valoare(2).toString());
     if (!randuri.isEmpty())
-        throw Eroare(QStringLiteral("Randuri care trimit la randuri inexistente:\n%1").arg(randuri.join(QLatin1Char('\n'))));
+        throw Eroare(
+            QStringLiteral("Randuri care trimit la randuri inexistente:\n%1").arg(randuri.join(QLatin1Char('\n'))));
 }
 
 void OperatiiSchema::CreazaRelatie(const RelatieSchema& r) {
