@@ -3,6 +3,7 @@
 #include "base/Bani.h"
 #include "base/Eroare.h"
 #include "base/Mesaje.h"
+#include "base/Texte.h"
 #include "maintenance/Copii.h"
 #include "maintenance/SursaVeche.h"
 #include "store/ActualizareBD.h"
@@ -138,10 +139,15 @@ std::optional<QVariant> Valoare(const CampSchema& c, const QString& text, const 
 }
 
 struct CampImport {
-    int sursa;       // index in the old row
+    int sursa;       // index in the old row; -1: computed from the field at `din`
     CampSchema camp; // as created in the new table
     int latime = 0;  // the text width it has now (0: no limit)
+    int din = -1;    // for a computed field, the index in campuri it is computed from
 };
+
+// The persons' search keys, which the old program never had: written with the rows, one value each,
+// rather than by the upgrade's pass over a database that already holds them, row by row.
+const std::pair<const char*, const char*> CheiCautare[] = {{"NumeCautare", "Nume"}, {"PrenumeCautare", "Prenume"}};
 
 struct PlanTabela {
     QString sursa;              // the old table's name
@@ -287,6 +293,13 @@ private:
             const int latime = c->tip == TipCamp::Text ? (c->marime > 0 ? c->marime : 255) : 0;
             p.campuri.push_back({i, *c, latime});
         }
+        for (const auto& [cheie, din] : CheiCautare) {
+            const CampSchema* c = Schema::Camp(t.nume, QLatin1String(cheie));
+            if (!c || vazute.contains(c->nume.toLower())) continue;
+            for (size_t i = 0; i < p.campuri.size(); ++i)
+                if (p.campuri[i].camp.nume.compare(QLatin1String(din), Qt::CaseInsensitive) == 0)
+                    p.campuri.push_back({-1, *c, c->marime, int(i)});
+        }
         for (const QString& k : t.cheiePrimara) {
             const auto it = std::find_if(p.campuri.begin(), p.campuri.end(), [&](const CampImport& c) {
                 return c.camp.nume.compare(k, Qt::CaseInsensitive) == 0;
@@ -347,6 +360,11 @@ private:
             ++ti.citite;
             QString motiv;
             for (size_t i = 0; i < p.campuri.size() && motiv.isEmpty(); ++i) {
+                if (p.campuri[i].sursa < 0) {
+                    const QString din = rand[size_t(p.campuri[i].din)].toString();
+                    rand[i] = din.isEmpty() ? QVariant() : CheieCautareStocata(din);
+                    continue;
+                }
                 const QString& text = valori[p.campuri[i].sursa];
                 const auto v = Valoare(p.campuri[i].camp, text, db_.dialect());
                 if (!v) {
