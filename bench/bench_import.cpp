@@ -10,11 +10,13 @@
 #include <QFile>
 #include <QSaveFile>
 #include <QTemporaryDir>
+#include <QUrl>
+#include <QUrlQuery>
 #include <benchmark/benchmark.h>
 
 // The import of an old office's database of 100,000 requests from its CSV dumps (as mdb-export writes
-// them), into a new SQLite database: reading, the rows written with their keys, the upgrade's lift, the
-// list keys and the indexes. Budget: under 60 s.
+// them), into a new database: reading, the rows written with their keys, the upgrade's lift, the
+// list keys and the indexes; on PostgreSQL too when FEROLANTA_TEST_PG names a server. Budget: under 60 s.
 //   ferolanta_bench --benchmark_filter=import/
 
 namespace {
@@ -72,7 +74,32 @@ void Exporta(BazaDate& db, const QString& folder) {
     }
 }
 
-void Import(benchmark::State& st, int cereri) {
+// Where an iteration imports: a new SQLite file in a temporary folder, or a schema of its own on the server
+// of FEROLANTA_TEST_PG, dropped afterwards.
+LocatieBD Tinta(Motor m, const QString& folder) {
+    LocatieBD loc{folder, {}};
+    if (m == Motor::PostgreSQL) {
+        QUrl u(qEnvironmentVariable("FEROLANTA_TEST_PG"));
+        QUrlQuery q(u);
+        q.addQueryItem(QStringLiteral("schema"), QStringLiteral("bench_import"));
+        u.setQuery(q);
+        loc.url = u.toString();
+    }
+    return loc;
+}
+
+void StergeSchema(Motor m) {
+    if (m != Motor::PostgreSQL) return;
+    LocatieBD server;
+    server.url = qEnvironmentVariable("FEROLANTA_TEST_PG");
+    BazaDate::Deschide(server)->Executa(QStringLiteral("DROP SCHEMA IF EXISTS bench_import CASCADE"));
+}
+
+void Import(benchmark::State& st, int cereri, Motor motor) {
+    if (motor == Motor::PostgreSQL && qEnvironmentVariableIsEmpty("FEROLANTA_TEST_PG")) {
+        st.SkipWithError("FEROLANTA_TEST_PG is not set");
+        return;
+    }
     QTemporaryDir dump;
     {
         auto demo = BazaDate::Deschide(BazaDemoSQLite(cereri, false));
@@ -82,8 +109,9 @@ void Import(benchmark::State& st, int cereri) {
     for (auto _ : st) {
         st.PauseTiming();
         QTemporaryDir tinta;
+        StergeSchema(motor);
         MesajeTacute m;
-        auto db = DateLivrate::Initializeaza(LocatieBD{tinta.path(), {}}, QStringLiteral(FEROLANTA_SURSA "/data"), m);
+        auto db = DateLivrate::Initializeaza(Tinta(motor, tinta.path()), QStringLiteral(FEROLANTA_SURSA "/data"), m);
         st.ResumeTiming();
         const RaportImport r = ImportaBazaVeche(*db, *sursa, tinta.path());
         st.PauseTiming();
@@ -91,15 +119,19 @@ void Import(benchmark::State& st, int cereri) {
         if (!c || c->importate != cereri) st.SkipWithError("not every request was imported");
         st.counters["refuzate"] = double(r.Refuzate());
         db.reset();
+        StergeSchema(motor);
         st.ResumeTiming();
     }
 }
 
 const bool inregistrate = [] {
-    benchmark::RegisterBenchmark("import/100000", Import, 100000)
-        ->Unit(benchmark::kMillisecond)
-        ->UseRealTime()
-        ->Iterations(1);
+    for (Motor m : {Motor::SQLite, Motor::PostgreSQL})
+        benchmark::RegisterBenchmark(
+            QStringLiteral("import/100000/%1").arg(m == Motor::SQLite ? "SQLite" : "PostgreSQL").toStdString().c_str(),
+            Import, 100000, m)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime()
+            ->Iterations(1);
     return true;
 }();
 
