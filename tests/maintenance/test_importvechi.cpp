@@ -157,6 +157,9 @@ TEST_P(ImportVechi, FormaVecheRidicataLaFormaDeAziCuCheileEi) {
     EXPECT_TRUE(Camp(QStringLiteral("SELECT Data18Ani FROM CereriMembrii WHERE MembruID = ?"), 21).isNull());
     EXPECT_EQ(Lista(QStringLiteral("SELECT MembruID, RudenieID FROM CereriMembrii WHERE CerereID = 5 ORDER BY 1")),
               QStringLiteral("21:1,22:3"));
+    // A text longer than its field today is kept whole (PostgreSQL's field is widened for it).
+    EXPECT_EQ(Camp(QStringLiteral("SELECT Motiv FROM CereriMembrii WHERE MembruID = ?"), 24).toString(),
+              QStringLiteral("casatorie incheiata la primaria Falticeni, act nr 123 din 2011"));
     // A request without a titular is the schema's to hold; it comes as it was, without list keys of a person.
     EXPECT_TRUE(Camp(QStringLiteral("SELECT MembruID1 FROM Cereri WHERE CerereID = ?"), 12).isNull());
     EXPECT_FALSE(Camp(QStringLiteral("SELECT TitularNume FROM Cereri WHERE CerereID = ?"), 5).toString().isEmpty());
