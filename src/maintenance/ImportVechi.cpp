@@ -50,8 +50,9 @@ private:
     QStringList& linii_;
 };
 
-// An old value, as text, turned into what the field holds. nullopt: the text is no such value.
-std::optional<QVariant> Valoare(const CampSchema& c, const QString& text, const Dialect& d) {
+} // namespace
+
+std::optional<QVariant> ValoareVeche(const CampSchema& c, const QString& text, const Dialect& d) {
     if (text.isNull()) return QVariant();
     if (c.tip == TipCamp::Text || c.tip == TipCamp::Memo) return QVariant(text);
     const QStringView t = QStringView(text).trimmed();
@@ -137,6 +138,8 @@ std::optional<QVariant> Valoare(const CampSchema& c, const QString& text, const 
     }
     return QVariant(text);
 }
+
+namespace {
 
 struct CampImport {
     int sursa;       // index in the old row; -1: computed from the field at `din`
@@ -366,7 +369,7 @@ private:
                     continue;
                 }
                 const QString& text = valori[p.campuri[i].sursa];
-                const auto v = Valoare(p.campuri[i].camp, text, db_.dialect());
+                const auto v = ValoareVeche(p.campuri[i].camp, text, db_.dialect());
                 if (!v) {
                     motiv =
                         QStringLiteral("%1 = \"%2\" nu este o valoare a campului").arg(p.campuri[i].camp.nume, text);
@@ -383,7 +386,7 @@ private:
                                 .arg(p.campuri[size_t(i)].camp.nume, v.toString(), r->tabela);
             }
             if (!motiv.isEmpty()) {
-                ti.refuzate.push_back({locRand(*tabela, p, rand), motiv});
+                ti.refuzate.push_back({locRand(*tabela, p, valori), motiv});
                 continue;
             }
             for (const auto& [i, set] : pastrate)
@@ -417,10 +420,12 @@ private:
         return {};
     }
 
-    static QString locRand(const TabelaVeche& t, const PlanTabela& p, const std::vector<QVariant>& rand) {
+    // Where a refused row stands, with its key as the file has it (a value that failed may come before it).
+    static QString locRand(const TabelaVeche& t, const PlanTabela& p, const QStringList& valori) {
         QStringList chei;
         for (int j : p.cheie)
-            chei << QStringLiteral("%1=%2").arg(p.campuri[size_t(j)].camp.nume, rand[size_t(j)].toString());
+            chei << QStringLiteral("%1=%2").arg(p.campuri[size_t(j)].camp.nume,
+                                                valori.value(p.campuri[size_t(j)].sursa).trimmed());
         return chei.isEmpty() ? t.Loc() : QStringLiteral("%1 (%2)").arg(t.Loc(), chei.join(QStringLiteral(", ")));
     }
 

@@ -2,11 +2,15 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 #include <functional>
+#include <optional>
 #include <vector>
 
 class BazaDate;
+class Dialect;
 class SursaVeche;
+struct CampSchema;
 struct LocatieBD;
 
 // The import of an office's old database, of any earlier shape: each table the program knows is
@@ -43,6 +47,11 @@ struct RaportImport {
 
 // Work done and work in all, in the same unit; called often enough to keep a window painted.
 using ProgresImport = std::function<void(qint64 facute, qint64 total)>;
+
+// An old value as the export writes it, turned into what the field holds: Jet's -1 and the words for
+// true, the zero date 1899-12-30 for no date, amounts with a point or a comma. A null text is no value;
+// nullopt when the text is no value of the field (or one the engine can't hold).
+std::optional<QVariant> ValoareVeche(const CampSchema& c, const QString& text, const Dialect& d);
 
 // Whether the database already holds requests: such a database takes no import.
 bool AreCereri(BazaDate& db);

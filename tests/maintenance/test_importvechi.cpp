@@ -3,6 +3,7 @@
 #include "maintenance/ImportVechi.h"
 #include "maintenance/SursaVeche.h"
 #include "store/OperatiiSchema.h"
+#include "store/Schema.h"
 #include "support/BazaTest.h"
 
 #include <QFile>
@@ -62,6 +63,57 @@ TEST(CitireCsv, Windows1250CuSedilaRamaneCumAFostScris) {
     // ş ţ Ş Ţ in the code page are the cedilla letters; UTF-8 text keeps its comma-below ones.
     EXPECT_EQ(TextCsv(QByteArray("\xBA\xFE\xAA\xDE")), QString::fromUtf16(u"\u015F\u0163\u015E\u0162"));
     EXPECT_EQ(TextCsv(QByteArray("\xEF\xBB\xBF\xC8\x99")), QString::fromUtf16(u"\u0219"));
+}
+
+struct CazValoare {
+    TipCamp tip;
+    const char* text;  // nullptr: no value in the file
+    QVariant asteptat; // null: no value; invalid: refused
+};
+
+TEST(ValoareVeche, CaInFisiereleVechi) {
+    const QVariant refuzat;
+    const std::vector<CazValoare> cazuri = {
+        {TipCamp::Boolean, "-1", 1},
+        {TipCamp::Boolean, "1", 1},
+        {TipCamp::Boolean, "True", 1},
+        {TipCamp::Boolean, "0", 0},
+        {TipCamp::Boolean, "poate", refuzat},
+        {TipCamp::Data, "1899-12-30 00:00:00", QVariant(QMetaType::fromType<QDate>())},
+        {TipCamp::Data, "2012-03-01 00:00:00", QDate(2012, 3, 1)},
+        {TipCamp::Data, "03/01/12 00:00:00", QDate(2012, 3, 1)},
+        {TipCamp::Data, "12/31/99 00:00:00", QDate(1999, 12, 31)},
+        {TipCamp::Data, "2012-02-30 00:00:00", refuzat},
+        {TipCamp::Data, "", QVariant(QMetaType::fromType<QDate>())},
+        {TipCamp::Currency, "350.5000", QVariant::fromValue(*Bani::DinText(u"350.5"))},
+        {TipCamp::Currency, "-12,25", QVariant::fromValue(*Bani::DinText(u"-12.25"))},
+        {TipCamp::Currency, "lei", refuzat},
+        {TipCamp::Integer, " 42 ", qint64(42)},
+        {TipCamp::Integer, "3.0", qint64(3)},
+        {TipCamp::Integer, "3.5", refuzat},
+        {TipCamp::Integer, "4294967296", refuzat},
+        {TipCamp::Cheie, "4294967296", qint64(4294967296)},
+        {TipCamp::Text, " cu blancuri ", QStringLiteral(" cu blancuri ")},
+        {TipCamp::Text, "", QString::fromLatin1("")},
+        {TipCamp::Text, nullptr, QVariant(QMetaType::fromType<QString>())},
+    };
+    const Dialect d(Motor::PostgreSQL);
+    for (const auto& c : cazuri) {
+        const QString text = c.text ? QString::fromUtf8(c.text) : QString();
+        const auto v = ValoareVeche(CampSchema{QStringLiteral("X"), c.tip, 50}, text, d);
+        const std::string caz = c.text ? c.text : "(nimic)";
+        if (!c.asteptat.isValid()) {
+            EXPECT_FALSE(v.has_value()) << caz;
+            continue;
+        }
+        ASSERT_TRUE(v.has_value()) << caz;
+        EXPECT_EQ(v->isNull(), c.asteptat.isNull()) << caz;
+        if (c.asteptat.isNull()) continue;
+        if (c.tip == TipCamp::Currency)
+            EXPECT_EQ(Bani::DinVariant(*v), Bani::DinVariant(c.asteptat)) << caz;
+        else
+            EXPECT_EQ(v->toString(), c.asteptat.toString()) << caz;
+    }
 }
 
 TEST(CitireMdb, TabeleleSiValorileUnuiFisierJet) {
