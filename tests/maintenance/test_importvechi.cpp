@@ -273,6 +273,11 @@ TEST_P(ImportVechi, NimicNuRamaneDupaUnImportEsuat) {
     const qint64 dateGen = Numar(QStringLiteral("SELECT COUNT(*) FROM DateGen"));
     SursaCuEsec sursa(DeschideSursaVeche(Date(QStringLiteral("veche"))), QStringLiteral("Membrii"));
     EXPECT_THROW(ImportaBazaVeche(Bd(), sursa, Locatie().caleBD), Eroare);
+    // A failure of the upgrade, after every row is in: the goods catalogue of the old file has too few
+    // rows and there is no catalogue file to reload it from.
+    QTemporaryDir faraCataloage;
+    auto veche = DeschideSursaVeche(Date(QStringLiteral("veche")));
+    EXPECT_THROW(ImportaBazaVeche(Bd(), *veche, faraCataloage.path()), Eroare);
     // An Access file of something else is no database of the program.
     auto strain = DeschideSursaVeche(Date(QStringLiteral("fruit.mdb")));
     EXPECT_THROW(ImportaBazaVeche(Bd(), *strain, Locatie().caleBD), Eroare);
