@@ -5,7 +5,7 @@ PACHETE=(
     cmake g++ make pkg-config
     qt6-base-dev libqt6sql6-sqlite libqt6sql6-psql libgl-dev
     libsimpleini-dev libsodium-dev libsqlite3-dev libpq-dev
-    libxlsxwriter-dev libzip-dev
+    libxlsxwriter-dev libzip-dev mdbtools-dev
     fonts-liberation2
     libgtest-dev libgmock-dev libbenchmark-dev
     postgresql sqlite3 xvfb xauth

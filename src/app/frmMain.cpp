@@ -5,6 +5,7 @@
 #include "app/frmOptiuni.h"
 #include "app/frmParola.h"
 #include "base/Ceas.h"
+#include "base/Foldere.h"
 #include "base/Mesaje.h"
 #include "base/Setari.h"
 #include "base/Texte.h"
@@ -17,6 +18,7 @@
 #include "maintenance/FisiereWeb.h"
 #include "maintenance/frmUpdateLog.h"
 #include "maintenance/frmMentenanta.h"
+#include "maintenance/frmImport.h"
 #include "reference/LunaLucru.h"
 #include "reference/frmBaremBun.h"
 #include "reference/frmChLunaAn.h"
@@ -369,6 +371,13 @@ void frmMain::construiesteMeniurile() {
     connect(mnuToateDisp, &QAction::triggered, this, &frmMain::mnuToateDisp_Click);
     mnuAnexa2 = meniu(baza, "mnuAnexa2", TextTiparire::MnuAnexa2, true);
     connect(mnuAnexa2, &QAction::triggered, this, &frmMain::mnuAnexa2_Click);
+    connect(meniu(baza, "mnuImport", QStringLiteral("Import baza de date veche..."), true), &QAction::triggered, this,
+            [this] {
+                frmImport f(p_.bd, m_, QDir(Foldere::FolderLivrat()).filePath(QStringLiteral("data")), this);
+                ArataModal(f);
+                // The imported office's streets, statuses and requests, as at start.
+                if (f.Importat()) Form_Load();
+            });
 
     QMenu* rapoarte = meniuPrincipal("mnuRapoarte", QStringLiteral("Rapoarte"));
     connect(meniu(rapoarte, "mnuFisa", QStringLiteral("Fisa de calcul ..."), true), &QAction::triggered, this,

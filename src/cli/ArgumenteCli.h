@@ -66,6 +66,7 @@ int ComandaCopie(const QCommandLineParser& p, QTextStream& out);
 int ComandaIstoric(const QCommandLineParser& p, const QString& nrText, QTextStream& out);
 int ComandaRestaurare(const QCommandLineParser& p, const QString& copie, QTextStream& out);
 int ComandaMentenanta(const QCommandLineParser& p, const QString& unealta, QTextStream& out);
+int ComandaImport(const QCommandLineParser& p, const QString& cale, QTextStream& out);
 int ComandaWeb(const QCommandLineParser& p, const QString& document, const QString& idText, QTextStream& out,
                QTextStream& err);
 

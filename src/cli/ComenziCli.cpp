@@ -23,7 +23,7 @@ const QString Utilizare =
                    "borderou --raport I --aloc J --out FISIER [--foaie] [--ord1 I] [--ord2 I] [--luna L --an A]|"
                    "bas {a23|a25} --out FISIER.ods|isr VALOARE|istoric NR|"
                    "mentenanta {datastare [--suprascrie]|stare|rudenie|acte|bife|cereri2014 [--data-veche]} [--da] "
-                   "[--luna L --an A]|copie|restaurare COPIE} "
+                   "[--luna L --an A]|copie|restaurare COPIE|import {FISIER.mdb|FOLDER}} "
                    "[--dir DIR] "
                    "[--db postgresql://...]");
 
@@ -99,7 +99,7 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
     p.addOption({QStringLiteral("data-veche"), QStringLiteral("mentenanta cereri2014: pastreaza DataCerere")});
     p.addPositionalArgument(QStringLiteral("comanda"),
                             QStringLiteral("init, upgrade, demo, cuantum, document, web, cauta, raport, borderou, bas, "
-                                           "isr, istoric, mentenanta, copie, restaurare"));
+                                           "isr, istoric, mentenanta, copie, restaurare, import"));
     try {
         if (!p.parse(argumente)) throw EroareArgumente{p.errorText()};
         const QStringList poz = p.positionalArguments();
@@ -115,6 +115,9 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         const bool cuIstoric = comanda == QLatin1String("istoric");
         const bool cuMentenanta = comanda == QLatin1String("mentenanta");
         const bool cuRestaurare = comanda == QLatin1String("restaurare");
+        const bool cuImport = comanda == QLatin1String("import");
+        if (cuImport && poz.size() == 1)
+            throw EroareArgumente{QStringLiteral("lipseste fisierul .mdb sau folderul cu fisiere .csv de importat")};
         if (cuRestaurare && poz.size() == 1) throw EroareArgumente{QStringLiteral("lipseste copia de pus inapoi")};
         if (cuMentenanta && poz.size() == 1)
             throw EroareArgumente{
@@ -129,7 +132,8 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (cuWeb && poz.size() == 1)
             throw EroareArgumente{QStringLiteral("lipseste documentul: cerere, cerere_1a sau ancheta")};
         if (cuWeb && poz.size() == 2) throw EroareArgumente{QStringLiteral("lipseste ID-ul cererii")};
-        const bool cuArgument = cuCerere || cuRaport || cuBas || cuIsr || cuIstoric || cuMentenanta || cuRestaurare;
+        const bool cuArgument =
+            cuCerere || cuRaport || cuBas || cuIsr || cuIstoric || cuMentenanta || cuRestaurare || cuImport;
         if (poz.size() != (cuDocument || cuWeb ? 3 : cuArgument ? 2 : 1))
             throw EroareArgumente{QStringLiteral("prea multe argumente")};
         if (!cuDocument && (p.isSet(QStringLiteral("sablon")) || p.isSet(QStringLiteral("data"))))
@@ -181,6 +185,7 @@ int RuleazaCli(const QStringList& argumente, QTextStream& out, QTextStream& err)
         if (cuMentenanta) return ComandaMentenanta(p, poz[1], out);
         if (comanda == QLatin1String("copie")) return ComandaCopie(p, out);
         if (cuRestaurare) return ComandaRestaurare(p, poz[1], out);
+        if (cuImport) return ComandaImport(p, poz[1], out);
         throw EroareArgumente{QStringLiteral("comanda necunoscuta: %1").arg(comanda)};
     } catch (const EroareArgumente& e) {
         err << e.text << ". " << Utilizare << Qt::endl;

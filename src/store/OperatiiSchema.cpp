@@ -107,6 +107,34 @@ void OperatiiSchema::RedenumesteTabela(const QString& tabela, const QString& num
     db_.Executa(QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(tabela, numeNou));
 }
 
+void OperatiiSchema::StergeTabela(const QString& tabela) {
+    uita(tabela);
+    db_.Executa(QStringLiteral("DROP TABLE IF EXISTS %1%2")
+                    .arg(tabela, db_.dialect().EsteSQLite() ? QString() : QStringLiteral(" CASCADE")));
+}
+
+void OperatiiSchema::LargesteText(const QString& tabela, const QString& camp, int marime) {
+    if (db_.dialect().EsteSQLite()) return;
+    db_.Executa(QStringLiteral("ALTER TABLE %1 ALTER COLUMN %2 TYPE %3")
+                    .arg(tabela, camp, db_.dialect().TipSql(TipCamp::Text, marime)));
+}
+
+void OperatiiSchema::VerificaReferinte() {
+    if (!db_.dialect().EsteSQLite()) {
+        db_.Executa(QStringLiteral("SET CONSTRAINTS ALL IMMEDIATE"));
+        return;
+    }
+    Interogare q(db_, QStringLiteral("SELECT \"table\", rowid, parent FROM pragma_foreign_key_check LIMIT 10"));
+    q.Executa();
+    QStringList randuri;
+    while (q.Urmator())
+        randuri << QStringLiteral("%1, randul %2: lipseste randul din %3")
+                       .arg(q.Valoare(0).toString(), q.Valoare(1).toString(), q.Valoare(2).toString());
+    if (!randuri.isEmpty())
+        throw Eroare(
+            QStringLiteral("Randuri care trimit la randuri inexistente:\n%1").arg(randuri.join(QLatin1Char('\n'))));
+}
+
 void OperatiiSchema::CreazaRelatie(const RelatieSchema& r) {
     uita(r.tabelaStraina);
     if (db_.dialect().EsteSQLite())

@@ -29,6 +29,14 @@ public:
     void StergeCamp(const QString& tabela, const QString& camp);
     void RedenumesteCamp(const QString& tabela, const QString& camp, const QString& numeNou);
     void RedenumesteTabela(const QString& tabela, const QString& numeNou);
+    // Drops the table and its indexes; on PostgreSQL also the references other tables hold to it.
+    void StergeTabela(const QString& tabela);
+    // A text field made wide enough for `marime` characters (SQLite's texts have no width).
+    void LargesteText(const QString& tabela, const QString& camp, int marime);
+    // The references written so far checked now, not at commit, so that the tables can be changed after
+    // rows were written (PostgreSQL refuses it while checks are pending). Throws Eroare naming the rows
+    // whose parent is missing.
+    void VerificaReferinte();
     // Adds the cascading reference to an existing field. Throws when the engine can't (SQLite
     // declares references only with the field) or the rows already break it.
     void CreazaRelatie(const RelatieSchema& r);

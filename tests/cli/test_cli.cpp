@@ -256,6 +256,16 @@ TEST_P(Cli, MentenantaNumaraApoiSchimba) {
     EXPECT_TRUE(luna.out.contains(T("Seteaza luna si an corect!"))) << luna.out.toStdString();
 }
 
+// The import into the new database prints its report, refused rows included; a second one is refused.
+TEST_P(Cli, ImportApoiRefuzatInBazaCuCereri) {
+    const IesireCli r = Ruleaza(T("import " FEROLANTA_TESTE_DATE "/import/veche"));
+    EXPECT_EQ(r.cod, 0) << r.err.toStdString();
+    EXPECT_TRUE(r.out.contains(T("CerereID=99"))) << r.out.toStdString();
+    const IesireCli a = Ruleaza(T("import " FEROLANTA_TESTE_DATE "/import/noua"));
+    EXPECT_EQ(a.cod, 1);
+    EXPECT_FALSE(a.err.isEmpty());
+}
+
 // Each wrong command line gives code 2, one line of usage on the error stream, nothing on the
 // other, and creates nothing in the folder it names (DIR).
 TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
@@ -283,7 +293,8 @@ TEST(CliArgumente, ArgumenteGresiteDauCodul2SiUnRand) {
         "mentenanta stare acte --dir DIR", "mentenanta stare --suprascrie --dir DIR", "cauta --da",
         "mentenanta acte --data-veche --dir DIR", "mentenanta datastare --luna 3 --dir DIR",
         "copie x --dir DIR", "restaurare --dir DIR", "restaurare a b --dir DIR", "copie --out x.db", "istoric",
-        "istoric x --dir DIR", "istoric 5 6 --dir DIR", "istoric 5 --luna 3 --dir DIR"};
+        "istoric x --dir DIR", "istoric 5 6 --dir DIR", "istoric 5 --luna 3 --dir DIR", "import --dir DIR",
+        "import a b --dir DIR", "import a --luna 3 --dir DIR"};
     // clang-format on
     QTemporaryDir dir;
     for (const char* linie : linii) {

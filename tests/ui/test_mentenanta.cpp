@@ -1,4 +1,5 @@
 #include "maintenance/Copii.h"
+#include "maintenance/frmImport.h"
 #include "maintenance/frmMentenanta.h"
 #include "maintenance/frmRestaurare.h"
 #include "reference/frmAddLuna.h"
@@ -10,6 +11,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTreeWidget>
 
@@ -120,6 +122,32 @@ TEST_P(Ferestre, Restaurare) {
     f.cmdRestaureaza->click();
     EXPECT_EQ(f.Aleasa, noua);
     EXPECT_EQ(f.result(), QDialog::Accepted);
+}
+
+// The import: without a source it keeps the dialog open on the source box; into a database holding
+// requests it is refused with the error shown; into one without, it imports and shows its report.
+TEST_P(Ferestre, Import) {
+    frmImport f(Bd(), mesaje, FolderDate());
+    Activa(f);
+    f.cmdOK->click();
+    EXPECT_TRUE(f.txtSursa->hasFocus());
+    EXPECT_EQ(mesaje.Texte().size(), 1);
+
+    f.txtSursa->setText(QStringLiteral(FEROLANTA_TESTE_DATE "/import/noua"));
+    mesaje.mesaje.clear();
+    f.cmdOK->click();
+    EXPECT_FALSE(mesaje.Texte(Mesaje::Fel::Critic).isEmpty()) << mesaje.Texte().join(u'|').toStdString();
+    EXPECT_FALSE(f.Importat());
+    EXPECT_TRUE(f.isVisible());
+    EXPECT_TRUE(f.cmdOK->isEnabled());
+
+    ExecutaCu(Bd(), QStringLiteral("DELETE FROM Cereri"));
+    mesaje.mesaje.clear();
+    f.cmdOK->click();
+    EXPECT_TRUE(f.Importat()) << mesaje.Texte().join(u'|').toStdString();
+    EXPECT_EQ(Numar(QStringLiteral("SELECT COUNT(*) FROM Cereri")), 2);
+    EXPECT_TRUE(f.txtRaport->toPlainText().contains(QStringLiteral("Adeverinte")));
+    EXPECT_TRUE(f.isVisible());
 }
 
 PE_AMBELE_MOTOARE(Ferestre);
