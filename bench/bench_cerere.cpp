@@ -7,6 +7,7 @@
 #include "store/Schema.h"
 
 #include <benchmark/benchmark.h>
+#include <optional>
 
 // The request editor on the demo databases of 100,000 and 1,000,000 requests (SQLite): opening a
 // stored request, and saving a case file of eight persons with their certificates, as a new request
@@ -112,21 +113,29 @@ void SalveazaCerereNoua(benchmark::State& st, int Cereri) {
     }
 }
 
+// A family of eight saved once and read back as the editor holds it, for the saves that follow.
+std::optional<CerereIncarcata> CerereSalvata(BazaDate& db, qint64 nr, const OptiuniSalvare& o, Mesaje& m) {
+    DateCerere d;
+    StareCerere s;
+    FamilieDeOpt(d, s, nr);
+    const RezultatSalvare r = SalveazaCerere(db, d, s, {}, o, m);
+    CerereIncarcata c = IncarcaCerere(db, r.CerereID, o.LunaSetata, o.AnSetat, m);
+    if (!c.Gasita) return std::nullopt;
+    return c;
+}
+
 void SalveazaCerereModificata(benchmark::State& st, int Cereri) {
     auto db = BazaDate::Deschide(BazaDemoSQLite(Cereri, true));
     MesajeTacute m;
     OptiuniSalvare o;
     o.LunaSetata = 6;
     o.AnSetat = 2025;
-    DateCerere d;
-    StareCerere s;
-    FamilieDeOpt(d, s, 777777);
-    const RezultatSalvare r = SalveazaCerere(*db, d, s, {}, o, m);
-    CerereIncarcata c = IncarcaCerere(*db, r.CerereID, 6, 2025, m);
-    if (!c.Gasita) {
+    auto salvata = CerereSalvata(*db, 777777, o, m);
+    if (!salvata) {
         st.SkipWithError("cererea salvata nu se gaseste");
         return;
     }
+    CerereIncarcata& c = *salvata;
     int runda = 0;
     for (auto _ : st) {
         (*c.Stare.MatriceMembri)[0].Venit = Bani::DinLei(++runda % 1000);
@@ -149,15 +158,12 @@ void SalveazaCerereTelefon(benchmark::State& st, int Cereri, bool faraRand) {
     OptiuniSalvare o;
     o.LunaSetata = 6;
     o.AnSetat = 2025;
-    DateCerere d;
-    StareCerere s;
-    FamilieDeOpt(d, s, 777778);
-    const RezultatSalvare r = SalveazaCerere(*db, d, s, {}, o, m);
-    CerereIncarcata c = IncarcaCerere(*db, r.CerereID, 6, 2025, m);
-    if (!c.Gasita) {
+    auto salvata = CerereSalvata(*db, 777778, o, m);
+    if (!salvata) {
         st.SkipWithError("cererea salvata nu se gaseste");
         return;
     }
+    CerereIncarcata& c = *salvata;
     int runda = 0;
     for (auto _ : st) {
         (*c.Stare.MatriceMembri)[0].Venit = Bani::DinLei(++runda % 1000);
