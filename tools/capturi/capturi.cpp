@@ -27,7 +27,9 @@
 #include "cases/frmMembrii.h"
 #include "maintenance/Demo.h"
 #include "reference/DateReferinta.h"
+#include "cases/Istoric.h"
 #include "maintenance/Copii.h"
+#include "maintenance/frmImport.h"
 #include "maintenance/frmMentenanta.h"
 #include "maintenance/frmRestaurare.h"
 #include "reference/frmBaremBun.h"
@@ -169,8 +171,18 @@ int main(int argc, char** argv) {
         frmRestaurare f(loc, m);
         captura(f, "frmRestaurare");
     }
+    Istoric::ScrieSchimbari(*db, cerere, {}, FelSchimbare::Modificare, QStringLiteral("Cerere modificata"),
+                            {{QStringLiteral("Stare"), QStringLiteral("1"), QStringLiteral("2")},
+                             {QStringLiteral("VenitTotal"), QStringLiteral("754.90"), QStringLiteral("812.40")}});
     frmAddCerere editor(*db, setari, m, DeschidereCerere{2, cerere});
     captura(editor, "frmAddCerere");
+    editor.tabCerere->setCurrentIndex(editor.tabCerere->count() - 1);
+    captura(editor, "frmAddCerere-istoric");
+    editor.tabCerere->setCurrentIndex(0);
+    {
+        frmImport f(*db, m, QDir(Foldere::FolderLivrat()).filePath(QStringLiteral("data")));
+        captura(f, "frmImport");
+    }
     StareCerere& stare = *editor.Stare();
     if (stare.MatriceMembri && !stare.MatriceMembri->empty()) {
         frmAddMembru f(*db, m, stare, ContextPersoana{2, 0, setari.LunaSetata, setari.AnSetat});
