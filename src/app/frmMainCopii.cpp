@@ -42,37 +42,42 @@ void frmMain::PornesteCopiaZilei() {
     if (Copii::DeFacutLaPornire(p_.bd.locatie(), QDate::currentDate())) pornesteCopia(QStringLiteral("a zilei"));
 }
 
-void frmMain::CopieDeSiguranta(const QString& motiv) {
-    CopieInFundal* c = pornesteCopia(motiv);
-    QProgressDialog d(QStringLiteral("Copie de siguranta a bazei de date %1...").arg(motiv), QString(), 0, 100, this);
+namespace {
+
+// Waits, with its progress in a window, until the copy sends `pana` (its pages written) or, without one,
+// until it ends.
+void AsteaptaCopia(CopieInFundal* c, const QString& text, void (CopieInFundal::*pana)(const QString&),
+                   QWidget* parinte) {
+    QProgressDialog d(text, QString(), 0, 100, parinte);
     d.setWindowTitle(QStringLiteral("Copie de siguranta"));
     d.setWindowModality(Qt::WindowModal);
     d.setMinimumDuration(300);
     QEventLoop bucla;
-    connect(c, &CopieInFundal::progres, &d, &QProgressDialog::setValue);
-    connect(c, &CopieInFundal::copiata, &bucla, &QEventLoop::quit);
-    connect(c, &CopieInFundal::gata, &bucla, &QEventLoop::quit);
+    QObject::connect(c, &CopieInFundal::progres, &d, &QProgressDialog::setValue);
+    if (pana) QObject::connect(c, pana, &bucla, &QEventLoop::quit);
+    QObject::connect(c, &CopieInFundal::gata, &bucla, &QEventLoop::quit);
     bucla.exec();
+}
+
+} // namespace
+
+void frmMain::CopieDeSiguranta(const QString& motiv) {
+    AsteaptaCopia(pornesteCopia(motiv), QStringLiteral("Copie de siguranta a bazei de date %1...").arg(motiv),
+                  &CopieInFundal::copiata, this);
 }
 
 void frmMain::mnuCopie_Click() {
     CopieInFundal* c = pornesteCopia(QStringLiteral("ceruta"));
     QString fisier, eroare;
-    QProgressDialog d(QStringLiteral("Copia bazei de date se face si se verifica..."), QString(), 0, 100, this);
-    d.setWindowTitle(QStringLiteral("Copie de siguranta"));
-    d.setWindowModality(Qt::WindowModal);
-    d.setMinimumDuration(300);
-    QEventLoop bucla;
-    connect(c, &CopieInFundal::progres, &d, &QProgressDialog::setValue);
-    connect(c, &CopieInFundal::gata, &bucla, [&](const QString& f, const QString& e) {
+    connect(c, &CopieInFundal::gata, this, [&](const QString& f, const QString& e) {
         fisier = f;
         eroare = e;
-        bucla.quit();
     });
-    bucla.exec();
-    d.reset();
+    // The check is waited for too: the clerk asked for a copy that can be relied on.
+    AsteaptaCopia(c, QStringLiteral("Copia bazei de date se face si se verifica..."), nullptr, this);
     if (eroare.isEmpty())
-        m_.Informatie(QStringLiteral("Copia bazei de date a fost facuta si verificata:\n%1").arg(QDir::toNativeSeparators(fisier)));
+        m_.Informatie(
+            QStringLiteral("Copia bazei de date a fost facuta si verificata:\n%1").arg(QDir::toNativeSeparators(fisier)));
     else
         m_.Avertisment(eroare);
 }

@@ -245,20 +245,25 @@ void Istoric::StergereRand(BazaDate& db, const QString& tabela, const QString& c
     Scrie(db, {cerereID, {}, FelSchimbare::Stergere, text, text});
 }
 
-std::vector<RandIstoric> Istoric::Lista(BazaDate& db, qint64 cerereID) {
-    Interogare q(db, CampuriLista +
-                         QStringLiteral("CerereID = ? OR (CerereID IS NULL AND NrCerere = "
-                                        "(SELECT NrCerere FROM Cereri WHERE CerereID = ?))") +
-                         OrdineLista);
-    q.Leaga(cerereID).Leaga(cerereID);
+namespace {
+// The rows meeting `conditie`, which binds the same key twice, newest first.
+std::vector<RandIstoric> Listeaza(BazaDate& db, const QString& conditie, qint64 cheie) {
+    Interogare q(db, CampuriLista + conditie + OrdineLista);
+    q.Leaga(cheie).Leaga(cheie);
     return Citeste(q);
+}
+} // namespace
+
+std::vector<RandIstoric> Istoric::Lista(BazaDate& db, qint64 cerereID) {
+    return Listeaza(db,
+                    QStringLiteral("CerereID = ? OR (CerereID IS NULL AND NrCerere = "
+                                   "(SELECT NrCerere FROM Cereri WHERE CerereID = ?))"),
+                    cerereID);
 }
 
 std::vector<RandIstoric> Istoric::ListaNumar(BazaDate& db, qint64 nrCerere) {
-    Interogare q(db, CampuriLista +
-                         QStringLiteral("(CerereID IS NULL AND NrCerere = ?) OR CerereID IN "
-                                        "(SELECT CerereID FROM Cereri WHERE NrCerere = ?)") +
-                         OrdineLista);
-    q.Leaga(nrCerere).Leaga(nrCerere);
-    return Citeste(q);
+    return Listeaza(db,
+                    QStringLiteral("(CerereID IS NULL AND NrCerere = ?) OR CerereID IN "
+                                   "(SELECT CerereID FROM Cereri WHERE NrCerere = ?)"),
+                    nrCerere);
 }

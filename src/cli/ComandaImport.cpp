@@ -18,7 +18,6 @@ int ComandaImport(const QCommandLineParser& p, const QString& cale, QTextStream&
                                                   out << procent << "%" << Qt::endl;
                                               });
     if (r.creata) out << "Baza de date a fost creata: " << loc.Descriere() << Qt::endl;
-    if (!r.copie.isEmpty()) out << "Copie a bazei de date dinainte: " << QDir::toNativeSeparators(r.copie) << Qt::endl;
     for (const QString& linie : r.raport.Linii())
         out << linie << Qt::endl;
     out << "Importul s-a incheiat: " << loc.Descriere() << Qt::endl;

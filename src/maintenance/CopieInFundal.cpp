@@ -35,9 +35,3 @@ void CopieInFundal::Porneste() {
     }));
     fir_->start(QThread::LowPriority);
 }
-
-namespace Copii {
-bool DeFacutLaPornire(const LocatieBD& loc, const QDate& azi) {
-    return !loc.EstePostgreSQL() && !AreCopiaZilei(loc, azi);
-}
-} // namespace Copii

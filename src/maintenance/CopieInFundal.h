@@ -33,8 +33,3 @@ private:
     std::atomic<bool> opreste_ = false;
     std::unique_ptr<QThread> fir_;
 };
-
-namespace Copii {
-// The first start of a day copies an SQLite database (PostgreSQL keeps its copies by its own means).
-bool DeFacutLaPornire(const LocatieBD& loc, const QDate& azi);
-} // namespace Copii

@@ -224,6 +224,10 @@ bool AreCopiaZilei(const LocatieBD& loc, const QDate& zi) {
     return std::any_of(f.begin(), f.end(), [](const QString& n) { return FormatNume.match(n).hasMatch(); });
 }
 
+bool DeFacutLaPornire(const LocatieBD& loc, const QDate& azi) {
+    return !loc.EstePostgreSQL() && !AreCopiaZilei(loc, azi);
+}
+
 std::vector<CopieGasita> Lista(const LocatieBD& loc) {
     static const QRegularExpression oricare(QStringLiteral("^(?:Ferolanta|Inainte-de-restaurare)-(\\d{8}-\\d{6})\\.(db|dump)$"));
     const QDir folder(QDir(loc.caleBD).filePath(NumeFolder));

@@ -34,8 +34,10 @@ QString FaCopie(const LocatieBD& loc, const QDateTime& acum = QDateTime::current
 QString Copiaza(const LocatieBD& loc, const QDateTime& acum, const Progres& progres = {});
 void VerificaSiRoteste(const QString& copie, const Progres& progres = {});
 
-// Whether a copy was already made on that day (the first start of each day makes one).
+// Whether a copy was already made on that day.
 bool AreCopiaZilei(const LocatieBD& loc, const QDate& zi);
+// The first start of a day copies an SQLite database (PostgreSQL keeps its copies by its own means).
+bool DeFacutLaPornire(const LocatieBD& loc, const QDate& azi);
 
 struct CopieGasita {
     QString fisier;

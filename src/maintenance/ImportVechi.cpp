@@ -4,10 +4,10 @@
 #include "base/Eroare.h"
 #include "base/Mesaje.h"
 #include "base/Texte.h"
-#include "maintenance/Copii.h"
 #include "maintenance/SursaVeche.h"
 #include "store/ActualizareBD.h"
 #include "store/BazaDate.h"
+#include "store/CopieInainte.h"
 #include "store/DateLivrate.h"
 #include "store/InserareInLot.h"
 #include "store/LucruMare.h"
@@ -532,7 +532,7 @@ RezultatImport ImportaInBaza(BazaDate& db, const QString& cale, const QString& f
         throw Eroare(QStringLiteral("Baza de date %1 contine deja cereri. Importul se face doar intr-o baza de "
                                     "date fara cereri.")
                          .arg(db.locatie().Descriere()));
-    if (db.dialect().EsteSQLite()) r.copie = Copii::FaCopie(db.locatie());
+    CopieInainte::Fa(db, QStringLiteral("inainte de import"));
     DateLivrate::CopiazaCataloage(folderDate, db.locatie().caleBD);
     r.raport = ImportaBazaVeche(db, *sursa, db.locatie().caleBD, progres);
     return r;

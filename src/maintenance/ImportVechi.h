@@ -64,12 +64,11 @@ RaportImport ImportaBazaVeche(BazaDate& db, SursaVeche& sursa, const QString& ca
 
 struct RezultatImport {
     RaportImport raport;
-    QString copie;       // the copy taken of the SQLite database before the import; empty when none
     bool creata = false; // the database was made for the import
 };
 
-// The import of the file or CSV folder `cale` into the open database, after a copy of it when it is an
-// SQLite file; the catalogue files the upgrade reads are copied beside it from folderDate when missing.
+// The import of the file or CSV folder `cale` into the open database, after a copy of it as before every
+// tool that rewrites many rows; the catalogue files the upgrade reads are copied beside it from folderDate when missing.
 RezultatImport ImportaInBaza(BazaDate& db, const QString& cale, const QString& folderDate,
                              const ProgresImport& progres = {});
 

@@ -96,10 +96,6 @@ void frmImport::cmdOK_Click() {
         return;
     }
     importat_ = true;
-    QStringList linii;
-    if (!r.copie.isEmpty())
-        linii << QStringLiteral("Copie a bazei de date dinainte: %1").arg(QDir::toNativeSeparators(r.copie));
-    linii << r.raport.Linii();
-    txtRaport->setPlainText(linii.join(QLatin1Char('\n')));
+    txtRaport->setPlainText(r.raport.Linii().join(QLatin1Char('\n')));
     m_.Informatie(QStringLiteral("Importul s-a incheiat. Randuri refuzate: %1.").arg(r.raport.Refuzate()));
 }
