@@ -46,17 +46,25 @@ QString Doua(int n) {
     return t.size() == 2 ? t : QString();
 }
 
-QString FormatData(const QDate& data) {
-    if (!data.isValid()) return {};
+DataScrisa::DataScrisa(const QDate& data) {
+    if (!data.isValid()) return;
     int z = 0, l = 0, a = 0;
     data.getDate(&a, &l, &z);
-    // Lists of a million rows format as many dates: digits by hand rather than through the locale.
-    if (a < 1 || a > 9999) return data.toString(QStringLiteral("dd.MM.yyyy"));
+    // Digits by hand rather than through the locale.
+    if (a < 1 || a > 9999) {
+        lunga_ = data.toString(QStringLiteral("dd.MM.yyyy"));
+        return;
+    }
     const char16_t t[10] = {char16_t(u'0' + z / 10), char16_t(u'0' + z % 10), u'.',
                             char16_t(u'0' + l / 10), char16_t(u'0' + l % 10), u'.',
                             char16_t(u'0' + a / 1000), char16_t(u'0' + a / 100 % 10),
                             char16_t(u'0' + a / 10 % 10), char16_t(u'0' + a % 10)};
-    return QString(reinterpret_cast<const QChar*>(t), 10);
+    std::copy_n(t, 10, t_);
+    n_ = 10;
+}
+
+QString FormatData(const QDate& data) {
+    return DataScrisa(data).Vedere().toString();
 }
 
 QString CheieCautare(const QString& text) {

@@ -20,6 +20,18 @@ QString Doua(int n);
 
 QString FormatData(const QDate& data); // dd.mm.yyyy, empty for a missing date
 
+// The same text without a string of its own, for lists that write a million dates.
+class DataScrisa {
+public:
+    explicit DataScrisa(const QDate& data);
+    QStringView Vedere() const { return lunga_.isNull() ? QStringView(t_, n_) : QStringView(lunga_); }
+
+private:
+    char16_t t_[10]{};
+    qsizetype n_ = 0;
+    QString lunga_; // a year outside 1-9999
+};
+
 // The form in which names are searched and compared: lower case, each letter without its marks, so
 // that "Șerban", "Şerban" (the cedilla of old files) and "serban" give the same text. Each character
 // gives at most one, so the key fits wherever the name fits and the key of a prefix is a prefix of

@@ -4,8 +4,15 @@
 #include "base/Eroare.h"
 
 #include <QDate>
+#include <QStringDecoder>
+
+#if defined(__linux__)
+#include <sys/mman.h>
+#endif
 
 #include <algorithm>
+#include <charconv>
+#include <type_traits>
 #include <utility>
 
 namespace Raport {
@@ -29,6 +36,42 @@ constexpr std::size_t MarimeBloc = std::size_t(1) << 20;
 constexpr std::size_t MaximBlocuri = std::size_t(1) << 12;
 } // namespace
 
+namespace {
+constexpr std::size_t Pagina2M = std::size_t(1) << 21;
+std::size_t Rotunjit(std::size_t octeti) {
+    return (octeti + Pagina2M - 1) & ~(Pagina2M - 1);
+}
+} // namespace
+
+void* Grila::AlocaMare(std::size_t octeti) {
+#if defined(__linux__)
+    // Mapped with room to start on a 2 MB boundary, the rest given back.
+    const std::size_t marime = Rotunjit(octeti);
+    void* m = mmap(nullptr, marime + Pagina2M, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (m == MAP_FAILED) throw std::bad_alloc();
+    auto* inceput = static_cast<char*>(m);
+    auto* aliniat = reinterpret_cast<char*>((reinterpret_cast<std::uintptr_t>(inceput) + Pagina2M - 1) & ~(Pagina2M - 1));
+    if (aliniat > inceput) munmap(inceput, std::size_t(aliniat - inceput));
+    const std::size_t dupa = Pagina2M - std::size_t(aliniat - inceput);
+    if (dupa > 0) munmap(aliniat + marime, dupa);
+    madvise(aliniat, marime, MADV_HUGEPAGE);
+    return aliniat;
+#else
+    void* p = std::calloc(1, octeti);
+    if (!p) throw std::bad_alloc();
+    return p;
+#endif
+}
+
+void Grila::ElibereazaMare(void* p, std::size_t octeti) {
+#if defined(__linux__)
+    munmap(p, Rotunjit(octeti));
+#else
+    (void)octeti;
+    std::free(p);
+#endif
+}
+
 Grila::Grila(int randuri, int coloane) {
     redimensioneaza(randuri, coloane);
 }
@@ -40,7 +83,9 @@ void Grila::redimensioneaza(int randuri, int coloane) {
     constexpr size_t PeBloc = size_t(1) << BitiBloc;
     const size_t blocuri = (size_t(randuri) + PeBloc - 1) >> BitiBloc;
     if (coloane != coloane_) {
-        std::vector<std::vector<Loc>> noi(blocuri, std::vector<Loc>(PeBloc * size_t(coloane)));
+        decltype(blocuri_) noi(blocuri);
+        for (auto& b : noi)
+            b.resize(PeBloc * size_t(coloane));
         for (int r = 0; r < std::min(randuri, randuri_); ++r)
             std::copy_n(&loc(r, 0), std::min(coloane, coloane_),
                         noi[size_t(r) >> BitiBloc].begin() + std::ptrdiff_t((size_t(r) & (PeBloc - 1)) * size_t(coloane)));
@@ -91,11 +136,9 @@ QStringView Grila::TextVedere(int rand, int col) const {
     return QStringView(texte_[l.text >> 20].data() + (l.text & (MarimeBloc - 1)), qsizetype(l.lungime));
 }
 
-void Grila::scrieText(Loc& l, QStringView text) {
-    l.lungime = uint32_t(text.size());
+char16_t* Grila::rezerva(Loc& l, std::size_t n) {
+    l.lungime = 0;
     l.text = 0;
-    if (text.isEmpty()) return;
-    const size_t n = size_t(text.size());
     size_t bloc = blocCurent_;
     if (n > MarimeBloc || texte_.empty() || texte_[bloc].size() + n > MarimeBloc) {
         if (texte_.size() >= MaximBlocuri) throw Eroare(QStringLiteral("Grila nu mai poate primi texte."));
@@ -103,9 +146,77 @@ void Grila::scrieText(Loc& l, QStringView text) {
         bloc = texte_.size() - 1;
         if (n <= MarimeBloc) blocCurent_ = bloc;
     }
-    std::vector<char16_t>& t = texte_[bloc];
+    auto& t = texte_[bloc];
     l.text = uint32_t(bloc << 20 | t.size());
-    t.insert(t.end(), text.utf16(), text.utf16() + n);
+    t.resize(t.size() + n);
+    return t.data() + (l.text & (MarimeBloc - 1));
+}
+
+void Grila::fixeaza(Loc& l, std::size_t n) {
+    auto& t = texte_[l.text >> 20];
+    t.resize(size_t(l.text & (MarimeBloc - 1)) + n);
+    l.lungime = uint32_t(n);
+    if (n == 0) l.text = 0;
+}
+
+void Grila::scrieText(Loc& l, QStringView text) {
+    char16_t* p = rezerva(l, size_t(text.size()));
+    std::copy_n(text.utf16(), text.size(), p);
+    fixeaza(l, size_t(text.size()));
+}
+
+char16_t* PuneUtf16(char16_t* p, QAnyStringView piesa) {
+    return piesa.visit([p](auto v) -> char16_t* {
+        using V = decltype(v);
+        if constexpr (std::is_same_v<V, QStringView>) {
+            return std::copy_n(v.utf16(), v.size(), p);
+        } else if constexpr (std::is_same_v<V, QLatin1StringView>) {
+            return std::transform(v.begin(), v.end(), p, [](char c) { return char16_t(uchar(c)); });
+        } else {
+            // Most names and addresses are plain ASCII, copied a byte at a time; the rest goes through the decoder.
+            const char* s = v.data();
+            const char* const sfarsit = s + v.size();
+            char16_t* o = p;
+            while (s != sfarsit && uchar(*s) < 0x80)
+                *o++ = char16_t(*s++);
+            if (s == sfarsit) return o;
+            QStringDecoder d(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
+            return reinterpret_cast<char16_t*>(
+                d.appendToBuffer(reinterpret_cast<QChar*>(o), QByteArrayView(s, sfarsit - s)));
+        }
+    });
+}
+
+void Grila::ScriePiese(int rand, int col, std::span<const QAnyStringView> piese) {
+    Loc& l = loc(rand, col);
+    // A UTF-8 piece never has more UTF-16 units than bytes: the sum of sizes is room enough.
+    size_t maxim = 0;
+    for (const QAnyStringView& x : piese)
+        maxim += size_t(x.size());
+    char16_t* const inceput = rezerva(l, maxim);
+    char16_t* p = inceput;
+    for (const QAnyStringView& x : piese)
+        p = PuneUtf16(p, x);
+    fixeaza(l, size_t(p - inceput));
+    l.fel = FelValoare::Text;
+    l.valoare = 0;
+}
+
+void Grila::ScrieIntreg(int rand, int col, qint64 n) {
+    char t[24];
+    const auto r = std::to_chars(t, t + sizeof t, n);
+    ScriePiese(rand, col, {QLatin1StringView(t, r.ptr)});
+    Loc& l = loc(rand, col);
+    l.fel = FelValoare::Intreg;
+    l.valoare = n;
+}
+
+void Grila::CopiazaContinut(int rand, int col, int randSursa, int colSursa) {
+    const Loc sursa = loc(randSursa, colSursa);
+    Loc& l = loc(rand, col);
+    const std::uint16_t aspect = l.aspect;
+    l = sursa;
+    l.aspect = aspect;
 }
 
 QVariant Grila::Valoare(int rand, int col) const {

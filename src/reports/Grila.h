@@ -1,12 +1,17 @@
 #pragma once
 
+#include <QAnyStringView>
 #include <QString>
 #include <QStringView>
 #include <QVariant>
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstdlib>
+#include <initializer_list>
+#include <new>
 #include <optional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -50,6 +55,10 @@ enum class Margine {
     DiagonalaSus = 6,
     DiagonalaJos = 7
 };
+
+// A text put at `p` as UTF-16, from whichever encoding its view has; returns where it ends. There
+// must be room for as many characters as the view's size.
+char16_t* PuneUtf16(char16_t* p, QAnyStringView text);
 
 // What a cell's typed value is, as the spreadsheets write it: none is text.
 enum class FelValoare : std::uint8_t { Text, Suma, Data, Intreg };
@@ -119,6 +128,17 @@ public:
     // The text as the report shows it, with the value a spreadsheet takes.
     void Scrie(int rand, int col, const QString& text, const QVariant& valoare);
 
+    // A text written from pieces one after another straight into the grid's store, with no string
+    // made for the whole: what a list of a million rows writes into each of its cells.
+    void ScriePiese(int rand, int col, std::span<const QAnyStringView> piese);
+    void ScriePiese(int rand, int col, std::initializer_list<QAnyStringView> piese) {
+        ScriePiese(rand, col, std::span(piese.begin(), piese.size()));
+    }
+    // A whole number as its text and its value.
+    void ScrieIntreg(int rand, int col, qint64 n);
+    // The text and value of another cell, sharing its text rather than writing it again; the look stays.
+    void CopiazaContinut(int rand, int col, int randSursa, int colSursa);
+
     // A row added at the end from a text whose columns are separated by tabs, from column 0: a text
     // that begins with a tab leaves the fixed column empty. Fields past the last column are dropped.
     void AdaugaRand(const QString& campuri);
@@ -165,6 +185,36 @@ public:
     bool operator==(const Grila& alta) const;
 
 private:
+    // The blocks of a large grid are mapped zeroed in pages of 2 MB where the system has them: a
+    // million rows touch a few hundred pages instead of a hundred thousand.
+    static constexpr std::size_t PragMare = std::size_t(1) << 20;
+    static void* AlocaMare(std::size_t octeti);
+    static void ElibereazaMare(void* p, std::size_t octeti);
+
+    // Storage whose new elements are left as the system gives them: zeroed pages for the cells, whose
+    // empty state is all zeroes, and nothing for the texts, which are written before they are read.
+    template <typename T, bool Zero> struct Alocator {
+        using value_type = T;
+        Alocator() = default;
+        template <typename U> Alocator(const Alocator<U, Zero>&) {}
+        template <typename U> struct rebind { using other = Alocator<U, Zero>; };
+        T* allocate(std::size_t n) {
+            if (n * sizeof(T) >= PragMare) return static_cast<T*>(AlocaMare(n * sizeof(T)));
+            void* p = Zero ? std::calloc(n, sizeof(T)) : std::malloc(n * sizeof(T));
+            if (!p) throw std::bad_alloc();
+            return static_cast<T*>(p);
+        }
+        void deallocate(T* p, std::size_t n) {
+            if (n * sizeof(T) >= PragMare)
+                ElibereazaMare(p, n * sizeof(T));
+            else
+                std::free(p);
+        }
+        template <typename U> void construct(U*) {}
+        template <typename U, typename... A> void construct(U* p, A&&... a) { ::new (static_cast<void*>(p)) U(std::forward<A>(a)...); }
+        bool operator==(const Alocator&) const = default;
+    };
+
     // A cell as kept: its text in the grid's text store, its value packed, its look by number.
     struct Loc {
         std::uint32_t text = 0, lungime = 0;
@@ -178,14 +228,17 @@ private:
     void redimensioneaza(int randuri, int coloane);
     std::uint16_t numarAspect(const Aspect& a);
     void scrieText(Loc& l, QStringView text);
+    // Room for up to n characters of a cell's text, then the count written there.
+    char16_t* rezerva(Loc& l, std::size_t n);
+    void fixeaza(Loc& l, std::size_t n);
 
     int randuri_ = 0, coloane_ = 0;
     // Rows in blocks of a fixed count, so that a growing grid never moves the cells it holds.
-    static constexpr int BitiBloc = 10;
-    std::vector<std::vector<Loc>> blocuri_;
+    static constexpr int BitiBloc = 13;
+    std::vector<std::vector<Loc, Alocator<Loc, true>>> blocuri_;
     // Texts one after another in blocks that never move, so that a grid of a million rows does not
     // hold a million separate strings.
-    std::vector<std::vector<char16_t>> texte_;
+    std::vector<std::vector<char16_t, Alocator<char16_t, false>>> texte_;
     std::size_t blocCurent_ = 0;
     std::vector<Aspect> aspecte_{Aspect{}};
     std::vector<Dreptunghi> uniri_;

@@ -86,8 +86,8 @@ void BazaDate::deschideSQLite(Mod mod) {
     if (!q.exec(QStringLiteral("PRAGMA foreign_keys = ON"))) throw Eroare(textEroare(q.lastError()));
     // A large office's file outgrows the default page cache, and the lists that join most of it
     // would read the same pages again and again; mapped reads share the system's file cache.
-    // A platform without mapping ignores it.
-    q.exec(QStringLiteral("PRAGMA mmap_size = 1073741824"));
+    // A platform without mapping ignores it; the engine lowers a size above its own limit.
+    q.exec(QStringLiteral("PRAGMA mmap_size = 2147418112"));
 }
 
 void BazaDate::deschidePostgreSQL() {

@@ -116,10 +116,17 @@ int CitireRapida::Camp(QLatin1StringView nume) const {
 }
 
 int CitireRapida::numar(const char* camp) const {
-    for (const auto& [nume, i] : campuri_)
-        if (nume == camp) return i;
+    // A row is read field after field in the same order every time: the next name asked is most
+    // often the one after the last found.
+    if (urmator_ < campuri_.size() && campuri_[urmator_].first == camp) return campuri_[urmator_++].second;
+    for (size_t k = 0; k < campuri_.size(); ++k)
+        if (campuri_[k].first == camp) {
+            urmator_ = k + 1;
+            return campuri_[k].second;
+        }
     const int i = Camp(QLatin1StringView(camp));
     campuri_.push_back({camp, i});
+    urmator_ = campuri_.size();
     return i;
 }
 
@@ -141,6 +148,17 @@ QString CitireRapida::Text(int i) const {
     const void* t = sqlite3_column_text16(lite_->stmt, i);
     if (!t) return {};
     return QString(static_cast<const QChar*>(t), sqlite3_column_bytes16(lite_->stmt, i) / 2);
+}
+
+QAnyStringView CitireRapida::Vedere(int i) const {
+    if (!q_ && sqlite3_column_type(lite_->stmt, i) != SQLITE_FLOAT) {
+        const auto* t = reinterpret_cast<const char*>(sqlite3_column_text(lite_->stmt, i));
+        if (!t) return {};
+        return QUtf8StringView(t, sqlite3_column_bytes(lite_->stmt, i));
+    }
+    if (texte_.size() <= size_t(i)) texte_.resize(size_t(i) + 1);
+    texte_[size_t(i)] = Text(i);
+    return texte_[size_t(i)];
 }
 
 QDate CitireRapida::Data(int i) const {

@@ -2,6 +2,7 @@
 
 #include "store/BazaDate.h"
 
+#include <QAnyStringView>
 #include <QLatin1StringView>
 #include <functional>
 #include <memory>
@@ -34,6 +35,8 @@ public:
     bool EsteNul(int i) const;
     qint64 Intreg(int i) const;
     QString Text(int i) const;
+    // The text without a copy, good until the next row or the next read of the same field.
+    QAnyStringView Vedere(int i) const;
     QDate Data(int i) const;
     Bani Suma(int i) const;
     QVariant Valoare(int i) const;
@@ -42,6 +45,7 @@ public:
     bool EsteNul(const char* camp) const { return EsteNul(numar(camp)); }
     qint64 Intreg(const char* camp) const { return Intreg(numar(camp)); }
     QString Text(const char* camp) const { return Text(numar(camp)); }
+    QAnyStringView Vedere(const char* camp) const { return Vedere(numar(camp)); }
     QDate Data(const char* camp) const { return Data(numar(camp)); }
     Bani Suma(const char* camp) const { return Suma(numar(camp)); }
     QVariant Valoare(const char* camp) const { return Valoare(numar(camp)); }
@@ -55,6 +59,8 @@ private:
     std::unique_ptr<SQLite> lite_;
     std::unique_ptr<Interogare> q_; // PostgreSQL
     mutable std::vector<std::pair<const char*, int>> campuri_;
+    mutable size_t urmator_ = 0;
+    mutable std::vector<QString> texte_; // what Vedere shows where the engine has no text of its own
 };
 
 // The arguments of a function of the program called by SQLite for each row of a statement, read as

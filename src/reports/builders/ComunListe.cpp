@@ -4,6 +4,9 @@
 #include "base/Texte.h"
 #include "reference/DateReferinta.h"
 
+#include <array>
+#include <span>
+
 namespace Raport {
 
 PrimarieRaport CitestePrimariaRaport(BazaDate& db, Mesaje& m) {
@@ -16,14 +19,41 @@ PrimarieRaport CitestePrimariaRaport(BazaDate& db, Mesaje& m) {
     return {text("Denumire"), text("Localitate"), text("Judet"), text("AsSocial"), text("CNPAsSocial"), true};
 }
 
+namespace {
+// The address rule as the pieces of its text: at most 14.
+size_t PieseAdresa(std::array<QAnyStringView, 14>& p, QAnyStringView localitate, QAnyStringView cuvantStrada,
+                   QAnyStringView strada, QAnyStringView nr, QAnyStringView sc, QAnyStringView ap) {
+    size_t n = 0;
+    p[n++] = localitate;
+    if (!strada.isEmpty()) {
+        p[n++] = u", ";
+        p[n++] = cuvantStrada;
+        p[n++] = u" ";
+        p[n++] = strada;
+    }
+    for (const auto& [eticheta, text] : {std::pair{u", nr. ", nr}, {u", sc. ", sc}, {u", ap. ", ap}})
+        if (!text.isEmpty()) {
+            p[n++] = eticheta;
+            p[n++] = text;
+        }
+    return n;
+}
+} // namespace
+
 QString AdresaRaport(const QString& localitate, const QString& cuvantStrada, const QString& strada, const QString& nr,
                      const QString& sc, const QString& ap) {
-    QString a = localitate;
-    if (!strada.isEmpty()) a += QStringLiteral(", ") + cuvantStrada + QLatin1Char(' ') + strada;
-    if (!nr.isEmpty()) a += QStringLiteral(", nr. ") + nr;
-    if (!sc.isEmpty()) a += QStringLiteral(", sc. ") + sc;
-    if (!ap.isEmpty()) a += QStringLiteral(", ap. ") + ap;
+    std::array<QAnyStringView, 14> p;
+    const size_t n = PieseAdresa(p, localitate, cuvantStrada, strada, nr, sc, ap);
+    QString a;
+    for (size_t i = 0; i < n; ++i)
+        a += p[i].toString();
     return a;
+}
+
+void ScrieAdresa(Grila& g, int rand, int col, QAnyStringView localitate, QAnyStringView cuvantStrada,
+                 QAnyStringView strada, QAnyStringView nr, QAnyStringView sc, QAnyStringView ap) {
+    std::array<QAnyStringView, 14> p;
+    g.ScriePiese(rand, col, std::span(p.data(), PieseAdresa(p, localitate, cuvantStrada, strada, nr, sc, ap)));
 }
 
 QString NrDataCerere(const QVariant& nr, const QDate& data) {
@@ -68,19 +98,26 @@ Lista::Lista(Grila& g, const std::vector<ColoanaLista>& coloane, const PrimarieR
     g_.Bordura({RandTitluri, 1, RandTitluri, coloane_}, Margine::Jos, Linie::Subtire);
 }
 
-int Lista::Rand(const QStringList& texte, const std::vector<QVariant>& valori, bool cuLinie) {
+int Lista::RandNou() {
     const int r = g_.Randuri();
     g_.SeteazaRanduri(r + 1);
+    g_.Bordura({r, 1, r, coloane_}, Margine::Jos, Linie::Subtire);
+    ++randuri_;
+    return r;
+}
+
+int Lista::Rand(const QStringList& texte, const std::vector<QVariant>& valori, bool cuLinie) {
+    int r = g_.Randuri();
+    if (cuLinie)
+        RandNou();
+    else
+        g_.SeteazaRanduri(r + 1);
     for (int c = 1; c <= coloane_ && c <= texte.size(); ++c) {
         const QVariant v = size_t(c - 1) < valori.size() ? valori[size_t(c - 1)] : QVariant();
         if (v.isValid())
             g_.Scrie(r, c, texte[c - 1], v);
         else
             g_.Scrie(r, c, texte[c - 1]);
-    }
-    if (cuLinie) {
-        g_.Bordura({r, 1, r, coloane_}, Margine::Jos, Linie::Subtire);
-        ++randuri_;
     }
     return r;
 }

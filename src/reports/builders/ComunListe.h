@@ -35,6 +35,9 @@ PrimarieRaport CitestePrimariaRaport(BazaDate& db, Mesaje& m);
 // only when there is something to show.
 QString AdresaRaport(const QString& localitate, const QString& cuvantStrada, const QString& strada, const QString& nr,
                      const QString& sc, const QString& ap);
+// The same address written straight into a cell.
+void ScrieAdresa(Grila& g, int rand, int col, QAnyStringView localitate, QAnyStringView cuvantStrada,
+                 QAnyStringView strada, QAnyStringView nr, QAnyStringView sc, QAnyStringView ap);
 
 // "12 / 03.04.2014  ": the request's number and date, with the two blanks the lists keep.
 QString NrDataCerere(const QVariant& nr, const QDate& data);
@@ -58,6 +61,8 @@ public:
     // A row of texts (and, where given, the typed values the spreadsheets receive), a record's with
     // a thin line under it; returns its row.
     int Rand(const QStringList& texte, const std::vector<QVariant>& valori = {}, bool cuLinie = true);
+    // A record's row with its thin line, its cells left for the caller to write; returns its row.
+    int RandNou();
     // The thick line under the last record's row.
     void LinieGroasa();
     // The empty row, "As Social," and the name.

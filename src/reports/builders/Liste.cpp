@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <cmath>
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <span>
 #include <vector>
@@ -57,17 +58,45 @@ private:
     std::vector<T> randuri_;
 };
 
+// Short texts one after another in one store, each known by its place: the millions of names of
+// the other members without a string for each.
+class Depozit {
+public:
+    struct Felie {
+        std::uint32_t start = 0, lungime = 0;
+    };
+    Felie Pune(QAnyStringView text) {
+        const size_t inceput = t_.size();
+        t_.resize(inceput + size_t(text.size()));
+        const size_t sfarsit = size_t(PuneUtf16(t_.data() + inceput, text) - t_.data());
+        t_.resize(sfarsit);
+        if (sfarsit > UINT32_MAX) throw Eroare(QStringLiteral("Lista are prea mult text."));
+        return {std::uint32_t(inceput), std::uint32_t(sfarsit - inceput)};
+    }
+    QStringView operator[](Felie f) const { return QStringView(t_.data() + f.start, qsizetype(f.lungime)); }
+
+private:
+    std::vector<char16_t> t_;
+};
+
 struct AltMembru {
-    QString nume, prenume, cnp, bi;
+    Depozit::Felie nume, prenume, cnp, bi;
     qint64 id = 0;
-    QString NumePrenume() const { return nume + QLatin1Char(' ') + prenume; }
+};
+
+struct Membri {
+    PeCerere<AltMembru> pe;
+    Depozit texte;
+    std::span<const AltMembru> Al(qint64 cerere) const { return pe.Al(cerere); }
+    // The name as the lists print it: family name, a blank, the given names.
+    std::array<QAnyStringView, 3> Nume(const AltMembru& x) const { return {texte[x.nume], u" ", texte[x.prenume]}; }
 };
 
 // The other members (kinship above 1) of the requests that the subquery `cereri` selects, each
 // request's by name. The engine returns them in its key's order and the few of each request are
 // sorted here: sorting millions of rows by request and name would cost the engine far more.
-PeCerere<AltMembru> AltiMembri(BazaDate& db, const QString& cereri, const std::function<void(CitireRapida&)>& leaga) {
-    PeCerere<AltMembru> membri;
+Membri AltiMembri(BazaDate& db, const QString& cereri, const std::function<void(CitireRapida&)>& leaga) {
+    Membri m;
     CitireRapida q(db, QStringLiteral("SELECT CM.CerereID, CM.MembruID, M.Nume, M.Prenume, M.CNP, M.NrBI FROM "
                                       "CereriMembrii CM, Membrii M WHERE CM.MembruID = M.MembruID AND "
                                       "CM.RudenieID > 1 AND CM.CerereID IN (") +
@@ -75,13 +104,14 @@ PeCerere<AltMembru> AltiMembri(BazaDate& db, const QString& cereri, const std::f
     leaga(q);
     q.Executa();
     while (q.Urmator())
-        membri.Adauga(q.Intreg(0), {q.Text(2), q.Text(3), q.Text(4), q.Text(5), q.Intreg(1)});
-    membri.Ordoneaza([](const AltMembru& x, const AltMembru& y) {
-        if (const int c = QString::compare(x.nume, y.nume)) return c < 0;
-        if (const int c = QString::compare(x.prenume, y.prenume)) return c < 0;
+        m.pe.Adauga(q.Intreg(0), {m.texte.Pune(q.Vedere(2)), m.texte.Pune(q.Vedere(3)), m.texte.Pune(q.Vedere(4)),
+                                  m.texte.Pune(q.Vedere(5)), q.Intreg(1)});
+    m.pe.Ordoneaza([&t = m.texte](const AltMembru& x, const AltMembru& y) {
+        if (const int c = t[x.nume].compare(t[y.nume])) return c < 0;
+        if (const int c = t[x.prenume].compare(t[y.prenume])) return c < 0;
         return x.id < y.id;
     });
-    return membri;
+    return m;
 }
 
 QDate PrimaZi(int an, int luna) {
@@ -97,6 +127,10 @@ QString Ordine(const Alegeri& a, const QString& chei) {
     const QString clauza = ClauzaOrdonare(a.ord1, a.ord2);
     return clauza.isEmpty() ? QStringLiteral(" ORDER BY ") + chei : clauza + QStringLiteral(", ") + chei;
 }
+
+// The keys of a list of members, named on the member's row: the engine then walks the members' own key
+// in that order instead of sorting a million rows (the request's key is the same value).
+const QString CheiMembri = QStringLiteral("CM.CerereID, CM.MembruID");
 
 QString Text(const CitireRapida& q, const char* camp) {
     return q.Text(camp);
@@ -121,6 +155,26 @@ QString Adresa(const CitireRapida& q, const MediuRaport& mediu) {
                         Text(q, "Ap"));
 }
 
+void ScrieAdresa(Grila& g, int rand, int col, const CitireRapida& q, const MediuRaport& mediu) {
+    ScrieAdresa(g, rand, col, q.Vedere("Localitate"), mediu.setari.StrSat, q.Vedere("Strada"), q.Vedere("Nr"),
+                q.Vedere("Sc"), q.Vedere("Ap"));
+}
+
+// A whole number of the row as text and value, or an empty cell for none.
+void ScrieNumar(Grila& g, int rand, int col, const CitireRapida& q, const char* camp) {
+    if (!q.EsteNul(camp)) g.ScrieIntreg(rand, col, q.Intreg(camp));
+}
+
+// "12 / 03.04.2014  ", as NrDataCerere writes it.
+void ScrieNrDataCerere(Grila& g, int rand, int col, const CitireRapida& q) {
+    g.ScriePiese(rand, col, {q.Vedere("NrCerere"), u" / ", DataScrisa(q.Data("DataCerere")).Vedere(), u"  "});
+}
+
+std::array<QAnyStringView, 3> NumePrenumeV(const CitireRapida& q, const char* nume = "Nume",
+                                           const char* prenume = "Prenume") {
+    return {q.Vedere(nume), u" ", q.Vedere(prenume)};
+}
+
 Grila Incepe(const MediuRaport& mediu) {
     return GrilaNoua(mediu.setari);
 }
@@ -138,18 +192,16 @@ const std::vector<ColoanaLista> ColoaneCopii{{QStringLiteral("Nr. Crt."), 30, Dr
                                              {QStringLiteral("Nr copii"), 60, Dreapta}};
 
 // A row of the lists of requests and children: counter, dossier, number and date, name, code,
-// children (and, where given, the address).
-void RandCerere(Lista& l, const CitireRapida& q, const QString& nume, const QString& cnp, const QString* adresa) {
-    const qint64 nr = l.Randuri() + 1;
-    QStringList t{QString::number(nr),
-                  NumarText(q, "NrDosar"),
-                  NrDataCerere(q.Valoare("NrCerere"), q.Data("DataCerere")),
-                  nume,
-                  cnp,
-                  NumarText(q, "NrCopii")};
-    std::vector<QVariant> v{nr, Numar(q, "NrDosar"), {}, {}, {}, Numar(q, "NrCopii")};
-    if (adresa) t << *adresa;
-    l.Rand(t, v);
+// children; the address, where the list has one, is the caller's.
+int RandCerere(Lista& l, Grila& g, const CitireRapida& q, std::span<const QAnyStringView> nume, QAnyStringView cnp) {
+    const int r = l.RandNou();
+    g.ScrieIntreg(r, 1, l.Randuri());
+    ScrieNumar(g, r, 2, q, "NrDosar");
+    ScrieNrDataCerere(g, r, 3, q);
+    g.ScriePiese(r, 4, nume);
+    g.ScriePiese(r, 5, {cnp});
+    ScrieNumar(g, r, 6, q, "NrCopii");
+    return r;
 }
 
 // A list of one row per record of the family, request and person joined as `tabele` and `conditie`
@@ -164,7 +216,7 @@ Grila ListaSimpla(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alege
         q.Leaga(v);
     q.Executa();
     while (q.Urmator())
-        RandCerere(l, q, NumePrenume(q), Text(q, "CNP"), nullptr);
+        RandCerere(l, g, q, NumePrenumeV(q), q.Vedere("CNP"));
     l.Incheie();
     return g;
 }
@@ -176,7 +228,7 @@ Grila ListaCopii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Aleger
                        QStringLiteral("F.FamilieID = C.FamilieID AND C.CerereID = CM.CerereID AND CM.MembruID = "
                                       "M.MembruID AND ") +
                            conditie,
-                       QStringLiteral("C.CerereID, CM.MembruID"), valori);
+                       CheiMembri, valori);
 }
 
 QString TextData(const CitireRapida& q, const char* camp) {
@@ -217,7 +269,7 @@ Grila ListaCereri(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alege
     };
 
     // The other members of the listed requests, all at once, by request.
-    PeCerere<AltMembru> membri;
+    Membri membri;
     if (a.membri && !foaie)
         membri = AltiMembri(db, QStringLiteral("SELECT C.CerereID FROM Familii F, Cereri C, Membrii M WHERE ") + conditii,
                             leaga);
@@ -227,10 +279,12 @@ Grila ListaCereri(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Alege
     leaga(q);
     q.Executa();
     while (q.Urmator()) {
-        const QString adresa = Adresa(q, mediu);
-        RandCerere(l, q, NumePrenume(q), Text(q, "CNP"), &adresa);
-        for (const AltMembru& x : membri.Al(q.Intreg("CerereID")))
-                RandCerere(l, q, x.NumePrenume(), x.cnp, &adresa);
+        const int primul = RandCerere(l, g, q, NumePrenumeV(q), q.Vedere("CNP"));
+        ScrieAdresa(g, primul, 7, q, mediu);
+        for (const AltMembru& x : membri.Al(q.Intreg("CerereID"))) {
+            const int r = RandCerere(l, g, q, membri.Nume(x), membri.texte[x.cnp]);
+            g.CopiazaContinut(r, 7, primul, 7);
+        }
     }
     l.Incheie();
     return g;
@@ -274,12 +328,14 @@ Grila ListaElevi(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Aleger
                          (cuAdeverinta == 1 ? QString() : QStringLiteral("NOT ")) +
                          QStringLiteral("EXISTS (SELECT 1 FROM Adeverinte A WHERE A.CerereID = C.CerereID AND "
                                         "A.MembruID = CM.MembruID AND A.DataExpAdev > ?)") +
-                         Ordine(a, QStringLiteral("C.CerereID, CM.MembruID")));
+                         Ordine(a, CheiMembri));
     q.Leaga(a.azi);
     q.Executa();
     while (q.Urmator()) {
-        const qint64 nr = l.Randuri() + 1;
-        l.Rand({QString::number(nr), NumePrenume(q), Text(q, "CNP")}, {nr});
+        const int r = l.RandNou();
+        g.ScrieIntreg(r, 1, l.Randuri());
+        g.ScriePiese(r, 2, NumePrenumeV(q));
+        g.ScriePiese(r, 3, {q.Vedere("CNP")});
     }
     l.Incheie();
     return g;
@@ -404,18 +460,21 @@ Grila ListaPersoane(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Ale
                                     "WHERE F.FamilieID = C.FamilieID AND C.CerereID = CM.CerereID AND "
                                     "M.MembruID = CM.MembruID AND +C.Stare IN (1, 2, 6, 7, 8) AND CM.RudenieID IN ") +
                      (copii ? QStringLiteral("(3, 6, 7, 8, 9)") : QStringLiteral("(1, 2, 4, 5)")) +
-                     Ordine(a, QStringLiteral("C.CerereID, CM.MembruID")));
+                     Ordine(a, CheiMembri));
     q.Executa();
     // The age on the first day of the month after the working one.
     const QDate referinta = PrimaZi(a.an, a.luna).addMonths(1);
     while (q.Urmator()) {
-        const qint64 nr = l.Randuri() + 1;
+        const int r = l.RandNou();
         const QString cnp = Text(q, "CNP");
-        const qint16 varsta = Varsta(referinta, DataNasterii(cnp, false, nullptr), cnp, &m);
-        l.Rand({QString::number(nr), NumarText(q, "NrDosar"),
-                NrDataCerere(q.Valoare("NrCerere"), q.Data("DataCerere")),
-                NumePrenume(q), cnp, Adresa(q, mediu), NumePrenume(q, "TitularN", "TitularP"), QString::number(varsta)},
-               {nr, Numar(q, "NrDosar"), {}, {}, {}, {}, {}, qint64(varsta)});
+        g.ScrieIntreg(r, 1, l.Randuri());
+        ScrieNumar(g, r, 2, q, "NrDosar");
+        ScrieNrDataCerere(g, r, 3, q);
+        g.ScriePiese(r, 4, NumePrenumeV(q));
+        g.ScriePiese(r, 5, {cnp});
+        ScrieAdresa(g, r, 6, q, mediu);
+        g.ScriePiese(r, 7, NumePrenumeV(q, "TitularN", "TitularP"));
+        g.ScrieIntreg(r, 8, Varsta(referinta, DataNasterii(cnp, false, nullptr), cnp, &m));
     }
     l.Incheie();
     if (copii) {
@@ -472,7 +531,7 @@ Grila SituatieCentralizata(BazaDate& db, Mesaje& m, const MediuRaport& mediu, co
                                             : clauza + QStringLiteral(", C.CerereID");
     const QString cereri = QStringLiteral("FROM Cereri C LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 LEFT JOIN "
                                           "Familii F ON F.FamilieID = C.FamilieID WHERE +C.Stare IN (1, 2, 6, 7, 8, 9)");
-    PeCerere<std::pair<QString, QString>> altii;
+    Membri altii;
     {
         CitireRapida q(db,
                      QStringLiteral("SELECT CM.CerereID, P.Nume, P.Prenume, P.CNP FROM CereriMembrii CM LEFT JOIN "
@@ -482,7 +541,9 @@ Grila SituatieCentralizata(BazaDate& db, Mesaje& m, const MediuRaport& mediu, co
                                         "C2.CerereID = CM.CerereID) ORDER BY CM.CerereID, CM.MembruID"));
         q.Executa();
         while (q.Urmator())
-            altii.Adauga(q.Intreg("CerereID"), {NumePrenume(q), Text(q, "CNP")});
+            altii.pe.Adauga(q.Intreg("CerereID"), {altii.texte.Pune(q.Vedere("Nume")),
+                                                   altii.texte.Pune(q.Vedere("Prenume")),
+                                                   altii.texte.Pune(q.Vedere("CNP")), {}, 0});
     }
     CitireRapida q(db, QStringLiteral("SELECT C.CerereID, C.NrCerere, C.NrMembrii, M.Nume, M.Prenume, M.CNP ") + cereri +
                          ordine);
@@ -497,15 +558,15 @@ Grila SituatieCentralizata(BazaDate& db, Mesaje& m, const MediuRaport& mediu, co
     while (q.Urmator()) {
         ++nr;
         const int primul = rand();
-        g.Scrie(primul, 1, QString::number(nr), nr);
-        g.Scrie(primul, 2, NumePrenume(q));
-        g.Scrie(primul, 3, Text(q, "CNP"));
-        g.Scrie(primul, 4, NumarText(q, "NrMembrii"), Numar(q, "NrMembrii"));
+        g.ScrieIntreg(primul, 1, nr);
+        g.ScriePiese(primul, 2, NumePrenumeV(q));
+        g.ScriePiese(primul, 3, {q.Vedere("CNP")});
+        ScrieNumar(g, primul, 4, q, "NrMembrii");
         const auto membri = altii.Al(q.Intreg("CerereID"));
         for (size_t i = 0; i < membri.size(); ++i) {
             const int rm = i == 0 ? primul : rand();
-            g.Scrie(rm, 5, membri[i].first);
-            g.Scrie(rm, 6, membri[i].second);
+            g.ScriePiese(rm, 5, altii.Nume(membri[i]));
+            g.ScriePiese(rm, 6, {altii.texte[membri[i].cnp]});
         }
         const qint64 gasiti = qint64(membri.size()) + 1;
         if (gasiti != q.Intreg("NrMembrii"))
@@ -587,24 +648,34 @@ Grila ListaMembrii(BazaDate& db, Mesaje& m, const MediuRaport& mediu, const Aleg
         QStringLiteral("FROM Familii F, Cereri C, CereriMembrii CM, Membrii M WHERE "
                        "F.FamilieID = C.FamilieID AND C.CerereID = CM.CerereID AND "
                        "M.MembruID = CM.MembruID AND CM.RudenieID = 1 AND +C.Stare IN (1, 2, 6, 7, 8)");
-    const PeCerere<AltMembru> membri = AltiMembri(db, QStringLiteral("SELECT C.CerereID ") + titulari, [](CitireRapida&) {});
+    // The other members of every request of the statuses: those of a request that has no row here are
+    // never asked for, and the narrower set would cost the engine the whole join again.
+    const Membri membri = AltiMembri(
+        db, QStringLiteral("SELECT C.CerereID FROM Cereri C WHERE +C.Stare IN (1, 2, 6, 7, 8)"), [](CitireRapida&) {});
     CitireRapida q(db, QStringLiteral("SELECT C.CerereID, F.NrDosar, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, M.Nume, "
                                     "M.Prenume, M.CNP, M.NrBI ") +
-                         titulari + Ordine(a, QStringLiteral("C.CerereID, CM.MembruID")));
+                         titulari + Ordine(a, CheiMembri));
     q.Executa();
-    const QString asf = QStringLiteral("ASF");
     while (q.Urmator()) {
-        // What the family's rows share, read once for all of them.
-        const QString localitate = Text(q, "Localitate"), adresa = Adresa(q, mediu), dosar = NumarText(q, "NrDosar");
-        const QVariant nrDosar = Numar(q, "NrDosar");
-        const auto rand = [&](const QString& nume, const QString& cnp, const QString& bi) {
-            const qint64 nr = l.Randuri() + 1;
-            l.Rand({QString::number(nr), nume, localitate, adresa, cnp, bi, dosar, asf},
-                   {nr, {}, {}, {}, {}, {}, nrDosar});
-        };
-        rand(NumePrenume(q), Text(q, "CNP"), Text(q, "NrBI"));
-        for (const AltMembru& x : membri.Al(q.Intreg("CerereID")))
-            rand(x.NumePrenume(), x.cnp, x.bi);
+        const int primul = l.RandNou();
+        g.ScrieIntreg(primul, 1, l.Randuri());
+        g.ScriePiese(primul, 2, NumePrenumeV(q));
+        g.ScriePiese(primul, 3, {q.Vedere("Localitate")});
+        ScrieAdresa(g, primul, 4, q, mediu);
+        g.ScriePiese(primul, 5, {q.Vedere("CNP")});
+        g.ScriePiese(primul, 6, {q.Vedere("NrBI")});
+        ScrieNumar(g, primul, 7, q, "NrDosar");
+        g.ScriePiese(primul, 8, {u"ASF"});
+        // What the family's rows share is written once and shown again on the others.
+        for (const AltMembru& x : membri.Al(q.Intreg("CerereID"))) {
+            const int r = l.RandNou();
+            g.ScrieIntreg(r, 1, l.Randuri());
+            g.ScriePiese(r, 2, membri.Nume(x));
+            g.ScriePiese(r, 5, {membri.texte[x.cnp]});
+            g.ScriePiese(r, 6, {membri.texte[x.bi]});
+            for (int c : {3, 4, 7, 8})
+                g.CopiazaContinut(r, c, primul, c);
+        }
     }
     l.Incheie();
     return g;
