@@ -66,7 +66,7 @@ QString CampOrdonare(int ord) {
 
 // The numbers the spreadsheet takes as numbers; a missing one stays an empty cell.
 void Intreg(Grila& g, int rand, int col, const CitireRapida& q, int i) {
-    if (!q.EsteNul(i)) g.Scrie(rand, col, QString::number(q.Intreg(i)), q.Intreg(i));
+    if (!q.EsteNul(i)) g.ScrieIntreg(rand, col, q.Intreg(i));
 }
 
 } // namespace
@@ -153,18 +153,15 @@ Grila Borderou(BazaDate& db, Mesaje& m, const Setari& s, const AlegeriBorderou& 
     constexpr int Pas = 4096;
     const int primul = g.Randuri(), ultimaColoana = int(Coloane.size());
     int rand = primul;
-    const QString strada = QStringLiteral("str.");
     Bani total;
     while (q.Urmator()) {
         if (rand == g.Randuri()) g.SeteazaRanduri(rand + Pas);
-        const auto text = [&](int i) { return q.Text(i); };
-        const qint64 nr = rand - primul + 1;
-        g.Scrie(rand, 1, QString::number(nr), nr);
-        g.Scrie(rand, 2, text(0) + QStringLiteral(" / ") + FormatData(q.Data(1)));
-        g.Scrie(rand, 3, text(2) + QLatin1Char(' ') + text(3));
-        g.Scrie(rand, 4, text(4));
-        g.Scrie(rand, 5, AdresaRaport(text(5), strada, text(6), text(7), text(8), text(9)));
-        g.Scrie(rand, 6, q.Valoare(10).toBool() ? QStringLiteral("DA") : QStringLiteral("NU"));
+        g.ScrieIntreg(rand, 1, rand - primul + 1);
+        g.ScriePiese(rand, 2, {q.Vedere(0), u" / ", DataScrisa(q.Data(1)).Vedere()});
+        g.ScriePiese(rand, 3, {q.Vedere(2), u" ", q.Vedere(3)});
+        g.ScriePiese(rand, 4, {q.Vedere(4)});
+        ScrieAdresa(g, rand, 5, q.Vedere(5), u"str.", q.Vedere(6), q.Vedere(7), q.Vedere(8), q.Vedere(9));
+        g.ScriePiese(rand, 6, {q.Valoare(10).toBool() ? u"DA" : u"NU"});
         Intreg(g, rand, 7, q, 11);
         Intreg(g, rand, 8, q, 12);
         if (!q.EsteNul(13)) {
