@@ -94,16 +94,20 @@ TEST(Grila, UniriRanduriSiGolire) {
 // back empty, and cells that look alike share their look without changing each other's.
 TEST(Grila, CrestereSiMicsorare) {
     Grila g(2, 3);
-    const int n = 3000;
+    const int n = 20000;
     for (int r = 1; r < n; ++r) {
         g.SeteazaRanduri(r + 1);
-        g.Scrie(r, 1, QString::number(r), qint64(r));
+        // Half the rows by each way of writing: both must read back alike.
+        if (r % 2)
+            g.Scrie(r, 1, QString::number(r), qint64(r));
+        else
+            g.ScrieIntreg(r, 1, r);
         g.Scrie(r, 2, QString(r % 7, u'x'));
         g.Bordura({r, 1, r, 2}, Margine::Jos, r % 2 ? Linie::Subtire : Linie::Groasa);
     }
     g.SeteazaColoane(5);
     g.Scrie(n - 1, 4, T("ultima"));
-    for (int r : {1, 1023, 1024, 2047, n - 1}) {
+    for (int r : {1, 8191, 8192, 16383, 16384, n - 1}) {
         EXPECT_EQ(g.Text(r, 1), QString::number(r)) << r;
         EXPECT_EQ(g.La(r, 1).valoare, QVariant(qint64(r))) << r;
         EXPECT_EQ(g.Text(r, 2), QString(r % 7, u'x')) << r;
@@ -113,12 +117,46 @@ TEST(Grila, CrestereSiMicsorare) {
     EXPECT_EQ(g.Text(n - 1, 4), T("ultima"));
     const Grila copie = g;
     EXPECT_EQ(copie, g);
-    g.SeteazaRanduri(1500);
+    g.SeteazaRanduri(9000);
     g.SeteazaRanduri(n);
-    EXPECT_TRUE(g.EsteGoala(2047, 1));
+    EXPECT_TRUE(g.EsteGoala(16384, 1));
     EXPECT_TRUE(g.EsteGoala(n - 1, 4));
-    EXPECT_EQ(g.Text(1499, 1), T("1499"));
+    EXPECT_EQ(g.Text(8999, 1), T("8999"));
     EXPECT_FALSE(copie == g);
+}
+
+TEST(Grila, TextDinBucatiInOriceCodare) {
+    Grila g(4, 3);
+    const QByteArray utf8 = QStringLiteral("Ștefan Țăruș").toUtf8();
+    const QString lung(3 << 19, u'a'); // longer than a block of text
+    struct Caz {
+        std::vector<QAnyStringView> bucati;
+        QString asteptat;
+    };
+    const std::vector<Caz> cazuri{
+        {{QUtf8StringView(utf8), u", ", QLatin1StringView("nr. 12A")}, T("Ștefan Țăruș, nr. 12A")},
+        {{QUtf8StringView("Ion"), u" ", QUtf8StringView("\xc8\x98" "erban")}, T("Ion Șerban")},
+        {{QLatin1StringView("caf\xe9"), QStringView(lung)}, T("café") + lung},
+        {{QUtf8StringView(""), QStringView()}, QString()},
+    };
+    for (const Caz& c : cazuri) {
+        g.ScriePiese(1, 1, std::span(c.bucati.data(), c.bucati.size()));
+        EXPECT_EQ(g.Text(1, 1), c.asteptat) << c.asteptat.left(30).toStdString();
+        // Texts written after a long one land whole.
+        g.ScriePiese(2, 1, {u"dupa"});
+        EXPECT_EQ(g.Text(2, 1), T("dupa"));
+    }
+    EXPECT_TRUE(g.EsteGoala(1, 1));
+
+    g.ScrieIntreg(1, 2, -1234567890123);
+    EXPECT_EQ(g.Text(1, 2), T("-1234567890123"));
+    EXPECT_EQ(g.Fel(1, 2), FelValoare::Intreg);
+    // A cell shown again takes the text and the value, and keeps its own look.
+    g.Bordura({3, 2, 3, 2}, Margine::Jos, Linie::Groasa);
+    g.CopiazaContinut(3, 2, 1, 2);
+    EXPECT_EQ(g.La(3, 2).text, T("-1234567890123"));
+    EXPECT_EQ(g.La(3, 2).valoare, QVariant(qint64(-1234567890123)));
+    EXPECT_EQ(g.La(3, 2).linii[3], Linie::Groasa);
 }
 
 Grila GrilaBogata() {
