@@ -529,16 +529,16 @@ Grila SituatieCentralizata(BazaDate& db, Mesaje& m, const MediuRaport& mediu, co
     const QString clauza = ClauzaOrdonare(a.ord1, a.ord2);
     const QString ordine = clauza.isEmpty() ? QStringLiteral(" ORDER BY C.FamilieID, C.CerereID")
                                             : clauza + QStringLiteral(", C.CerereID");
+    const QString stari = QStringLiteral("+C.Stare IN (1, 2, 6, 7, 8, 9)");
     const QString cereri = QStringLiteral("FROM Cereri C LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 LEFT JOIN "
-                                          "Familii F ON F.FamilieID = C.FamilieID WHERE +C.Stare IN (1, 2, 6, 7, 8, 9)");
+                                          "Familii F ON F.FamilieID = C.FamilieID WHERE ") + stari;
     Membri altii;
     {
-        CitireRapida q(db,
-                     QStringLiteral("SELECT CM.CerereID, P.Nume, P.Prenume, P.CNP FROM CereriMembrii CM LEFT JOIN "
-                                    "Membrii P ON P.MembruID = CM.MembruID WHERE CM.CerereID IN (SELECT C.CerereID ") +
-                         cereri +
-                         QStringLiteral(") AND CM.MembruID <> (SELECT C2.MembruID1 FROM Cereri C2 WHERE "
-                                        "C2.CerereID = CM.CerereID) ORDER BY CM.CerereID, CM.MembruID"));
+        // The request joined on each member's row, rather than looked up twice per member.
+        CitireRapida q(db, QStringLiteral("SELECT CM.CerereID, P.Nume, P.Prenume, P.CNP FROM CereriMembrii CM JOIN "
+                                          "Cereri C ON C.CerereID = CM.CerereID LEFT JOIN Membrii P ON P.MembruID = "
+                                          "CM.MembruID WHERE ") +
+                               stari + QStringLiteral(" AND CM.MembruID <> C.MembruID1 ORDER BY CM.CerereID, CM.MembruID"));
         q.Executa();
         while (q.Urmator())
             altii.pe.Adauga(q.Intreg("CerereID"), {altii.texte.Pune(q.Vedere("Nume")),
