@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/MemorieMare.h"
+
 #include <QAnyStringView>
 #include <QString>
 #include <QStringView>
@@ -7,9 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <initializer_list>
-#include <new>
 #include <optional>
 #include <span>
 #include <utility>
@@ -185,36 +185,6 @@ public:
     bool operator==(const Grila& alta) const;
 
 private:
-    // The blocks of a large grid are mapped zeroed in pages of 2 MB where the system has them: a
-    // million rows touch a few hundred pages instead of a hundred thousand.
-    static constexpr std::size_t PragMare = std::size_t(1) << 20;
-    static void* AlocaMare(std::size_t octeti);
-    static void ElibereazaMare(void* p, std::size_t octeti);
-
-    // Storage whose new elements are left as the system gives them: zeroed pages for the cells, whose
-    // empty state is all zeroes, and nothing for the texts, which are written before they are read.
-    template <typename T, bool Zero> struct Alocator {
-        using value_type = T;
-        Alocator() = default;
-        template <typename U> Alocator(const Alocator<U, Zero>&) {}
-        template <typename U> struct rebind { using other = Alocator<U, Zero>; };
-        T* allocate(std::size_t n) {
-            if (n * sizeof(T) >= PragMare) return static_cast<T*>(AlocaMare(n * sizeof(T)));
-            void* p = Zero ? std::calloc(n, sizeof(T)) : std::malloc(n * sizeof(T));
-            if (!p) throw std::bad_alloc();
-            return static_cast<T*>(p);
-        }
-        void deallocate(T* p, std::size_t n) {
-            if (n * sizeof(T) >= PragMare)
-                ElibereazaMare(p, n * sizeof(T));
-            else
-                std::free(p);
-        }
-        template <typename U> void construct(U*) {}
-        template <typename U, typename... A> void construct(U* p, A&&... a) { ::new (static_cast<void*>(p)) U(std::forward<A>(a)...); }
-        bool operator==(const Alocator&) const = default;
-    };
-
     // A cell as kept: its text in the grid's text store, its value packed, its look by number.
     struct Loc {
         std::uint32_t text = 0, lungime = 0;
@@ -235,10 +205,10 @@ private:
     int randuri_ = 0, coloane_ = 0;
     // Rows in blocks of a fixed count, so that a growing grid never moves the cells it holds.
     static constexpr int BitiBloc = 13;
-    std::vector<std::vector<Loc, Alocator<Loc, true>>> blocuri_;
+    std::vector<std::vector<Loc, AlocatorMare<Loc, true>>> blocuri_;
     // Texts one after another in blocks that never move, so that a grid of a million rows does not
     // hold a million separate strings.
-    std::vector<std::vector<char16_t, Alocator<char16_t, false>>> texte_;
+    std::vector<std::vector<char16_t, AlocatorMare<char16_t, false>>> texte_;
     std::size_t blocCurent_ = 0;
     std::vector<Aspect> aspecte_{Aspect{}};
     std::vector<Dreptunghi> uniri_;

@@ -2,6 +2,7 @@
 
 #include "base/Bani.h"
 #include "base/Eroare.h"
+#include "base/MemorieMare.h"
 #include "base/Setari.h"
 #include "base/Sume.h"
 #include "base/Texte.h"
@@ -375,7 +376,7 @@ void ColoaneProprii(Rand& r, const Valori& v, int fel) {
 // The requests of the month, in the chosen order. The rows are kept as read and written into the grid
 // once their number is known, so that the grid is sized once: its cells are many times the size of
 // the values.
-std::vector<Valori> CitesteRanduri(int fel, BazaDate& db, const Alegeri& a) {
+VectorMare<Valori> CitesteRanduri(int fel, BazaDate& db, const Alegeri& a) {
     const std::vector<int> stari = Stari(fel);
     QStringList semne;
     for (size_t i = 0; i < stari.size(); ++i)
@@ -404,7 +405,7 @@ std::vector<Valori> CitesteRanduri(int fel, BazaDate& db, const Alegeri& a) {
     const QDate inceput(a.an, a.luna, 1);
     q.Leaga(inceput).Leaga(inceput.addMonths(1));
     q.Executa();
-    std::vector<Valori> randuri;
+    VectorMare<Valori> randuri;
     while (q.Urmator()) {
         Valori& v = randuri.emplace_back();
         for (size_t i = 0; i < v.size(); ++i)
@@ -423,7 +424,7 @@ bool OrdineNumericaNr(const Alegeri& a) {
 // "9"); within each run of rows that tie on the first order they are put in the order of the number's
 // value, the text deciding between equal values ("9", "12", "12A"). Sorting here keeps the engine's
 // own order of the first key.
-void OrdoneazaNumereCasa(std::vector<Valori>& randuri, int ord1) {
+void OrdoneazaNumereCasa(VectorMare<Valori>& randuri, int ord1) {
     const std::vector<int> chei = ord1 == 1   ? std::vector<int>{cNrCerere}
                                   : ord1 == 2 ? std::vector<int>{cNume, cPrenume}
                                               : std::vector<int>{cStrada};
@@ -450,7 +451,7 @@ Grila Borderou(int fel, BazaDate& db, const Setari& s, const Alegeri& a, bool fo
     CapTabel(g, fel);
 
     CoduriPostale coduri(db);
-    std::vector<Valori> randuri = CitesteRanduri(fel, db, a);
+    VectorMare<Valori> randuri = CitesteRanduri(fel, db, a);
     if (!foaie && OrdineNumericaNr(a)) OrdoneazaNumereCasa(randuri, a.ord1);
 
     const int n = int(randuri.size());

@@ -2,6 +2,7 @@
 
 #include "base/Bani.h"
 #include "base/Eroare.h"
+#include "base/MemorieMare.h"
 #include "base/Mesaje.h"
 #include "base/Texte.h"
 #include "base/Val.h"
@@ -54,8 +55,8 @@ public:
     }
 
 private:
-    std::vector<std::pair<qint64, size_t>> inceputuri_;
-    std::vector<T> randuri_;
+    VectorMare<std::pair<qint64, size_t>> inceputuri_;
+    VectorMare<T> randuri_;
 };
 
 // Short texts one after another in one store, each known by its place: the millions of names of
@@ -76,7 +77,7 @@ public:
     QStringView operator[](Felie f) const { return QStringView(t_.data() + f.start, qsizetype(f.lungime)); }
 
 private:
-    std::vector<char16_t> t_;
+    VectorMare<char16_t> t_;
 };
 
 struct AltMembru {
