@@ -212,7 +212,8 @@ private:
     std::size_t blocCurent_ = 0;
     std::vector<Aspect> aspecte_{Aspect{}};
     std::vector<Dreptunghi> uniri_;
-    std::vector<int> inaltimi_, latimi_; // 0: the default
+    std::vector<int, AlocatorMare<int, false>> inaltimi_; // 0: the default
+    std::vector<int> latimi_;
     std::vector<std::optional<Aliniere>> aliniereColoane_;
 };
 

@@ -363,6 +363,11 @@ private:
     }
 
     void indexuri() {
+        for (const auto& ix : Schema::IndexuriInlocuite())
+            if (ops_.TabelaExista(ix.tabela) && ops_.IndexExista(ix)) {
+                ops_.StergeIndex(ix);
+                schimbare(QStringLiteral("Index sters: %1").arg(ix.Nume()));
+            }
         for (const auto& ix : Schema::Indexuri()) {
             if (!ops_.TabelaExista(ix.tabela) || ops_.IndexExista(ix)) continue;
             bool campuri = true;

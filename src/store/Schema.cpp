@@ -299,7 +299,8 @@ std::vector<IndexSchema> construiesteIndexuri() {
         prefix("Membrii", {"PrenumeCautare"}),
         ix("DateGen", {"Tip", "DataID"}),
         ix("DateGen", {"Denumire"}),
-        ix("Dispozitii", {"CerereID"}),
+        // A request's dispositions, and its newest one read from the index alone.
+        ix("Dispozitii", {"CerereID", "DataDisp", "DispozitieID"}),
         ix("Dispozitii", {"BeneficiarID"}),
         ix("Anchete", {"CerereID"}),
         ix("Strazi", {"LocalitateID"}),
@@ -369,6 +370,11 @@ const RelatieSchema* Schema::RelatiePeCamp(const QString& tabelaStraina, const Q
 
 const std::vector<IndexSchema>& Schema::Indexuri() {
     static const auto i = construiesteIndexuri();
+    return i;
+}
+
+const std::vector<IndexSchema>& Schema::IndexuriInlocuite() {
+    static const std::vector<IndexSchema> i{{QStringLiteral("Dispozitii"), {QStringLiteral("CerereID")}}};
     return i;
 }
 

@@ -63,6 +63,8 @@ const RelatieSchema* Relatie(const QString& nume);
 // The relation whose foreign side is this field, if any.
 const RelatieSchema* RelatiePeCamp(const QString& tabelaStraina, const QString& campStrain);
 const std::vector<IndexSchema>& Indexuri();
+// Indexes of earlier versions that a wider one of the list now serves: the upgrade drops them.
+const std::vector<IndexSchema>& IndexuriInlocuite();
 const std::vector<CampVechi>& CampuriVechi();
 
 // The fields a delivered table is created with: those the upgrade doesn't add. With `formaVeche`,

@@ -55,6 +55,8 @@ TEST_P(Actualizare, BazaVecheAjungeLaFormaDeAzi) {
     }
     // Files shaped outside the listed steps lack fields that no step adds.
     OperatiiSchema(db).StergeCamp(T("Cereri"), T("Lege416"));
+    for (const IndexSchema& ix : Schema::IndexuriInlocuite())
+        OperatiiSchema(db).CreazaIndex(ix);
     CopiazaCataloage();
     QStringList linii;
     const RezultatActualizare r = Ruleaza(&linii);
@@ -63,6 +65,12 @@ TEST_P(Actualizare, BazaVecheAjungeLaFormaDeAzi) {
     EXPECT_TRUE(linii.contains(T("Tabela redenumita: Bife in ListaBife")));
 
     OperatiiSchema ops(db);
+    for (const IndexSchema& ix : Schema::IndexuriInlocuite())
+        EXPECT_FALSE(ops.IndexExista(ix)) << ix.Nume().toStdString();
+    for (const IndexSchema& ix : Schema::Indexuri())
+        if (ops.TabelaExista(ix.tabela)) {
+            EXPECT_TRUE(ops.IndexExista(ix)) << ix.Nume().toStdString();
+        }
     for (const auto& t : Schema::Tabele()) {
         QStringList asteptate, gasite;
         for (const auto& c : t.campuri)

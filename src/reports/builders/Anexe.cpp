@@ -394,8 +394,8 @@ VectorMare<Valori> CitesteRanduri(int fel, BazaDate& db, const Alegeri& a) {
                        "FROM Familii F INNER JOIN Cereri C ON F.FamilieID = C.FamilieID "
                        "INNER JOIN Membrii M ON C.MembruID1 = M.MembruID "
                        "LEFT JOIN Dispozitii D ON D.DispozitieID = (SELECT D2.DispozitieID FROM Dispozitii D2 "
-                       "WHERE D2.CerereID = C.CerereID ORDER BY CASE WHEN D2.DataDisp IS NULL THEN 1 ELSE 0 END, "
-                       "D2.DataDisp DESC, D2.DispozitieID DESC LIMIT 1) "
+                       "WHERE D2.CerereID = C.CerereID ORDER BY D2.DataDisp DESC NULLS LAST, "
+                       "D2.DispozitieID DESC LIMIT 1) "
                        "WHERE +C.Stare IN (%1) AND C.DataStare >= ? AND C.DataStare < ?%2")
             .arg(semne.join(QStringLiteral(", ")),
                  ordine.isEmpty() ? QStringLiteral(" ORDER BY C.CerereID") : ordine + QStringLiteral(", C.CerereID"));
