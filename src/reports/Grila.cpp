@@ -4,7 +4,7 @@
 #include "base/Eroare.h"
 
 #include <QDate>
-#include <QStringDecoder>
+#include <QStringEncoder>
 
 #include <algorithm>
 #include <charconv>
@@ -27,9 +27,11 @@ FelValoare Felul(const QVariant& v) {
 }
 
 namespace {
-// Characters of a text block; a longer text gets a block of its own.
-constexpr std::size_t MarimeBloc = std::size_t(1) << 20;
-constexpr std::size_t MaximBlocuri = std::size_t(1) << 12;
+// Bytes of a text block, a page of 2 MB; a longer text gets a block of its own. A cell's place
+// holds the block's number above the offset's bits.
+constexpr int BitiLoc = 21;
+constexpr std::size_t MarimeBloc = std::size_t(1) << BitiLoc;
+constexpr std::size_t MaximBlocuri = std::size_t(1) << (32 - BitiLoc);
 } // namespace
 
 Grila::Grila(int randuri, int coloane) {
@@ -90,13 +92,13 @@ const Grila::Loc& Grila::loc(int rand, int col) const {
                                              size_t(col)];
 }
 
-QStringView Grila::TextVedere(int rand, int col) const {
+QUtf8StringView Grila::TextVedere(int rand, int col) const {
     const Loc& l = loc(rand, col);
     if (l.lungime == 0) return {};
-    return QStringView(texte_[l.text >> 20].data() + (l.text & (MarimeBloc - 1)), qsizetype(l.lungime));
+    return QUtf8StringView(texte_[l.text >> BitiLoc].data() + (l.text & (MarimeBloc - 1)), qsizetype(l.lungime));
 }
 
-char16_t* Grila::rezerva(Loc& l, std::size_t n) {
+char* Grila::rezerva(Loc& l, std::size_t n) {
     l.lungime = 0;
     l.text = 0;
     size_t bloc = blocCurent_;
@@ -107,56 +109,76 @@ char16_t* Grila::rezerva(Loc& l, std::size_t n) {
         if (n <= MarimeBloc) blocCurent_ = bloc;
     }
     auto& t = texte_[bloc];
-    l.text = uint32_t(bloc << 20 | t.size());
+    l.text = uint32_t(bloc << BitiLoc | t.size());
     t.resize(t.size() + n);
     return t.data() + (l.text & (MarimeBloc - 1));
 }
 
 void Grila::fixeaza(Loc& l, std::size_t n) {
-    auto& t = texte_[l.text >> 20];
+    auto& t = texte_[l.text >> BitiLoc];
     t.resize(size_t(l.text & (MarimeBloc - 1)) + n);
     l.lungime = uint32_t(n);
     if (n == 0) l.text = 0;
 }
 
 void Grila::scrieText(Loc& l, QStringView text) {
-    char16_t* p = rezerva(l, size_t(text.size()));
-    std::copy_n(text.utf16(), text.size(), p);
-    fixeaza(l, size_t(text.size()));
+    char* p = rezerva(l, MarimeUtf8(text));
+    fixeaza(l, size_t(PuneUtf8(p, text) - p));
 }
 
-char16_t* PuneUtf16(char16_t* p, QAnyStringView piesa) {
-    return piesa.visit([p](auto v) -> char16_t* {
+std::size_t MarimeUtf8(QAnyStringView text) {
+    return text.visit([](auto v) -> std::size_t {
+        using V = decltype(v);
+        if constexpr (std::is_same_v<V, QStringView>)
+            return 3 * size_t(v.size());
+        else if constexpr (std::is_same_v<V, QLatin1StringView>)
+            return 2 * size_t(v.size());
+        else
+            return size_t(v.size());
+    });
+}
+
+char* PuneUtf8(char* p, QAnyStringView text) {
+    return text.visit([p](auto v) -> char* {
         using V = decltype(v);
         if constexpr (std::is_same_v<V, QStringView>) {
-            return std::copy_n(v.utf16(), v.size(), p);
-        } else if constexpr (std::is_same_v<V, QLatin1StringView>) {
-            return std::transform(v.begin(), v.end(), p, [](char c) { return char16_t(uchar(c)); });
-        } else {
-            // Most names and addresses are plain ASCII, copied a byte at a time; the rest goes through the decoder.
-            const char* s = v.data();
-            const char* const sfarsit = s + v.size();
-            char16_t* o = p;
-            while (s != sfarsit && uchar(*s) < 0x80)
-                *o++ = char16_t(*s++);
+            // Most names and addresses are plain ASCII, copied a character at a time; the rest goes
+            // through the encoder.
+            const char16_t* s = v.utf16();
+            const char16_t* const sfarsit = s + v.size();
+            char* o = p;
+            while (s != sfarsit && *s < 0x80)
+                *o++ = char(*s++);
             if (s == sfarsit) return o;
-            QStringDecoder d(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
-            return reinterpret_cast<char16_t*>(
-                d.appendToBuffer(reinterpret_cast<QChar*>(o), QByteArrayView(s, sfarsit - s)));
+            QStringEncoder e(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
+            return e.appendToBuffer(o, QStringView(s, sfarsit));
+        } else if constexpr (std::is_same_v<V, QLatin1StringView>) {
+            char* o = p;
+            for (const char c : v) {
+                const auto u = uchar(c);
+                if (u < 0x80) {
+                    *o++ = c;
+                } else {
+                    *o++ = char(0xC0 | u >> 6);
+                    *o++ = char(0x80 | (u & 0x3F));
+                }
+            }
+            return o;
+        } else {
+            return std::copy_n(v.data(), v.size(), p);
         }
     });
 }
 
 void Grila::ScriePiese(int rand, int col, std::span<const QAnyStringView> piese) {
     Loc& l = loc(rand, col);
-    // A UTF-8 piece never has more UTF-16 units than bytes: the sum of sizes is room enough.
     size_t maxim = 0;
     for (const QAnyStringView& x : piese)
-        maxim += size_t(x.size());
-    char16_t* const inceput = rezerva(l, maxim);
-    char16_t* p = inceput;
+        maxim += MarimeUtf8(x);
+    char* const inceput = rezerva(l, maxim);
+    char* p = inceput;
     for (const QAnyStringView& x : piese)
-        p = PuneUtf16(p, x);
+        p = PuneUtf8(p, x);
     fixeaza(l, size_t(p - inceput));
     l.fel = FelValoare::Text;
     l.valoare = 0;

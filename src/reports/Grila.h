@@ -56,9 +56,10 @@ enum class Margine {
     DiagonalaJos = 7
 };
 
-// A text put at `p` as UTF-16, from whichever encoding its view has; returns where it ends. There
-// must be room for as many characters as the view's size.
-char16_t* PuneUtf16(char16_t* p, QAnyStringView text);
+// A text put at `p` as UTF-8, from whichever encoding its view has; returns where it ends. There
+// must be room for MarimeUtf8 bytes, the most it can take.
+char* PuneUtf8(char* p, QAnyStringView text);
+std::size_t MarimeUtf8(QAnyStringView text);
 
 // What a cell's typed value is, as the spreadsheets write it: none is text.
 enum class FelValoare : std::uint8_t { Text, Suma, Data, Intreg };
@@ -117,8 +118,8 @@ public:
     Celula La(int rand, int col) const;
     void Seteaza(int rand, int col, const Celula& c);
     QString Text(int rand, int col) const { return TextVedere(rand, col).toString(); }
-    // The text without a copy, good until the grid next changes.
-    QStringView TextVedere(int rand, int col) const;
+    // The text as kept, in UTF-8, without a copy; good until the grid next changes.
+    QUtf8StringView TextVedere(int rand, int col) const;
     FelValoare Fel(int rand, int col) const { return loc(rand, col).fel; }
     QVariant Valoare(int rand, int col) const;
     const Aspect& AspectLa(int rand, int col) const { return aspecte_[loc(rand, col).aspect]; }
@@ -198,8 +199,8 @@ private:
     void redimensioneaza(int randuri, int coloane);
     std::uint16_t numarAspect(const Aspect& a);
     void scrieText(Loc& l, QStringView text);
-    // Room for up to n characters of a cell's text, then the count written there.
-    char16_t* rezerva(Loc& l, std::size_t n);
+    // Room for up to n bytes of a cell's text, then the count written there.
+    char* rezerva(Loc& l, std::size_t n);
     void fixeaza(Loc& l, std::size_t n);
 
     int randuri_ = 0, coloane_ = 0;
@@ -207,8 +208,9 @@ private:
     static constexpr int BitiBloc = 13;
     std::vector<std::vector<Loc, AlocatorMare<Loc, true>>> blocuri_;
     // Texts one after another in blocks that never move, so that a grid of a million rows does not
-    // hold a million separate strings.
-    std::vector<std::vector<char16_t, AlocatorMare<char16_t, false>>> texte_;
+    // hold a million separate strings; in UTF-8, which is half the size for the mostly plain letters
+    // of names and addresses, and what the spreadsheets and the engine speak.
+    std::vector<std::vector<char, AlocatorMare<char, false>>> texte_;
     std::size_t blocCurent_ = 0;
     std::vector<Aspect> aspecte_{Aspect{}};
     std::vector<Dreptunghi> uniri_;

@@ -20,6 +20,7 @@
 #include <array>
 #include <functional>
 #include <span>
+#include <string_view>
 #include <vector>
 
 namespace Raport {
@@ -68,16 +69,16 @@ public:
     };
     Felie Pune(QAnyStringView text) {
         const size_t inceput = t_.size();
-        t_.resize(inceput + size_t(text.size()));
-        const size_t sfarsit = size_t(PuneUtf16(t_.data() + inceput, text) - t_.data());
+        t_.resize(inceput + MarimeUtf8(text));
+        const size_t sfarsit = size_t(PuneUtf8(t_.data() + inceput, text) - t_.data());
         t_.resize(sfarsit);
         if (sfarsit > UINT32_MAX) throw Eroare(QStringLiteral("Lista are prea mult text."));
         return {std::uint32_t(inceput), std::uint32_t(sfarsit - inceput)};
     }
-    QStringView operator[](Felie f) const { return QStringView(t_.data() + f.start, qsizetype(f.lungime)); }
+    QUtf8StringView operator[](Felie f) const { return QUtf8StringView(t_.data() + f.start, qsizetype(f.lungime)); }
 
 private:
-    VectorMare<char16_t> t_;
+    VectorMare<char> t_;
 };
 
 struct AltMembru {
@@ -107,9 +108,11 @@ Membri AltiMembri(BazaDate& db, const QString& cereri, const std::function<void(
     while (q.Urmator())
         m.pe.Adauga(q.Intreg(0), {m.texte.Pune(q.Vedere(2)), m.texte.Pune(q.Vedere(3)), m.texte.Pune(q.Vedere(4)),
                                   m.texte.Pune(q.Vedere(5)), q.Intreg(1)});
-    m.pe.Ordoneaza([&t = m.texte](const AltMembru& x, const AltMembru& y) {
-        if (const int c = t[x.nume].compare(t[y.nume])) return c < 0;
-        if (const int c = t[x.prenume].compare(t[y.prenume])) return c < 0;
+    // UTF-8 bytes compare in the order of the characters, as the names' texts do.
+    const auto octeti = [&t = m.texte](Depozit::Felie f) { return std::string_view(t[f].data(), size_t(t[f].size())); };
+    m.pe.Ordoneaza([&](const AltMembru& x, const AltMembru& y) {
+        if (const int c = octeti(x.nume).compare(octeti(y.nume))) return c < 0;
+        if (const int c = octeti(x.prenume).compare(octeti(y.prenume))) return c < 0;
         return x.id < y.id;
     });
     return m;

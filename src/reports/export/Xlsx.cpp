@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <string>
 #include <map>
 #include <unordered_map>
 #include <vector>
@@ -107,11 +108,11 @@ void scrieCelula(lxw_worksheet* ws, lxw_row_t r, lxw_col_t c, const Grila& g, in
     case FelValoare::Text:
         break;
     }
-    const QStringView text = g.TextVedere(rand, col);
+    const QUtf8StringView text = g.TextVedere(rand, col);
     if (text.isEmpty())
         verifica(worksheet_write_blank(ws, r, c, f), eroare());
     else
-        verifica(worksheet_write_string(ws, r, c, text.toUtf8().constData(), f), eroare());
+        verifica(worksheet_write_string(ws, r, c, std::string(text.data(), size_t(text.size())).c_str(), f), eroare());
 }
 
 void scrieFoaia(const Grila& g, const QString& cale) {
