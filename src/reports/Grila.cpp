@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <climits>
 #include <type_traits>
 #include <utility>
 
@@ -35,6 +36,7 @@ constexpr std::size_t MaximBlocuri = std::size_t(1) << (32 - BitiLoc);
 } // namespace
 
 Grila::Grila(int randuri, int coloane) {
+    static_assert(sizeof(Loc) == 16, "a cell of a large list is kept in 16 bytes");
     redimensioneaza(randuri, coloane);
 }
 
@@ -181,7 +183,18 @@ void Grila::ScriePiese(int rand, int col, std::span<const QAnyStringView> piese)
         p = PuneUtf8(p, x);
     fixeaza(l, size_t(p - inceput));
     l.fel = FelValoare::Text;
-    l.valoare = 0;
+    puneValoare(l, 0);
+}
+
+void Grila::puneValoare(Loc& l, std::int64_t v) {
+    l.mare = v < INT32_MIN || v > INT32_MAX;
+    if (!l.mare) {
+        l.valoare = std::int32_t(v);
+        return;
+    }
+    if (valoriMari_.size() > size_t(INT32_MAX)) throw Eroare(QStringLiteral("Grila nu mai poate primi valori."));
+    l.valoare = std::int32_t(valoriMari_.size());
+    valoriMari_.push_back(v);
 }
 
 void Grila::ScrieIntreg(int rand, int col, qint64 n) {
@@ -190,7 +203,7 @@ void Grila::ScrieIntreg(int rand, int col, qint64 n) {
     ScriePiese(rand, col, {QLatin1StringView(t, r.ptr)});
     Loc& l = loc(rand, col);
     l.fel = FelValoare::Intreg;
-    l.valoare = n;
+    puneValoare(l, n);
 }
 
 void Grila::CopiazaContinut(int rand, int col, int randSursa, int colSursa) {
@@ -205,11 +218,11 @@ QVariant Grila::Valoare(int rand, int col) const {
     const Loc& l = loc(rand, col);
     switch (l.fel) {
     case FelValoare::Suma:
-        return QVariant::fromValue(Bani::DinUnitati(l.valoare));
+        return QVariant::fromValue(Bani::DinUnitati(valoareLa(l)));
     case FelValoare::Data:
-        return QDate::fromJulianDay(l.valoare);
+        return QDate::fromJulianDay(valoareLa(l));
     case FelValoare::Intreg:
-        return qint64(l.valoare);
+        return qint64(valoareLa(l));
     case FelValoare::Text:
         break;
     }
@@ -249,16 +262,16 @@ void Grila::Scrie(int rand, int col, const QString& text, const QVariant& valoar
     l.fel = Felul(valoare);
     switch (l.fel) {
     case FelValoare::Suma:
-        l.valoare = valoare.value<Bani>().Unitati();
+        puneValoare(l, valoare.value<Bani>().Unitati());
         break;
     case FelValoare::Data:
-        l.valoare = valoare.toDate().toJulianDay();
+        puneValoare(l, valoare.toDate().toJulianDay());
         break;
     case FelValoare::Intreg:
-        l.valoare = valoare.toLongLong();
+        puneValoare(l, valoare.toLongLong());
         break;
     case FelValoare::Text:
-        l.valoare = 0;
+        puneValoare(l, 0);
         break;
     }
 }
@@ -422,7 +435,7 @@ bool Grila::operator==(const Grila& alta) const {
     for (int r = 0; r < randuri_; ++r)
         for (int c = 0; c < coloane_; ++c) {
             const Loc &a = loc(r, c), &b = alta.loc(r, c);
-            if (a.fel != b.fel || a.valoare != b.valoare || AspectLa(r, c) != alta.AspectLa(r, c) ||
+            if (a.fel != b.fel || valoareLa(a) != alta.valoareLa(b) || AspectLa(r, c) != alta.AspectLa(r, c) ||
                 TextVedere(r, c) != alta.TextVedere(r, c))
                 return false;
         }

@@ -189,10 +189,15 @@ private:
     // A cell as kept: its text in the grid's text store, its value packed, its look by number.
     struct Loc {
         std::uint32_t text = 0, lungime = 0;
-        std::int64_t valoare = 0; // units of Bani, the Julian day, or the number
+        // Units of Bani, the Julian day, or the number; with `mare`, its place among the values that
+        // need more than 32 bits: a cell in 16 bytes.
+        std::int32_t valoare = 0;
         std::uint16_t aspect = 0;
         FelValoare fel = FelValoare::Text;
+        bool mare = false;
     };
+    std::int64_t valoareLa(const Loc& l) const { return l.mare ? valoriMari_[size_t(l.valoare)] : l.valoare; }
+    void puneValoare(Loc& l, std::int64_t v);
     const Loc& loc(int rand, int col) const;
     Loc& loc(int rand, int col) { return const_cast<Loc&>(std::as_const(*this).loc(rand, col)); }
     Dreptunghi normal(const Dreptunghi& d) const;
@@ -212,6 +217,7 @@ private:
     // of names and addresses, and what the spreadsheets and the engine speak.
     std::vector<std::vector<char, AlocatorMare<char, false>>> texte_;
     std::size_t blocCurent_ = 0;
+    std::vector<std::int64_t> valoriMari_;
     std::vector<Aspect> aspecte_{Aspect{}};
     std::vector<Dreptunghi> uniri_;
     std::vector<int, AlocatorMare<int, false>> inaltimi_; // 0: the default
