@@ -258,7 +258,9 @@ int main(int argc, char** argv) {
         g.Bordura({5, 1, 5, 7}, Raport::Margine::Jos, Raport::Linie::Groasa);
         for (int r = 6; r < 16; ++r) {
             g.Scrie(r, 1, QString::number(r - 5));
-            g.Scrie(r, 4, QStringLiteral("POPESCU ION %1").arg(r));
+            // As a list writes them from the engine's UTF-8, marks included.
+            g.ScriePiese(r, 4, {QUtf8StringView("\xc8\x98TEF\xc4\x82NESCU"), u" ", QString::number(r)});
+            g.ScriePiese(r, 7, {QUtf8StringView("Br\xc4\x83ne\xc8\x99ti"), u", str. ", QLatin1StringView("G\xe2rii")});
             g.Bordura({r, 1, r, 7}, Raport::Margine::Jos, r == 15 ? Raport::Linie::Groasa : Raport::Linie::Subtire);
         }
         f.Grid->Arata(g);
