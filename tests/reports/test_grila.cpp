@@ -219,6 +219,12 @@ TEST(Grila, XlsxCuNumereDateSiUniri) {
 
     EXPECT_THROW(ScrieXlsx(GrilaBogata(), dir.filePath(T("lipsa/foaie.xlsx"))), Eroare);
     EXPECT_FALSE(QFile::exists(dir.filePath(T("lipsa/foaie.xlsx"))));
+
+    // A row more than a sheet holds is refused before anything is written.
+    const QString mare = dir.filePath(T("mare.xlsx"));
+    EXPECT_NO_THROW(ScrieXlsx(Grila(1048576 + 1, 2), mare));
+    EXPECT_THROW(ScrieXlsx(Grila(1048576 + 2, 2), mare), Eroare);
+    EXPECT_TRUE(QFile::exists(mare)) << "the earlier file stays as it was";
 }
 
 bool BineFormat(const QString& xml) {

@@ -116,6 +116,14 @@ void scrieCelula(lxw_worksheet* ws, lxw_row_t r, lxw_col_t c, const Grila& g, in
 }
 
 void scrieFoaia(const Grila& g, const QString& cale) {
+    // Told before a million rows are written in vain: the sheet has room for so many and no more.
+    if (g.Randuri() - 1 > LXW_ROW_MAX || g.Coloane() - 1 > LXW_COL_MAX)
+        throw Eroare(QStringLiteral("Raportul are %1 randuri si %2 coloane, iar o foaie de calcul primeste cel mult "
+                                    "%3 randuri si %4 coloane. Restrangeti alegerile sau salvati grila.")
+                         .arg(g.Randuri() - 1)
+                         .arg(g.Coloane() - 1)
+                         .arg(LXW_ROW_MAX)
+                         .arg(LXW_COL_MAX));
     // The library's own temporary files go beside the sheet, in the writer's folder.
     const QByteArray fisier = QFile::encodeName(cale);
     const QByteArray folder = QFile::encodeName(QFileInfo(cale).path());
