@@ -44,26 +44,27 @@ void Grila::redimensioneaza(int randuri, int coloane) {
     if (randuri < 1 || coloane < 1)
         throw Eroare(
             QStringLiteral("Grila are cel putin un rand si o coloana fixe (%1 x %2 cerute)").arg(randuri).arg(coloane));
-    constexpr size_t PeBloc = size_t(1) << BitiBloc;
-    const size_t blocuri = (size_t(randuri) + PeBloc - 1) >> BitiBloc;
+    const size_t blocuri = blocRand(size_t(randuri) - 1) + 1;
     if (coloane != coloane_) {
         decltype(blocuri_) noi(blocuri);
-        for (auto& b : noi)
-            b.resize(PeBloc * size_t(coloane));
-        for (int r = 0; r < std::min(randuri, randuri_); ++r)
+        for (size_t b = 0; b < blocuri; ++b)
+            noi[b].resize(randuriBloc(b) * size_t(coloane));
+        for (int r = 0; r < std::min(randuri, randuri_); ++r) {
+            const size_t b = blocRand(size_t(r));
             std::copy_n(&loc(r, 0), std::min(coloane, coloane_),
-                        noi[size_t(r) >> BitiBloc].begin() + std::ptrdiff_t((size_t(r) & (PeBloc - 1)) * size_t(coloane)));
+                        noi[b].begin() + std::ptrdiff_t((size_t(r) - primulRandBloc(b)) * size_t(coloane)));
+        }
         blocuri_ = std::move(noi);
     } else {
         // Rows given up are emptied, so that they come back empty if the grid grows again.
-        for (int r = randuri; r < randuri_ && (size_t(r) >> BitiBloc) < blocuri; ++r)
+        for (int r = randuri; r < randuri_ && blocRand(size_t(r)) < blocuri; ++r)
             std::fill_n(&loc(r, 0), coloane_, Loc{});
         // Only the blocks added are filled: a grid grown a row at a time would otherwise pass over all its
         // blocks for every row.
         const size_t vechi = blocuri_.size();
         blocuri_.resize(blocuri);
         for (size_t b = vechi; b < blocuri; ++b)
-            blocuri_[b].resize(PeBloc * size_t(coloane));
+            blocuri_[b].resize(randuriBloc(b) * size_t(coloane));
     }
     const bool micsorata = randuri < randuri_ || coloane < coloane_;
     randuri_ = randuri;
@@ -90,8 +91,8 @@ const Grila::Loc& Grila::loc(int rand, int col) const {
                          .arg(col)
                          .arg(randuri_)
                          .arg(coloane_));
-    return blocuri_[size_t(rand) >> BitiBloc][(size_t(rand) & ((size_t(1) << BitiBloc) - 1)) * size_t(coloane_) +
-                                             size_t(col)];
+    const size_t b = blocRand(size_t(rand));
+    return blocuri_[b][(size_t(rand) - primulRandBloc(b)) * size_t(coloane_) + size_t(col)];
 }
 
 QUtf8StringView Grila::TextVedere(int rand, int col) const {

@@ -8,6 +8,7 @@
 #include <QVariant>
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <initializer_list>
 #include <optional>
@@ -209,8 +210,19 @@ private:
     void fixeaza(Loc& l, std::size_t n);
 
     int randuri_ = 0, coloane_ = 0;
-    // Rows in blocks of a fixed count, so that a growing grid never moves the cells it holds.
-    static constexpr int BitiBloc = 13;
+    // Rows in blocks that never move as the grid grows: the first of 2^BitiPrimulBloc rows, each
+    // next as many rows as all before it. A large block is then a whole number of the system's 2 MB
+    // pages, none zeroed in vain, and a small grid stays small.
+    static constexpr int BitiPrimulBloc = 10;
+    static std::size_t blocRand(std::size_t rand) {
+        return rand >> BitiPrimulBloc == 0 ? 0 : std::size_t(std::bit_width(rand)) - BitiPrimulBloc;
+    }
+    static std::size_t primulRandBloc(std::size_t bloc) {
+        return bloc == 0 ? 0 : std::size_t(1) << (BitiPrimulBloc + bloc - 1);
+    }
+    static std::size_t randuriBloc(std::size_t bloc) {
+        return std::size_t(1) << (bloc == 0 ? BitiPrimulBloc : BitiPrimulBloc + bloc - 1);
+    }
     std::vector<std::vector<Loc, AlocatorMare<Loc, true>>> blocuri_;
     // Texts one after another in blocks that never move, so that a grid of a million rows does not
     // hold a million separate strings; in UTF-8, which is half the size for the mostly plain letters

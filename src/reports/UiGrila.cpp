@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <utility>
 
 namespace {
 
@@ -84,8 +85,8 @@ UiGrila::UiGrila(QWidget* parinte) : QTableView(parinte) {
                                  "rgb(148,190,231); } QHeaderView::section { background: rgb(90,158,214); }"));
 }
 
-void UiGrila::Arata(const Raport::Grila& g) {
-    grila_ = g;
+void UiGrila::Arata(Raport::Grila g) {
+    grila_ = std::move(g);
     clearSpans();
     static_cast<ModelGrila*>(model_)->Reincarca();
     for (int c = 1; c < grila_.Coloane(); ++c)

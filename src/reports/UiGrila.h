@@ -14,7 +14,8 @@ public:
     explicit UiGrila(QWidget* parinte = nullptr);
 
     // Shows a grid anew (after a builder ran, or a file was loaded).
-    void Arata(const Raport::Grila& g);
+    // Taken by value: a report just built is moved in rather than copied, a million rows included.
+    void Arata(Raport::Grila g);
     const Raport::Grila& Grila() const { return grila_; }
 
 private:

@@ -171,7 +171,7 @@ void frmRapoarte::Construieste() {
     LaMargine(m_, [&] {
         Grid->Arata(GrilaNoua(p_.setari));
         Grila g = Raport::Construieste(cboTipRaport->currentIndex(), false, p_.bd, m_, Mediul(), Alegerile());
-        Grid->Arata(g);
+        Grid->Arata(std::move(g));
     });
     QApplication::restoreOverrideCursor();
 }
