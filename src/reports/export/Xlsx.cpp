@@ -32,7 +32,9 @@ uint8_t bordura(Linie l) {
     return LXW_BORDER_NONE;
 }
 
-// One format per look, shared by the cells that have it: a workbook holds a limited number.
+// One format per look, shared by the cells that have it: a workbook holds a limited number. Looks
+// that differ only in what a sheet does not keep share one format too: the library finds the index
+// of a format equal to an earlier one by hashing it again at every cell it is written to.
 class Formate {
 public:
     Formate(lxw_workbook* wb, const Grila& g) : wb_(wb), g_(g) {}
@@ -41,47 +43,94 @@ public:
         const std::uint64_t cheie = g_.CheieAspect(rand, col);
         auto it = formate_.find(cheie);
         if (it != formate_.end()) return it->second;
-        const Celula& c = g_.La(rand, col);
-        const Aliniere a = g_.AliniereCelula(rand, col);
-        const Font f = g_.FontCelula(rand, col);
-        const FelValoare fel = Felul(c.valoare);
-
-        lxw_format* x = workbook_add_format(wb_);
-        const QByteArray nume = f.nume.toUtf8();
-        if (!nume.isEmpty()) format_set_font_name(x, nume.constData());
-        if (f.marime > 0) format_set_font_size(x, f.marime);
-        if (f.Bold()) format_set_bold(x);
-        if (f.Italic()) format_set_italic(x);
-        if (f.Subliniat()) format_set_underline(x, LXW_UNDERLINE_SINGLE);
-        format_set_align(x, a.orizontal == Orizontal::Stanga  ? LXW_ALIGN_LEFT
-                            : a.orizontal == Orizontal::Centru ? LXW_ALIGN_CENTER
-                                                               : LXW_ALIGN_RIGHT);
-        format_set_align(x, a.vertical == Vertical::Sus      ? LXW_ALIGN_VERTICAL_TOP
-                            : a.vertical == Vertical::Centru ? LXW_ALIGN_VERTICAL_CENTER
-                                                             : LXW_ALIGN_VERTICAL_BOTTOM);
-        if (c.incadrare) format_set_text_wrap(x);
-        format_set_left(x, bordura(c.linii[0]));
-        format_set_right(x, bordura(c.linii[1]));
-        format_set_top(x, bordura(c.linii[2]));
-        format_set_bottom(x, bordura(c.linii[3]));
-        const bool sus = c.linii[4] != Linie::Nimic, jos = c.linii[5] != Linie::Nimic;
-        if (sus || jos) {
-            format_set_diag_type(x, sus && jos ? LXW_DIAGONAL_BORDER_UP_DOWN
-                                    : sus      ? LXW_DIAGONAL_BORDER_UP
-                                               : LXW_DIAGONAL_BORDER_DOWN);
-            format_set_diag_border(x, bordura(sus ? c.linii[4] : c.linii[5]));
-        }
-        if (fel == FelValoare::Suma) format_set_num_format(x, "0.00");
-        if (fel == FelValoare::Data) format_set_num_format(x, "dd.mm.yyyy");
-        if (fel == FelValoare::Intreg) format_set_num_format(x, "0");
-        formate_.emplace(cheie, x);
-        return x;
+        const Proprietati p = proprietati(rand, col);
+        auto& egal = dupaProprietati_[p];
+        if (!egal) egal = format(p);
+        formate_.emplace(cheie, egal);
+        return egal;
     }
 
 private:
+    struct Proprietati {
+        std::string font;
+        double marime = 0;
+        bool bold = false, italic = false, subliniat = false, incadrare = false;
+        uint8_t orizontal = 0, vertical = 0, stanga = 0, dreapta = 0, sus = 0, jos = 0, diagonala = 0,
+                linieDiagonala = 0;
+        FelValoare numar = FelValoare::Text;
+        auto operator<=>(const Proprietati&) const = default;
+    };
+
+    Proprietati proprietati(int rand, int col) const {
+        const Celula& c = g_.La(rand, col);
+        const Aliniere a = g_.AliniereCelula(rand, col);
+        const Font f = g_.FontCelula(rand, col);
+        Proprietati p;
+        p.font = f.nume.toStdString();
+        p.marime = f.marime;
+        p.bold = f.Bold();
+        p.italic = f.Italic();
+        p.subliniat = f.Subliniat();
+        p.incadrare = c.incadrare;
+        p.orizontal = a.orizontal == Orizontal::Stanga   ? LXW_ALIGN_LEFT
+                      : a.orizontal == Orizontal::Centru ? LXW_ALIGN_CENTER
+                                                         : LXW_ALIGN_RIGHT;
+        p.vertical = a.vertical == Vertical::Sus      ? LXW_ALIGN_VERTICAL_TOP
+                     : a.vertical == Vertical::Centru ? LXW_ALIGN_VERTICAL_CENTER
+                                                      : LXW_ALIGN_VERTICAL_BOTTOM;
+        p.stanga = bordura(c.linii[0]);
+        p.dreapta = bordura(c.linii[1]);
+        p.sus = bordura(c.linii[2]);
+        p.jos = bordura(c.linii[3]);
+        const bool urcand = c.linii[4] != Linie::Nimic, coborand = c.linii[5] != Linie::Nimic;
+        if (urcand || coborand) {
+            p.diagonala = urcand && coborand ? LXW_DIAGONAL_BORDER_UP_DOWN
+                          : urcand           ? LXW_DIAGONAL_BORDER_UP
+                                             : LXW_DIAGONAL_BORDER_DOWN;
+            p.linieDiagonala = bordura(urcand ? c.linii[4] : c.linii[5]);
+        }
+        p.numar = Felul(c.valoare);
+        return p;
+    }
+
+    lxw_format* format(const Proprietati& p) {
+        lxw_format* x = workbook_add_format(wb_);
+        if (!p.font.empty()) format_set_font_name(x, p.font.c_str());
+        if (p.marime > 0) format_set_font_size(x, p.marime);
+        if (p.bold) format_set_bold(x);
+        if (p.italic) format_set_italic(x);
+        if (p.subliniat) format_set_underline(x, LXW_UNDERLINE_SINGLE);
+        format_set_align(x, p.orizontal);
+        format_set_align(x, p.vertical);
+        if (p.incadrare) format_set_text_wrap(x);
+        format_set_left(x, p.stanga);
+        format_set_right(x, p.dreapta);
+        format_set_top(x, p.sus);
+        format_set_bottom(x, p.jos);
+        if (p.diagonala) {
+            format_set_diag_type(x, p.diagonala);
+            format_set_diag_border(x, p.linieDiagonala);
+        }
+        switch (p.numar) {
+        case FelValoare::Suma:
+            format_set_num_format(x, "0.00");
+            break;
+        case FelValoare::Data:
+            format_set_num_format(x, "dd.mm.yyyy");
+            break;
+        case FelValoare::Intreg:
+            format_set_num_format(x, "0");
+            break;
+        case FelValoare::Text:
+            break;
+        }
+        return x;
+    }
+
     lxw_workbook* wb_;
     const Grila& g_;
     std::unordered_map<std::uint64_t, lxw_format*> formate_;
+    std::map<Proprietati, lxw_format*> dupaProprietati_;
 };
 
 void verifica(lxw_error e, const QString& ce) {
