@@ -4,10 +4,12 @@
 #include "reports/Desen.h"
 #include "reports/Rapoarte.h"
 #include "reports/UiGrila.h"
+#include "base/Urmarire.h"
 #include "store/BazaDate.h"
 #include "store/Program.h"
 #include "ui/UiMargine.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
@@ -16,10 +18,13 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QElapsedTimer>
+#include <limits>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QProgressDialog>
 #include <QPushButton>
 
 using namespace Raport;
@@ -197,4 +202,52 @@ void UiFereastraRaport::cmdPrintPage_Click() {
     pr.setFromTo(*pagina, *pagina);
     if (Tipareste) return Tipareste(pr);
     LaMargine(m_, [&] { Deseneaza(pr, g, *pagina); });
+}
+
+bool UiFereastraRaport::LucruLung(const std::function<void()>& corp) {
+    QProgressDialog progres(this);
+    progres.setObjectName(QStringLiteral("progres"));
+    progres.setWindowTitle(windowTitle());
+    progres.setWindowModality(Qt::WindowModal);
+    progres.setCancelButtonText(QStringLiteral("Opreste"));
+    progres.setAutoClose(false);
+    progres.setAutoReset(false);
+    // Shown only when the work lasts: most reports are built before the clerk would read it.
+    progres.setMinimumDuration(std::numeric_limits<int>::max());
+    progres.setRange(0, 0);
+    progres.setMinimumWidth(360);
+    QElapsedTimer ceas;
+    ceas.start();
+    // A report reads from several queries, each counting from one: the clerk sees their sum.
+    qint64 inainte = 0, ultimul = 0;
+    const Urmarire urmarire([&](qint64 facute, qint64 total) {
+        if (total == 0 && facute < ultimul) inainte += ultimul;
+        ultimul = total == 0 ? facute : 0;
+        if (total > 0 && facute >= total) {
+            progres.setLabelText(QStringLiteral("Se incheie fisierul: %L1 randuri").arg(total));
+            progres.setRange(0, 0);
+        } else if (total > 0) {
+            // The bar counts in thousands, which an int holds for any sheet.
+            progres.setLabelText(QStringLiteral("Se scrie fisierul: %L1 din %L2 randuri").arg(facute).arg(total));
+            progres.setRange(0, int(total / 1000) + 1);
+            progres.setValue(int(facute / 1000));
+        } else {
+            progres.setLabelText(QStringLiteral("Se citesc datele raportului: %L1 randuri").arg(inainte + facute));
+            progres.setRange(0, 0);
+        }
+        if (!progres.isVisible() && ceas.elapsed() >= 400) progres.show();
+        if (progres.isVisible()) QCoreApplication::processEvents();
+        return !progres.wasCanceled();
+    });
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    bool oprit = false;
+    const bool gata = LaMargine(m_, [&] {
+        try {
+            corp();
+        } catch (const Oprit&) {
+            oprit = true;
+        }
+    });
+    QApplication::restoreOverrideCursor();
+    return gata && !oprit;
 }

@@ -62,6 +62,10 @@ protected:
     Raport::MediuRaport Mediul() const;
     // Opens a written file on the desktop; told when nothing could open it.
     void Deschide(const QString& fisier);
+    // Long work of the window (a report built, a file written) under a progress window that shows once
+    // the work lasts, with a button that stops it. An error is shown to the clerk, a stop is not. True
+    // when the work ran to its end.
+    bool LucruLung(const std::function<void()>& corp);
 
     Program& p_;
     Mesaje& m_;

@@ -8,7 +8,6 @@
 #include "store/Program.h"
 #include "ui/UiMargine.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QGridLayout>
@@ -133,25 +132,19 @@ bool frmBorderou::Alese() {
 
 void frmBorderou::cmdOK_Click() {
     if (!Alese()) return;
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    LaMargine(m_, [&] {
-        Grid->Arata(GrilaNoua(p_.setari));
-        Grid->Arata(Borderou(p_.bd, m_, p_.setari, AlegerileBorderou()));
-    });
-    QApplication::restoreOverrideCursor();
+    Grid->Arata(GrilaNoua(p_.setari));
+    LucruLung([&] { Grid->Arata(Borderou(p_.bd, m_, p_.setari, AlegerileBorderou())); });
 }
 
 void frmBorderou::cmdExport_Click() {
     if (!Alese()) return;
-    QApplication::setOverrideCursor(Qt::WaitCursor);
     QString fisier;
-    LaMargine(m_, [&] {
+    LucruLung([&] {
         fisier = ExportaBorderou(p_.bd, m_, p_.setari, AlegerileBorderou(), FolderExportEfectiv(p_.setari));
     });
-    QApplication::restoreOverrideCursor();
     if (!fisier.isEmpty()) Deschide(fisier);
 }
 
 void frmBorderou::cmdExportGrid_Click() {
-    LaMargine(m_, [&] { SalveazaCel(Grid->Grila(), QDir(FolderExportEfectiv(p_.setari)).filePath(GrilaBorderou)); });
+    LucruLung([&] { SalveazaCel(Grid->Grila(), QDir(FolderExportEfectiv(p_.setari)).filePath(GrilaBorderou)); });
 }

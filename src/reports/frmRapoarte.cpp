@@ -12,7 +12,6 @@
 #include "store/Program.h"
 #include "ui/UiMargine.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
@@ -102,13 +101,11 @@ frmRapoarte::frmRapoarte(Program& p, Mesaje& m, QWidget* parinte) : UiFereastraR
     connect(Timer1, &QTimer::timeout, this, &frmRapoarte::Timer1_Timer);
     for (size_t i = 0; i < cmdBAS.size(); ++i)
         connect(cmdBAS[i], &QPushButton::clicked, this, [this, i] {
-            QApplication::setOverrideCursor(Qt::WaitCursor);
             QString fisier;
-            LaMargine(m_, [&] {
+            LucruLung([&] {
                 fisier = ExportaBas(p_.bd, FormularBas(i), p_.applicationPath, Foldere::FolderLivrat(),
                                     FolderExportEfectiv(p_.setari));
             });
-            QApplication::restoreOverrideCursor();
             if (!fisier.isEmpty()) Deschide(fisier);
         });
 
@@ -167,13 +164,10 @@ void frmRapoarte::Timer1_Timer() {
 }
 
 void frmRapoarte::Construieste() {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    LaMargine(m_, [&] {
-        Grid->Arata(GrilaNoua(p_.setari));
-        Grila g = Raport::Construieste(cboTipRaport->currentIndex(), false, p_.bd, m_, Mediul(), Alegerile());
-        Grid->Arata(std::move(g));
+    Grid->Arata(GrilaNoua(p_.setari));
+    LucruLung([&] {
+        Grid->Arata(Raport::Construieste(cboTipRaport->currentIndex(), false, p_.bd, m_, Mediul(), Alegerile()));
     });
-    QApplication::restoreOverrideCursor();
 }
 
 void frmRapoarte::cmdExport_Click() {
@@ -181,17 +175,15 @@ void frmRapoarte::cmdExport_Click() {
         m_.Informatie(QStringLiteral("Selectati din lista un tip de raport!"));
         return;
     }
-    QApplication::setOverrideCursor(Qt::WaitCursor);
     std::optional<QString> fisier;
-    LaMargine(m_, [&] {
+    LucruLung([&] {
         fisier = Exporta(cboTipRaport->currentIndex(), p_.bd, m_, Mediul(), Alegerile(), FolderExportEfectiv(p_.setari),
                          [this](const Grila& g) { Grid->Arata(g); });
     });
-    QApplication::restoreOverrideCursor();
     if (fisier) Deschide(*fisier);
 }
 
 void frmRapoarte::cmdExportGrid_Click() {
     const QString nume = NumeFisier(cboTipRaport->currentText(), QStringLiteral(".cel"));
-    LaMargine(m_, [&] { SalveazaCel(Grid->Grila(), QDir(FolderExportEfectiv(p_.setari)).filePath(nume)); });
+    LucruLung([&] { SalveazaCel(Grid->Grila(), QDir(FolderExportEfectiv(p_.setari)).filePath(nume)); });
 }

@@ -6,7 +6,6 @@
 #include "store/Program.h"
 #include "ui/UiMargine.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -48,13 +47,11 @@ frmRapoarte2::frmRapoarte2(Program& p, Mesaje& m, QWidget* parinte) : UiFereastr
 
 // The one template wired in, whatever the list shows; a failing template leaves the page shown.
 void frmRapoarte2::cmdOK_Click() {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    LaMargine(m_, [&] {
+    LucruLung([&] {
         const MediuRaport mediu = Mediul();
         Grid->Arata(
             IncarcaSablonXml(p_.bd, CaleSablonXml(mediu.folderBD, mediu.applicationPath), GrilaNoua(p_.setari, true)));
     });
-    QApplication::restoreOverrideCursor();
 }
 
 void frmRapoarte2::cmdExport_Click() {
@@ -63,14 +60,12 @@ void frmRapoarte2::cmdExport_Click() {
         return;
     }
     if (cboTipRaport->currentIndex() != IndexCopii7) return;
-    QApplication::setOverrideCursor(Qt::WaitCursor);
     std::optional<QString> fisier;
-    LaMargine(m_, [&] {
+    LucruLung([&] {
         // This window always wrote that list through the spreadsheet program, whatever the settings say.
         MediuRaport mediu = Mediul();
         mediu.setari.AppWord = 1;
         fisier = Exporta(IndexCopii7, p_.bd, m_, mediu, Alegerile(), FolderExportEfectiv(p_.setari), {});
     });
-    QApplication::restoreOverrideCursor();
     if (fisier) Deschide(*fisier);
 }

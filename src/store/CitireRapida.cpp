@@ -1,6 +1,7 @@
 #include "store/CitireRapida.h"
 
 #include "base/Eroare.h"
+#include "base/Urmarire.h"
 
 #include <QSqlDriver>
 #include <sqlite3.h>
@@ -96,6 +97,8 @@ CitireRapida& CitireRapida::Executa() {
 }
 
 bool CitireRapida::Urmator() {
+    // The rows of a report read over many seconds are what its window shows progress by.
+    if (++citite_ >= semn_) semn_ = citite_ + Urmarire::Avans(citite_);
     if (q_) return q_->Urmator();
     const int rc = sqlite3_step(lite_->stmt);
     if (rc == SQLITE_ROW) return true;

@@ -60,6 +60,7 @@ private:
     std::unique_ptr<Interogare> q_; // PostgreSQL
     mutable std::vector<std::pair<const char*, int>> campuri_;
     mutable size_t urmator_ = 0;
+    qint64 citite_ = 0, semn_ = 0;
     mutable std::vector<QString> texte_; // what Vedere shows where the engine has no text of its own
 };
 

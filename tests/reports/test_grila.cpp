@@ -1,5 +1,6 @@
 #include "base/Bani.h"
 #include "base/Eroare.h"
+#include "base/Urmarire.h"
 #include "reports/Desen.h"
 #include "reports/Grila.h"
 #include "reports/export/Cel.h"
@@ -225,6 +226,34 @@ TEST(Grila, XlsxCuNumereDateSiUniri) {
     EXPECT_NO_THROW(ScrieXlsx(Grila(1048576 + 1, 2), mare));
     EXPECT_THROW(ScrieXlsx(Grila(1048576 + 2, 2), mare), Eroare);
     EXPECT_TRUE(QFile::exists(mare)) << "the earlier file stays as it was";
+}
+
+// A file being written tells its watcher how far it has come, every `pas` rows, of how many; the
+// watcher stops it, the file then absent; nobody hears of the work once the watcher is gone.
+TEST(Grila, ScriereaUrmaritaSiOprita) {
+    using Auzit = std::pair<qint64, qint64>;
+    std::vector<Auzit> auzite;
+    QTemporaryDir dir;
+    const QString fisier = dir.filePath(T("oprit.xlsx"));
+    const Grila g(25, 3);
+    bool opreste = false;
+    {
+        const Urmarire u(
+            [&](qint64 facute, qint64 total) {
+                auzite.push_back({facute, total});
+                return !opreste;
+            },
+            10);
+        Csv(g);
+        EXPECT_EQ(auzite, (std::vector<Auzit>{{0, 24}, {10, 24}, {20, 24}}));
+        opreste = true;
+        EXPECT_THROW(ScrieXlsx(g, fisier), Oprit);
+        EXPECT_FALSE(QFile::exists(fisier));
+    }
+    auzite.clear();
+    ScrieXlsx(g, fisier);
+    EXPECT_TRUE(auzite.empty());
+    EXPECT_TRUE(QFile::exists(fisier));
 }
 
 bool BineFormat(const QString& xml) {

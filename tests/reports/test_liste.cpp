@@ -1,4 +1,6 @@
+#include "base/Urmarire.h"
 #include "reports/Catalog.h"
+#include "reports/builders/ComunListe.h"
 #include "reports/export/Csv.h"
 #include "support/BazaTest.h"
 #include "support/SqlTest.h"
@@ -213,6 +215,28 @@ TEST_P(Liste, SituatiaSiBorderoul) {
     EXPECT_EQ(Construieste(20, false, Bd(), mesaje, mediu, a).Randuri(), 2) << "no status chosen: no rows";
     mediu.applicationPath = Locatie().caleBD;
     EXPECT_THROW(Construieste(20, false, Bd(), mesaje, mediu, a), Eroare);
+}
+
+// A report read under a watcher tells it of the rows read (here, of each), and stops at its asking.
+TEST_P(Liste, CitireaUrmaritaSiOprita) {
+    MediuRaport mediu{Setari{}, T(FEROLANTA_SURSA), {}};
+    Alegeri a;
+    a.luna = 11;
+    a.an = 2026;
+    std::vector<qint64> auzite;
+    {
+        const Urmarire u(
+            [&](qint64 facute, qint64) {
+                auzite.push_back(facute);
+                return facute < 3;
+            },
+            1);
+        EXPECT_THROW(Construieste(0, false, Bd(), mesaje, mediu, a), Oprit);
+    }
+    ASSERT_FALSE(auzite.empty());
+    EXPECT_EQ(auzite.back(), 3);
+    // Unwatched, the whole list: head, four requests (the third has no family of its own number), foot.
+    EXPECT_EQ(Construieste(0, false, Bd(), mesaje, mediu, a).Randuri(), Lista::PrimulRand + 4 + 3);
 }
 
 PE_AMBELE_MOTOARE(Liste);

@@ -3,6 +3,7 @@
 #include "base/Bani.h"
 #include "base/Eroare.h"
 #include "reports/Grila.h"
+#include "base/Urmarire.h"
 #include "reports/export/Fisier.h"
 
 #include <QDate>
@@ -86,7 +87,9 @@ QByteArray Cel(const Grila& g) {
     for (const Dreptunghi& u : g.Uniri())
         uniri.append(QJsonArray{u.rand1, u.col1, u.rand2, u.col2});
     const Celula gol;
-    for (int r = 0; r < g.Randuri(); ++r)
+    int semn = 0;
+    for (int r = 0; r < g.Randuri(); ++r) {
+        if (r >= semn) semn = r + Urmarire::Avans(r, g.Randuri());
         for (int c = 0; c < g.Coloane(); ++c) {
             if (g.EsteGoala(r, c)) continue;
             const Celula x = g.La(r, c);
@@ -103,6 +106,7 @@ QByteArray Cel(const Grila& g) {
             }
             celule.append(o);
         }
+    }
     const QJsonObject radacina{
         {QStringLiteral("format"), Format},
         {QStringLiteral("versiune"), Versiune},

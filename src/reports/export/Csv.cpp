@@ -1,13 +1,16 @@
 #include "reports/export/Csv.h"
 
 #include "reports/Grila.h"
+#include "base/Urmarire.h"
 #include "reports/export/Fisier.h"
 
 namespace Raport {
 
 QByteArray Csv(const Grila& g) {
     QByteArray r;
+    int semn = 0;
     for (int rand = 1; rand < g.Randuri(); ++rand) {
+        if (rand >= semn) semn = rand + Urmarire::Avans(rand - 1, g.Randuri() - 1);
         for (int col = 1; col < g.Coloane(); ++col) {
             if (col > 1) r += ';';
             const std::optional<Dreptunghi> unire = g.UnireLa(rand, col);

@@ -3,6 +3,7 @@
 #include "base/Bani.h"
 #include "base/Eroare.h"
 #include "reports/Grila.h"
+#include "base/Urmarire.h"
 #include "reports/export/Fisier.h"
 #include "reports/export/SpatiiOdf.h"
 
@@ -210,7 +211,9 @@ QByteArray continut(const Grila& g) {
         x.writeEmptyElement(NsTable, QStringLiteral("table-column"));
         x.writeAttribute(NsTable, QStringLiteral("style-name"), QStringLiteral("co%1").arg(c));
     }
+    int semn = 0;
     for (int r = 1; r < g.Randuri(); ++r) {
+        if (r >= semn) semn = r + Urmarire::Avans(r - 1, g.Randuri() - 1);
         x.writeStartElement(NsTable, QStringLiteral("table-row"));
         x.writeAttribute(NsTable, QStringLiteral("style-name"), QStringLiteral("ro%1").arg(r));
         for (int c = 1; c < g.Coloane(); ++c) {
@@ -306,7 +309,7 @@ void ScrieOds(const Grila& g, const QString& fisier) {
             if (qstrcmp(nume, "mimetype") == 0) zip_set_file_compression(z, zip_uint64_t(i), ZIP_CM_STORE, 0);
         }
         // The buffers above live until the archive is closed, which is when it reads them.
-        if (zip_close(z) != 0) throw esec();
+        if (Urmarire::Incheie(g.Randuri() - 1, [z] { return zip_close(z); }) != 0) throw esec();
     });
 }
 

@@ -3,6 +3,7 @@
 #include "base/Bani.h"
 #include "base/Eroare.h"
 #include "reports/Grila.h"
+#include "base/Urmarire.h"
 #include "reports/export/Fisier.h"
 
 #include <QDate>
@@ -213,7 +214,9 @@ void scrieFoaia(const Grila& g, const QString& cale) {
                 for (int c = u.col1; c <= u.col2; ++c)
                     scrieCelula(ws, lxw_row_t(r - 1), lxw_col_t(c - 1), g, r, c, formate.Al(r, c));
         };
+        int semn = 0;
         for (int r = 1; r < g.Randuri(); ++r) {
+            if (r >= semn) semn = r + Urmarire::Avans(r - 1, g.Randuri() - 1);
             verifica(worksheet_set_row_pixels(ws, lxw_row_t(r - 1), uint32_t(g.InaltimeRand(r)), nullptr),
                      QStringLiteral("randul %1").arg(r));
             const auto uniri = uniriPeRand.find(r);
@@ -233,7 +236,7 @@ void scrieFoaia(const Grila& g, const QString& cale) {
         workbook_close(wb);
         throw;
     }
-    verifica(workbook_close(wb), QFileInfo(cale).fileName());
+    verifica(Urmarire::Incheie(g.Randuri() - 1, [wb] { return workbook_close(wb); }), QFileInfo(cale).fileName());
 }
 
 } // namespace
