@@ -1,5 +1,6 @@
 #include "base/Bani.h"
 
+#include <charconv>
 #include <cmath>
 
 namespace {
@@ -101,12 +102,19 @@ Bani Bani::DinVariant(const QVariant& v) {
     }
 }
 
+char* Bani::ScrieText(char* loc) const {
+    const std::uint64_t absolut = unitati_ < 0 ? 0 - std::uint64_t(unitati_) : std::uint64_t(unitati_);
+    if (unitati_ < 0) *loc++ = '-';
+    loc = std::to_chars(loc, loc + 20, absolut / Scala).ptr;
+    *loc++ = '.';
+    for (std::uint64_t zecimale = absolut % Scala, cifra = Scala / 10; cifra > 0; cifra /= 10)
+        *loc++ = char('0' + zecimale / cifra % 10);
+    return loc;
+}
+
 QString Bani::Text() const {
-    const std::int64_t absolut = unitati_ < 0 ? -unitati_ : unitati_;
-    return QStringLiteral("%1%2.%3")
-        .arg(unitati_ < 0 ? QStringLiteral("-") : QString())
-        .arg(absolut / Scala)
-        .arg(absolut % Scala, 4, 10, QLatin1Char('0'));
+    char t[LungimeText];
+    return QString::fromLatin1(t, ScrieText(t) - t);
 }
 
 Bani Bani::Inmultit(const Bani& alt) const {

@@ -30,6 +30,9 @@ public:
 
     constexpr std::int64_t Unitati() const { return unitati_; }
     QString Text() const; // "12.5000": always four decimals, a point
+    // The same text written at `loc`, which has room for LungimeText characters; returns its end.
+    static constexpr int LungimeText = 32;
+    char* ScrieText(char* loc) const;
     double ToDouble() const { return double(unitati_) / Scala; }
 
     // Product of two amounts rounded half to even on the fourth decimal.

@@ -52,12 +52,17 @@ QString FormatSuma(const Bani& suma) {
     return FormatSuma(TextSuma(suma));
 }
 
+char* ScrieTextSuma(const Bani& b, char* loc) {
+    char* sfarsit = b.ScrieText(loc);
+    while (sfarsit[-1] == '0')
+        --sfarsit;
+    if (sfarsit[-1] == '.') --sfarsit;
+    return sfarsit;
+}
+
 QString TextSuma(const Bani& b) {
-    QString t = b.Text();
-    while (t.endsWith(u'0'))
-        t.chop(1);
-    if (t.endsWith(u'.')) t.chop(1);
-    return t;
+    char t[Bani::LungimeText];
+    return QString::fromLatin1(t, ScrieTextSuma(b, t) - t);
 }
 
 std::int64_t RotunjireSus(const Bani& suma) {

@@ -15,6 +15,8 @@ QString FormatSuma(const QString& numar);
 
 // An amount as a text box shows it: no trailing zeros, a point as the mark ("1200.5", "164").
 QString TextSuma(const Bani& b);
+// The same text written at `loc`, which has room for Bani::LungimeText characters; returns its end.
+char* ScrieTextSuma(const Bani& b, char* loc);
 
 // A value with decimals goes to the next whole number above it; a whole value stays.
 std::int64_t RotunjireSus(const Bani& suma);

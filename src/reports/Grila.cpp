@@ -2,6 +2,7 @@
 
 #include "base/Bani.h"
 #include "base/Eroare.h"
+#include "base/Sume.h"
 
 #include <QDate>
 #include <QStringEncoder>
@@ -205,6 +206,14 @@ void Grila::ScrieIntreg(int rand, int col, qint64 n) {
     Loc& l = loc(rand, col);
     l.fel = FelValoare::Intreg;
     puneValoare(l, n);
+}
+
+void Grila::ScrieSuma(int rand, int col, const Bani& suma) {
+    char t[Bani::LungimeText];
+    ScriePiese(rand, col, {QLatin1StringView(t, ScrieTextSuma(suma, t))});
+    Loc& l = loc(rand, col);
+    l.fel = FelValoare::Suma;
+    puneValoare(l, suma.Unitati());
 }
 
 void Grila::CopiazaContinut(int rand, int col, int randSursa, int colSursa) {

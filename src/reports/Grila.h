@@ -16,6 +16,8 @@
 #include <utility>
 #include <vector>
 
+class Bani;
+
 // The report grid as the builders fill it and the view, the printer and the exporters read it: rows
 // and columns with the fixed row 0 and column 0 (content from 1), cells with their text and, for
 // amounts, dates and whole numbers, the typed value that a spreadsheet receives; alignment, font,
@@ -138,6 +140,8 @@ public:
     }
     // A whole number as its text and its value.
     void ScrieIntreg(int rand, int col, qint64 n);
+    // An amount as a text box shows it ("1200.5", "164") and its value.
+    void ScrieSuma(int rand, int col, const Bani& suma);
     // The text and value of another cell, sharing its text rather than writing it again; the look stays.
     void CopiazaContinut(int rand, int col, int randSursa, int colSursa);
 

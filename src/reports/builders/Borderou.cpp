@@ -167,7 +167,7 @@ Grila Borderou(BazaDate& db, Mesaje& m, const Setari& s, const AlegeriBorderou& 
         if (!q.EsteNul(13)) {
             const Bani cuantum = q.Suma(13);
             total += cuantum;
-            g.Scrie(rand, ColoanaSuma, TextSuma(cuantum), QVariant::fromValue(cuantum));
+            g.ScrieSuma(rand, ColoanaSuma, cuantum);
         }
         g.Bordura({rand, 1, rand, ultimaColoana}, Margine::Jos, Linie::Subtire);
         ++rand;
