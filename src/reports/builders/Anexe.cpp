@@ -8,6 +8,7 @@
 #include "base/Texte.h"
 #include "base/Val.h"
 #include "reference/DateReferinta.h"
+#include "reports/builders/ComunListe.h"
 #include "reports/builders/Constructori.h"
 #include "reports/export/SablonOds.h"
 #include "store/BazaDate.h"
@@ -264,45 +265,79 @@ enum Camp {
     cCuantumVechi
 };
 
-QDate DataDin(const QVariant& v) {
-    if (v.isNull()) return {};
-    if (v.typeId() == QMetaType::QDate) return v.toDate();
-    if (v.typeId() == QMetaType::QDateTime) return v.toDateTime().date();
-    return QDate::fromString(v.toString().left(10), Qt::ISODate);
+enum class FelCamp { Numar, Suma, Data, Text };
+
+constexpr FelCamp FelulCampului(int camp) {
+    switch (camp) {
+    case cVenit:
+    case cCuantum:
+    case cCuantumDisp:
+    case cCuantumVechi:
+        return FelCamp::Suma;
+    case cDataStare:
+    case cDataDisp:
+        return FelCamp::Data;
+    case cNrCerere:
+    case cStare:
+    case cNrCopii:
+    case cTipCerere:
+    case cNrDisp:
+        return FelCamp::Numar;
+    default:
+        return FelCamp::Text;
+    }
 }
 
-// A row as read: the query's fields, by Camp.
-using Valori = std::array<QVariant, cCuantumVechi + 1>;
+// A row as read, a field in 8 bytes: a number, an amount's units or a date's day as a number, a
+// text as its place in the rows' store. Tens of thousands of rows of 21 fields stay small.
+struct Valori {
+    std::array<std::uint64_t, cCuantumVechi + 1> c{};
+    std::uint32_t nule = 0; // a bit for each field the engine gave as null
+
+    bool Nul(int camp) const { return nule >> camp & 1U; }
+    qint64 Numar(int camp) const { return qint64(c[size_t(camp)]); }
+    Depozit::Felie Felie(int camp) const {
+        return {std::uint32_t(c[size_t(camp)] >> 32), std::uint32_t(c[size_t(camp)])};
+    }
+};
+
+struct RanduriAnexa {
+    VectorMare<Valori> randuri;
+    Depozit texte;
+
+    QUtf8StringView Text(const Valori& v, int camp) const { return texte[v.Felie(camp)]; }
+};
 
 // Writes a row's cells into the grid: a null field leaves its cell empty.
 class Rand {
 public:
-    Rand(Grila& g, int rand, const Valori& v) : g_(g), rand_(rand), v_(v) {}
+    Rand(Grila& g, int rand, const Valori& v, const Depozit& texte) : g_(g), rand_(rand), v_(v), texte_(texte) {}
 
-    void Text(int col, int camp) { Text(col, v_[size_t(camp)]); }
+    void Text(int col, int camp) {
+        if (!v_.Nul(camp)) g_.ScriePiese(rand_, col, {texte_[v_.Felie(camp)]});
+    }
     void Text(int col, const QVariant& v) {
         if (!v.isNull()) g_.Scrie(rand_, col, v.toString());
     }
     void Intreg(int col, int camp) {
-        if (!v_[size_t(camp)].isNull()) Intreg(col, v_[size_t(camp)].toLongLong());
+        if (!v_.Nul(camp)) Intreg(col, v_.Numar(camp));
     }
-    void Intreg(int col, qint64 n) { g_.Scrie(rand_, col, QString::number(n), n); }
+    void Intreg(int col, qint64 n) { g_.ScrieIntreg(rand_, col, n); }
     void Suma(int col, int camp) {
-        const QVariant& v = v_[size_t(camp)];
-        if (v.isNull()) return;
-        const Bani b = Bani::DinVariant(v);
-        g_.Scrie(rand_, col, TextSuma(b), QVariant::fromValue(b));
+        if (!v_.Nul(camp)) g_.ScrieSuma(rand_, col, Bani::DinUnitati(v_.Numar(camp)));
     }
     void Data(int col, int camp) {
-        const QDate d = DataDin(v_[size_t(camp)]);
-        if (d.isValid()) g_.Scrie(rand_, col, FormatData(d), d);
+        if (v_.Nul(camp)) return;
+        const QDate d = QDate::fromJulianDay(v_.Numar(camp));
+        g_.Scrie(rand_, col, FormatData(d), d);
     }
-    void Marcheaza(int col) { g_.Scrie(rand_, col, QStringLiteral("X")); }
+    void Marcheaza(int col) { g_.ScriePiese(rand_, col, {u"X"}); }
 
 private:
     Grila& g_;
     int rand_;
     const Valori& v_;
+    const Depozit& texte_;
 };
 
 // The streets' post office and postal code, found by name as the street editor compares names
@@ -323,8 +358,9 @@ public:
     }
 
     // Nothing for a family without a street or with one the list doesn't have.
-    const Coduri* Cauta(const QString& strada) {
-        if (strada.isEmpty()) return nullptr;
+    const Coduri* Cauta(QUtf8StringView text) {
+        if (text.isEmpty() || coduri_.isEmpty()) return nullptr;
+        const QString strada = text.toString();
         auto gasit = dupaText_.find(strada);
         if (gasit == dupaText_.end()) {
             const auto c = coduri_.constFind(CheieCautare(strada));
@@ -355,10 +391,10 @@ void ColoaneProprii(Rand& r, const Valori& v, int fel) {
     r.Intreg(17, cNrDisp);
     r.Data(18, cDataDisp);
     r.Data(19, cDataStare);
-    switch (v[cStare].toInt()) {
+    switch (v.Nul(cStare) ? 0 : v.Numar(cStare)) {
     case 7:
     case 8:
-        if (!v[cCuantumVechi].isNull() && Bani::DinVariant(v[cCuantumVechi]) != Bani()) r.Suma(20, cCuantumVechi);
+        if (!v.Nul(cCuantumVechi) && v.Numar(cCuantumVechi) != 0) r.Suma(20, cCuantumVechi);
         r.Suma(21, cCuantumDisp);
         break;
     case 4:
@@ -376,7 +412,7 @@ void ColoaneProprii(Rand& r, const Valori& v, int fel) {
 // The requests of the month, in the chosen order. The rows are kept as read and written into the grid
 // once their number is known, so that the grid is sized once: its cells are many times the size of
 // the values.
-VectorMare<Valori> CitesteRanduri(int fel, BazaDate& db, const Alegeri& a) {
+RanduriAnexa CitesteRanduri(int fel, BazaDate& db, const Alegeri& a) {
     const std::vector<int> stari = Stari(fel);
     QStringList semne;
     for (size_t i = 0; i < stari.size(); ++i)
@@ -405,13 +441,39 @@ VectorMare<Valori> CitesteRanduri(int fel, BazaDate& db, const Alegeri& a) {
     const QDate inceput(a.an, a.luna, 1);
     q.Leaga(inceput).Leaga(inceput.addMonths(1));
     q.Executa();
-    VectorMare<Valori> randuri;
+    RanduriAnexa r;
     while (q.Urmator()) {
-        Valori& v = randuri.emplace_back();
-        for (size_t i = 0; i < v.size(); ++i)
-            v[i] = q.Valoare(int(i));
+        Valori& v = r.randuri.emplace_back();
+        for (int i = 0; i <= cCuantumVechi; ++i) {
+            std::uint64_t& x = v.c[size_t(i)];
+            if (q.EsteNul(i)) {
+                v.nule |= 1U << i;
+                continue;
+            }
+            switch (FelulCampului(i)) {
+            case FelCamp::Numar:
+                x = std::uint64_t(q.Intreg(i));
+                break;
+            case FelCamp::Suma:
+                x = std::uint64_t(q.Suma(i).Unitati());
+                break;
+            case FelCamp::Data: {
+                const QDate d = q.Data(i);
+                if (d.isValid())
+                    x = std::uint64_t(d.toJulianDay());
+                else
+                    v.nule |= 1U << i;
+                break;
+            }
+            case FelCamp::Text: {
+                const Depozit::Felie f = r.texte.Pune(q.Vedere(i));
+                x = std::uint64_t(f.start) << 32 | f.lungime;
+                break;
+            }
+            }
+        }
     }
-    return randuri;
+    return r;
 }
 
 bool OrdineNumericaNr(const Alegeri& a) {
@@ -424,18 +486,21 @@ bool OrdineNumericaNr(const Alegeri& a) {
 // "9"); within each run of rows that tie on the first order they are put in the order of the number's
 // value, the text deciding between equal values ("9", "12", "12A"). Sorting here keeps the engine's
 // own order of the first key.
-void OrdoneazaNumereCasa(VectorMare<Valori>& randuri, int ord1) {
+void OrdoneazaNumereCasa(RanduriAnexa& r, int ord1) {
     const std::vector<int> chei = ord1 == 1   ? std::vector<int>{cNrCerere}
                                   : ord1 == 2 ? std::vector<int>{cNume, cPrenume}
                                               : std::vector<int>{cStrada};
     const auto laFel = [&](const Valori& x, const Valori& y) {
-        return std::all_of(chei.begin(), chei.end(), [&](int c) { return x[size_t(c)] == y[size_t(c)]; });
-    };
-    for (auto inceput = randuri.begin(); inceput != randuri.end();) {
-        const auto sfarsit = std::find_if(inceput, randuri.end(), [&](const Valori& v) { return !laFel(v, *inceput); });
-        std::stable_sort(inceput, sfarsit, [](const Valori& x, const Valori& y) {
-            return Val(x[cNr].toString()) < Val(y[cNr].toString());
+        return std::all_of(chei.begin(), chei.end(), [&](int c) {
+            if (x.Nul(c) || y.Nul(c)) return x.Nul(c) == y.Nul(c);
+            return FelulCampului(c) == FelCamp::Text ? r.Text(x, c) == r.Text(y, c) : x.Numar(c) == y.Numar(c);
         });
+    };
+    const auto numar = [&](const Valori& v) { return v.Nul(cNr) ? Val(QString()) : Val(r.Text(v, cNr).toString()); };
+    for (auto inceput = r.randuri.begin(); inceput != r.randuri.end();) {
+        const auto sfarsit =
+            std::find_if(inceput, r.randuri.end(), [&](const Valori& v) { return !laFel(v, *inceput); });
+        std::stable_sort(inceput, sfarsit, [&](const Valori& x, const Valori& y) { return numar(x) < numar(y); });
         inceput = sfarsit;
     }
 }
@@ -451,14 +516,14 @@ Grila Borderou(int fel, BazaDate& db, const Setari& s, const Alegeri& a, bool fo
     CapTabel(g, fel);
 
     CoduriPostale coduri(db);
-    VectorMare<Valori> randuri = CitesteRanduri(fel, db, a);
-    if (!foaie && OrdineNumericaNr(a)) OrdoneazaNumereCasa(randuri, a.ord1);
+    RanduriAnexa citite = CitesteRanduri(fel, db, a);
+    if (!foaie && OrdineNumericaNr(a)) OrdoneazaNumereCasa(citite, a.ord1);
 
-    const int n = int(randuri.size());
+    const int n = int(citite.randuri.size());
     g.SeteazaRanduri(PrimulRandDate + n + 1);
     for (int i = 0; i < n; ++i) {
-        const Valori& v = randuri[size_t(i)];
-        Rand r(g, PrimulRandDate + i, v);
+        const Valori& v = citite.randuri[size_t(i)];
+        Rand r(g, PrimulRandDate + i, v, citite.texte);
         r.Intreg(1, qint64(i + 1));
         for (const auto& [col, camp] : {std::pair{2, cNume},
                                         {3, cPrenume},
@@ -471,13 +536,13 @@ Grila Borderou(int fel, BazaDate& db, const Setari& s, const Alegeri& a, bool fo
                                         {10, cAp},
                                         {12, cLocalitate}})
             r.Text(col, camp);
-        if (const auto* cod = coduri.Cauta(v[cStrada].toString())) {
+        if (const auto* cod = v.Nul(cStrada) ? nullptr : coduri.Cauta(citite.Text(v, cStrada))) {
             r.Text(13, cod->oficiu);
             r.Text(14, cod->cod);
         }
         r.Intreg(15, cNrCopii);
         // The form's footnote numbers the family kinds the other way round: two parents 2, one parent 1.
-        const int tip = v[cTipCerere].isNull() ? 0 : v[cTipCerere].toInt();
+        const qint64 tip = v.Nul(cTipCerere) ? 0 : v.Numar(cTipCerere);
         if (tip == 1 || tip == 2) r.Intreg(16, qint64(3 - tip));
         ColoaneProprii(r, v, fel);
     }

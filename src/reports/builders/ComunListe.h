@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Eroare.h"
+#include "base/MemorieMare.h"
 #include "reports/Grila.h"
 
 #include <QDate>
@@ -41,6 +43,27 @@ void ScrieAdresa(Grila& g, int rand, int col, QAnyStringView localitate, QAnyStr
 
 // "12 / 03.04.2014  ": the request's number and date, with the two blanks the lists keep.
 QString NrDataCerere(const QVariant& nr, const QDate& data);
+
+// Short texts one after another in one store, each known by its place: the millions of names of a
+// list's rows without a string for each.
+class Depozit {
+public:
+    struct Felie {
+        std::uint32_t start = 0, lungime = 0;
+    };
+    Felie Pune(QAnyStringView text) {
+        const size_t inceput = t_.size();
+        t_.resize(inceput + MarimeUtf8(text));
+        const size_t sfarsit = size_t(PuneUtf8(t_.data() + inceput, text) - t_.data());
+        t_.resize(sfarsit);
+        if (sfarsit > UINT32_MAX) throw Eroare(QStringLiteral("Lista are prea mult text."));
+        return {std::uint32_t(inceput), std::uint32_t(sfarsit - inceput)};
+    }
+    QUtf8StringView operator[](Felie f) const { return QUtf8StringView(t_.data() + f.start, qsizetype(f.lungime)); }
+
+private:
+    VectorMare<char> t_;
+};
 
 struct ColoanaLista {
     QString titlu;
