@@ -1,10 +1,10 @@
 #include "reports/UiFereastraRaport.h"
 
 #include "base/Ceas.h"
+#include "base/Urmarire.h"
 #include "reports/Desen.h"
 #include "reports/Rapoarte.h"
 #include "reports/UiGrila.h"
-#include "base/Urmarire.h"
 #include "store/BazaDate.h"
 #include "store/Program.h"
 #include "ui/UiMargine.h"
@@ -13,19 +13,19 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QElapsedTimer>
-#include <limits>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <limits>
 
 using namespace Raport;
 

@@ -139,9 +139,8 @@ void frmBorderou::cmdOK_Click() {
 void frmBorderou::cmdExport_Click() {
     if (!Alese()) return;
     QString fisier;
-    LucruLung([&] {
-        fisier = ExportaBorderou(p_.bd, m_, p_.setari, AlegerileBorderou(), FolderExportEfectiv(p_.setari));
-    });
+    LucruLung(
+        [&] { fisier = ExportaBorderou(p_.bd, m_, p_.setari, AlegerileBorderou(), FolderExportEfectiv(p_.setari)); });
     if (!fisier.isEmpty()) Deschide(fisier);
 }
 

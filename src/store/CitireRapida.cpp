@@ -177,7 +177,8 @@ QDate CitireRapida::Data(int i) const {
 }
 
 Bani CitireRapida::Suma(int i) const {
-    if (!q_ && sqlite3_column_type(lite_->stmt, i) == SQLITE_INTEGER) return Bani::DinLei(sqlite3_column_int64(lite_->stmt, i));
+    if (!q_ && sqlite3_column_type(lite_->stmt, i) == SQLITE_INTEGER)
+        return Bani::DinLei(sqlite3_column_int64(lite_->stmt, i));
     return Bani::DinVariant(Valoare(i));
 }
 

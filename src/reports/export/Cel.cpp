@@ -2,8 +2,8 @@
 
 #include "base/Bani.h"
 #include "base/Eroare.h"
-#include "reports/Grila.h"
 #include "base/Urmarire.h"
+#include "reports/Grila.h"
 #include "reports/export/Fisier.h"
 
 #include <QDate>

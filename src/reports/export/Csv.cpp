@@ -1,7 +1,7 @@
 #include "reports/export/Csv.h"
 
-#include "reports/Grila.h"
 #include "base/Urmarire.h"
+#include "reports/Grila.h"
 #include "reports/export/Fisier.h"
 
 namespace Raport {
