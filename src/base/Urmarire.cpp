@@ -29,3 +29,16 @@ int Urmarire::Avans(qint64 facute, qint64 total) {
     if (!continua) throw Oprit();
     return u->pas_;
 }
+
+AfisareUrmarire::Afisare AfisareUrmarire::Auzit(qint64 facute, qint64 total) {
+    if (total > 0) {
+        ultimul_ = 0;
+        if (facute >= total) return {QStringLiteral("Se incheie fisierul: %L1 randuri").arg(total)};
+        // The bar counts in thousands, which an int holds for any sheet.
+        return {QStringLiteral("Se scrie fisierul: %L1 din %L2 randuri").arg(facute).arg(total),
+                int(total / 1000) + 1, int(facute / 1000)};
+    }
+    if (facute < ultimul_) inainte_ += ultimul_;
+    ultimul_ = facute;
+    return {QStringLiteral("Se citesc datele raportului: %L1 randuri").arg(inainte_ + facute)};
+}

@@ -2,6 +2,7 @@
 
 #include "base/Eroare.h"
 
+#include <QString>
 #include <QtGlobal>
 #include <chrono>
 #include <functional>
@@ -48,4 +49,18 @@ private:
     int pas_;
     Urmarire* inainte_;
     bool ascultand_ = false; // work that the watcher itself sets off while it hears is not told again
+};
+
+// What a progress window shows of a watched work: the rows that a report's queries read (each counts
+// from one, so they are added up), then the rows of the file being written, then its closing step.
+class AfisareUrmarire {
+public:
+    struct Afisare {
+        QString text;
+        int maxim = 0, valoare = 0; // a maximum of 0: no end known, the bar only moves
+    };
+    Afisare Auzit(qint64 facute, qint64 total);
+
+private:
+    qint64 inainte_ = 0, ultimul_ = 0;
 };

@@ -218,23 +218,12 @@ bool UiFereastraRaport::LucruLung(const std::function<void()>& corp) {
     progres.setMinimumWidth(360);
     QElapsedTimer ceas;
     ceas.start();
-    // A report reads from several queries, each counting from one: the clerk sees their sum.
-    qint64 inainte = 0, ultimul = 0;
+    AfisareUrmarire afisare;
     const Urmarire urmarire([&](qint64 facute, qint64 total) {
-        if (total == 0 && facute < ultimul) inainte += ultimul;
-        ultimul = total == 0 ? facute : 0;
-        if (total > 0 && facute >= total) {
-            progres.setLabelText(QStringLiteral("Se incheie fisierul: %L1 randuri").arg(total));
-            progres.setRange(0, 0);
-        } else if (total > 0) {
-            // The bar counts in thousands, which an int holds for any sheet.
-            progres.setLabelText(QStringLiteral("Se scrie fisierul: %L1 din %L2 randuri").arg(facute).arg(total));
-            progres.setRange(0, int(total / 1000) + 1);
-            progres.setValue(int(facute / 1000));
-        } else {
-            progres.setLabelText(QStringLiteral("Se citesc datele raportului: %L1 randuri").arg(inainte + facute));
-            progres.setRange(0, 0);
-        }
+        const AfisareUrmarire::Afisare a = afisare.Auzit(facute, total);
+        progres.setLabelText(a.text);
+        progres.setRange(0, a.maxim);
+        if (a.maxim > 0) progres.setValue(a.valoare);
         if (!progres.isVisible() && ceas.elapsed() >= 400) progres.show();
         if (progres.isVisible()) QCoreApplication::processEvents();
         return !progres.wasCanceled();

@@ -14,6 +14,7 @@
 #include <QDate>
 #include <QDomDocument>
 #include <QFile>
+#include <QLocale>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 #include <gtest/gtest.h>
@@ -254,6 +255,17 @@ TEST(Grila, ScriereaUrmaritaSiOprita) {
     ScrieXlsx(g, fisier);
     EXPECT_TRUE(auzite.empty());
     EXPECT_TRUE(QFile::exists(fisier));
+
+    // The window adds up the rows of a report's queries, each counting from one; a file's rows fill a
+    // bar in thousands; its closing step has no end to show.
+    AfisareUrmarire afisare;
+    afisare.Auzit(30000, 0);
+    const auto citite = afisare.Auzit(20000, 0);
+    EXPECT_TRUE(citite.text.contains(QLocale().toString(50000)));
+    EXPECT_EQ(citite.maxim, 0);
+    const auto scrise = afisare.Auzit(500000, 1000000);
+    EXPECT_EQ(std::pair(scrise.maxim, scrise.valoare), std::pair(1001, 500));
+    EXPECT_EQ(afisare.Auzit(1000000, 1000000).maxim, 0);
 }
 
 bool BineFormat(const QString& xml) {

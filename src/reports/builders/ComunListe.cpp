@@ -56,10 +56,6 @@ void ScrieAdresa(Grila& g, int rand, int col, QAnyStringView localitate, QAnyStr
     g.ScriePiese(rand, col, std::span(p.data(), PieseAdresa(p, localitate, cuvantStrada, strada, nr, sc, ap)));
 }
 
-QString NrDataCerere(const QVariant& nr, const QDate& data) {
-    return nr.toString() + QStringLiteral(" / ") + FormatData(data) + QStringLiteral("  ");
-}
-
 Lista::Lista(Grila& g, const std::vector<ColoanaLista>& coloane, const PrimarieRaport& p, const QString& titlu,
              bool titluPropriu, int luna, int an)
     : g_(g), coloane_(int(coloane.size())), asSocial_(p.AsSocial) {

@@ -41,9 +41,6 @@ QString AdresaRaport(const QString& localitate, const QString& cuvantStrada, con
 void ScrieAdresa(Grila& g, int rand, int col, QAnyStringView localitate, QAnyStringView cuvantStrada,
                  QAnyStringView strada, QAnyStringView nr, QAnyStringView sc, QAnyStringView ap);
 
-// "12 / 03.04.2014  ": the request's number and date, with the two blanks the lists keep.
-QString NrDataCerere(const QVariant& nr, const QDate& data);
-
 // Short texts one after another in one store, each known by its place: the millions of names of a
 // list's rows without a string for each.
 class Depozit {

@@ -119,13 +119,8 @@ QString Text(const CitireRapida& q, const char* camp) {
     return q.Text(camp);
 }
 
-QVariant Numar(const CitireRapida& q, const char* camp) {
-    return q.EsteNul(camp) ? QVariant() : QVariant(q.Intreg(camp));
-}
-
 QString NumarText(const CitireRapida& q, const char* camp) {
-    const QVariant v = Numar(q, camp);
-    return v.isValid() ? QString::number(v.toLongLong()) : QString();
+    return q.EsteNul(camp) ? QString() : QString::number(q.Intreg(camp));
 }
 
 QString NumePrenume(const CitireRapida& q, const char* nume = "Nume", const char* prenume = "Prenume") {
@@ -148,7 +143,7 @@ void ScrieNumar(Grila& g, int rand, int col, const CitireRapida& q, const char* 
     if (!q.EsteNul(camp)) g.ScrieIntreg(rand, col, q.Intreg(camp));
 }
 
-// "12 / 03.04.2014  ", as NrDataCerere writes it.
+// "12 / 03.04.2014  ": the request's number and date, with the two blanks the lists keep.
 void ScrieNrDataCerere(Grila& g, int rand, int col, const CitireRapida& q) {
     g.ScriePiese(rand, col, {q.Vedere("NrCerere"), u" / ", DataScrisa(q.Data("DataCerere")).Vedere(), u"  "});
 }

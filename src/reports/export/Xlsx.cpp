@@ -10,8 +10,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <string>
 #include <map>
+#include <string>
 #include <unordered_map>
 #include <vector>
 #include <xlsxwriter.h>
